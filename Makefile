@@ -1,0 +1,32 @@
+# Thin wrapper around CMake; see README.md.
+BUILD ?= build
+JOBS ?= $(shell nproc 2>/dev/null || echo 2)
+DATA_DIR ?= $(or $(XDG_DATA_HOME),$(HOME)/.local/share)/fuchs-und-hennen
+
+.PHONY: run test build deps sanitize clean format
+
+deps:
+	@scripts/install-deps
+
+build: deps
+	cmake -S . -B $(BUILD) -DCMAKE_BUILD_TYPE=RelWithDebInfo $(CMAKE_FLAGS)
+	cmake --build $(BUILD) -j $(JOBS)
+
+run: build
+	@mkdir -p "$(DATA_DIR)"
+	cd "$(DATA_DIR)" && "$(CURDIR)/$(BUILD)/src/game/fuchs-und-hennen"
+
+test: build
+	cd $(BUILD) && QT_QPA_PLATFORM=offscreen ctest --output-on-failure -j $(JOBS)
+
+# Every test again under AddressSanitizer and UndefinedBehaviorSanitizer.
+sanitize: deps
+	cmake -S . -B build-asan -DCMAKE_BUILD_TYPE=Debug -DFUH_SANITIZE=ON $(CMAKE_FLAGS)
+	cmake --build build-asan -j $(JOBS)
+	cd build-asan && QT_QPA_PLATFORM=offscreen ASAN_OPTIONS=detect_leaks=0 UBSAN_OPTIONS=halt_on_error=1:print_stacktrace=1 ctest --output-on-failure -j $(JOBS)
+
+format:
+	find src tests -name '*.cpp' -o -name '*.h' | xargs clang-format -i
+
+clean:
+	rm -rf $(BUILD) build-asan

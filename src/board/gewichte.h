@@ -1,0 +1,11 @@
+#pragma once
+// The three square-value tables; constant for the life of the program.
+#include "board/stellung.h"
+
+namespace fuh {
+
+extern const Brettfeld fangwert;       // worth of capturing a hen standing on a square
+extern const Brettfeld fuchsfeldwert;  // worth of a fox standing on a square
+extern const Brettfeld hennenfeldwert; // worth of a hen standing on a square
+
+} // namespace fuh

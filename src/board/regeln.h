@@ -1,0 +1,19 @@
+#pragma once
+// Which moves exist: the geometry of a step or jump, and the judgement of a move the human proposes.
+#include "board/stellung.h"
+
+namespace fuh {
+
+constexpr bool geradeZahl(int x) { return x % 2 == 0; }
+
+// True when the vector (a, b) may be taken from (x, y) and ends on the 7 x 7 grid.
+// Diagonals only from squares whose column and row have the same parity. The cross is not tested.
+constexpr bool korrekt(int x, int y, int a, int b) {
+    return (a != 0 || b != 0) && x + a >= 0 && x + a <= 6 && y + b >= 0 && y + b <= 6 &&
+           (a == 0 || b == 0 || geradeZahl(x) == geradeZahl(y));
+}
+
+// True when the human may move the piece on (x, y) to (x1, y1) now. `PC` is the side the computer plays.
+bool korrekterZug(const Stellung& s, int PC, int x, int y, int x1, int y1);
+
+} // namespace fuh

@@ -1,0 +1,45 @@
+#pragma once
+// The position: board codes, the board array, where each piece stands, and the move register.
+#include <array>
+#include <cstdint>
+#include <optional>
+
+namespace fuh {
+
+// Board arrays are indexed [x][y], x the column 0..6 from the left, y the row 0..6 from the top.
+// Index 7 exists but is never read or written.
+using Brettfeld = std::array<std::array<int16_t, 8>, 8>;
+
+inline constexpr int16_t leer = 1;
+inline constexpr int16_t henne = 2;
+inline constexpr int16_t fuchs = 3;
+
+inline constexpr int kFiguren = 22; // 0 and 1 foxes, 2..21 hens
+inline constexpr int kFelder = 49;  // 7 x 7 squares, each with a drop target
+inline constexpr int kParkfeld = 0; // where a penalised fox waits, off the cross
+
+constexpr int feldX(int s) { return s % 7; }
+constexpr int feldY(int s) { return s / 7; }
+constexpr int feldNummer(int x, int y) { return y * 7 + x; }
+constexpr bool aufGitter(int x, int y) { return x >= 0 && x <= 6 && y >= 0 && y <= 6; }
+constexpr bool imZielfeld(int x, int y) { return x >= 2 && x <= 4 && y >= 0 && y <= 2; }
+constexpr bool aufKreuz(int x, int y) { return aufGitter(x, y) && ((x >= 2 && x <= 4) || (y >= 2 && y <= 4)); }
+
+struct Stellung {
+    Brettfeld Feld{};
+    std::array<int16_t, kFiguren + 1> figurplatz{}; // element 22 is never used
+    int16_t vonX = 0, vonY = 0, nachX = 0, nachY = 0;
+    bool imSprung = false;
+    int16_t sprungX = 0, sprungY = 0;
+
+    // Starting position: foxes on (2, 2) and (4, 2), hens on rows 3 to 6. Leaves sprungX/Y alone.
+    void grundstellung();
+};
+
+// The first piece whose square is `wert`; foxes come first, so square 0 yields a parked fox.
+std::optional<int> figur_index(const Stellung& s, int wert);
+
+// Copies squares 0..6 x 0..6.
+void kopiere(const Brettfeld& von, Brettfeld& nach);
+
+} // namespace fuh

@@ -1,0 +1,26 @@
+#pragma once
+// The game's arithmetic is 16-bit: some values wrap, others saturate.
+#include <algorithm>
+#include <cstdint>
+
+namespace fuh {
+
+// Wraps like the game's 16-bit integers (modular since C++20).
+constexpr int16_t wrap16(int v) { return static_cast<int16_t>(v); }
+
+// Bookings, merge sums and counters stop at the 16-bit limits instead of wrapping.
+constexpr int16_t sat16(int v) { return static_cast<int16_t>(std::clamp(v, -32768, 32767)); }
+
+// Rounds num / den (den > 0) to the nearest integer, halves to the even neighbour.
+constexpr int rundeGerade(int num, int den) {
+    int q = num / den;
+    int r = num % den;
+    if (r < 0) {
+        r += den;
+        --q;
+    }
+    if (2 * r > den || (2 * r == den && (q % 2 != 0))) ++q;
+    return q;
+}
+
+} // namespace fuh

@@ -1,0 +1,76 @@
+#include "board/zug.h"
+
+#include <cstdlib>
+
+#include "board/zahlen.h"
+
+namespace fuh {
+
+namespace {
+constexpr int kGleitschritte = 100;
+}
+
+void gleiten(Figurbilder& bilder, Ansicht& ansicht, int k, int zielLeft, int zielTop) {
+    int16_t L0 = wrap16(bilder.left[k]);
+    int16_t T0 = wrap16(bilder.top[k]);
+    const int16_t dL = wrap16(rundeGerade(wrap16(zielLeft) - L0, kGleitschritte));
+    const int16_t dT = wrap16(rundeGerade(wrap16(zielTop) - T0, kGleitschritte));
+    for (int i = 1; i <= kGleitschritte; ++i) {
+        L0 = wrap16(L0 + dL);
+        T0 = wrap16(T0 + dT);
+        bilder.left[k] = L0;
+        bilder.top[k] = T0;
+        ansicht.figurBewegt(k, L0, T0);
+    }
+}
+
+void zug(Zugumgebung& u, int PC, bool normal) {
+    Stellung& s = u.stellung;
+    auto& Feld = s.Feld;
+    if (!aufGitter(s.vonX, s.vonY) || !aufGitter(s.nachX, s.nachY)) return;
+    const int von = feldNummer(s.vonX, s.vonY);
+    const int k = figur_index(s, von).value_or(0);
+    const int t = feldNummer(s.nachX, s.nachY);
+
+    // The human's own pieces snap into place; the computer's slide.
+    const int16_t figur = Feld[s.vonX][s.vonY];
+    const bool sofort = (figur == fuchs && PC == 1) || (figur == henne && PC == 0);
+    if (sofort) {
+        u.bilder.left[k] = platzLeft(t);
+        u.bilder.top[k] = platzTop(t);
+        u.ansicht.figurBewegt(k, u.bilder.left[k], u.bilder.top[k]);
+    } else {
+        gleiten(u.bilder, u.ansicht, k, platzLeft(t), platzTop(t));
+    }
+    s.figurplatz[k] = static_cast<int16_t>(t);
+    Feld[s.nachX][s.nachY] = Feld[s.vonX][s.vonY];
+    Feld[s.vonX][s.vonY] = leer;
+    u.ansicht.zugAusgefuehrt(s.vonX, s.vonY, s.nachX, s.nachY, normal);
+
+    if (Feld[s.nachX][s.nachY] == henne && imZielfeld(s.nachX, s.nachY)) u.gutschrift.sanktion(1, -1, 0);
+    if (!normal) return;
+
+    const int dx = s.nachX - s.vonX;
+    const int dy = s.nachY - s.vonY;
+    if (std::abs(dx) != 2 && std::abs(dy) != 2) {
+        s.imSprung = false;
+        return;
+    }
+    if (PC == 1) {
+        s.imSprung = true;
+        s.sprungX = s.nachX;
+        s.sprungY = s.nachY;
+        u.ansicht.hinweis(Hinweis::spr_msg, true);
+    }
+    const int mx = s.vonX + dx / 2;
+    const int my = s.vonY + dy / 2;
+    Feld[mx][my] = leer;
+    if (const auto h = figur_index(s, feldNummer(mx, my))) {
+        u.bilder.sichtbar[*h] = false;
+        u.ansicht.figurSichtbar(*h, false);
+        s.figurplatz[*h] = 0;
+    }
+    u.gutschrift.sanktion(-1, 1, 0);
+}
+
+} // namespace fuh

@@ -1,0 +1,84 @@
+#include "game/spiel.h"
+
+#include "dialogs/einstellungsdatei.h"
+#include "dialogs/statistikdatei.h"
+#include "dialogs/statustexte.h"
+#include "memory/satzdatei.h"
+
+namespace fuh {
+
+Spiel::Spiel(Ansicht& ansicht, Zufall& zufall, std::filesystem::path ordner)
+    : ansicht_(ansicht), zufall_(zufall), ordner_(std::move(ordner)), lerndatei_(ordner_),
+      fuchsspieler_(*this), hennenspieler_(*this, fuchsspieler_) {
+    stellung_.grundstellung();
+    bilder_.aufstellen(stellung_);
+}
+
+void Spiel::Form_Load(uint32_t sekundenSeitMitternacht) {
+    init();
+    zufall_.setzen(sekundenSeitMitternacht);
+    sperren(false);
+}
+
+void Spiel::init() {
+    if (festeEinstellungen_)
+        oeff_.einst = *festeEinstellungen_;
+    else
+        einstellungenLesen(ordner_, oeff_.einst);
+    oeff_.score = 0;
+    oeff_.u_is_sieger = "    ";
+    oeff_.fuchs_null = false;
+    stellung_.vonX = stellung_.vonY = stellung_.nachX = stellung_.nachY = 0;
+    oeff_.sw_spielende = false;
+    stellung_.grundstellung();
+    partie_.spielzug = 0;
+    statusTexte();
+}
+
+void Spiel::statusTexte() {
+    if (const auto text = pcStatustext(oeff_.einst.PC)) ansicht_.status(1, *text);
+    if (const auto text = staerkeStatustext(oeff_.einst.Staerke)) ansicht_.status(2, *text);
+}
+
+void Spiel::Neu_Click() {
+    init();
+    meldeSchreibfehler(spielGestartet(ordner_), kStatistikdatei);
+    bilder_.aufstellen(stellung_);
+    for (int k = 0; k < kFiguren; ++k) {
+        ansicht_.figurBewegt(k, bilder_.left[k], bilder_.top[k]);
+        ansicht_.figurSichtbar(k, true);
+    }
+    sperren(true);
+    endeGefunden_ = false;
+    letztesErgebnis_ = 0;
+    // A jump sequence of the last game is over; its prompt must not linger.
+    ansicht_.hinweis(Hinweis::spr_msg, false);
+    spielBeginnen();
+}
+
+void Spiel::sperren(bool ziehbar) {
+    bilder_.ziehbar = ziehbar;
+    ansicht_.figurenZiehbar(ziehbar);
+}
+
+void Spiel::einstellungenUebernehmen(const Einstellungen& e) { oeff_.einst = e; }
+
+void Spiel::einstellungenFestlegen(const Einstellungen& e) {
+    festeEinstellungen_ = e;
+    oeff_.einst = e;
+}
+
+void Spiel::meldeSchreibfehler(bool ok, const char* datei) {
+    if (!ok) ansicht_.meldung(schreibfehler(datei));
+}
+
+int16_t Spiel::erinnern(const Brettfeld& feld, int16_t figur) {
+    return lerndatei_.erinnern(feld, figur, oeff_.einst.Staerke, partie_);
+}
+
+void Spiel::zug(bool normal) {
+    Zugumgebung u{stellung_, bilder_, ansicht_, *this};
+    fuh::zug(u, oeff_.einst.PC, normal);
+}
+
+} // namespace fuh

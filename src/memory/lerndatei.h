@@ -1,0 +1,39 @@
+#pragma once
+// The learned-move files "QZ2.DAT" and "QZ3.DAT": 15-byte records of a position code and two values.
+#include <cstdint>
+#include <filesystem>
+
+#include "memory/partie.h"
+#include "memory/satzdatei.h"
+
+namespace fuh {
+
+inline constexpr int kLernsatz = 15;             // bytes per record
+inline constexpr int kHoechsteSaetze = 32767;    // the merge counts records in 16 bits
+inline constexpr int16_t kWiederholung = -500;   // learned value of a position that repeats a recent one
+inline constexpr int kWiederholungsTiefe = 6;    // how many recent positions count as a repetition
+
+// Staerke 1 learns into "QZ2.DAT", every other value into "QZ3.DAT".
+const char* lerndateiName(int Staerke);
+
+class Lerndatei {
+  public:
+    explicit Lerndatei(std::filesystem::path ordner) : ordner_(std::move(ordner)) {}
+
+    struct Merge {
+        int16_t neueZuege = 0; // records appended
+        bool geschrieben = true;
+    };
+    // Merges the game's records into the file of the strength: the first record matching the code or
+    // its spiegelcode is updated, an unknown position is appended.
+    Merge speichern(const Partie& partie, int Staerke) const;
+
+    // The learned value of the position for the side `figur` (0 when unknown; no file at strength 1),
+    // or -500 when it repeats one of the last six recorded positions.
+    int16_t erinnern(const Brettfeld& Feld, int16_t figur, int Staerke, const Partie& partie) const;
+
+  private:
+    std::filesystem::path ordner_;
+};
+
+} // namespace fuh

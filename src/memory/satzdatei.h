@@ -1,0 +1,35 @@
+#pragma once
+// Small data files of fixed-length records with 16-bit little-endian fields.
+// Each operation opens, reads or writes, and closes; whole files are replaced through a temporary
+// file, so a failed write never leaves a truncated or half-written file behind.
+#include <cstdint>
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace fuh {
+
+using Bytes = std::vector<uint8_t>;
+
+// The file `name` in `ordner`; an existing file whose name differs only in case is the same file.
+std::filesystem::path datenpfad(const std::filesystem::path& ordner, const std::string& name);
+
+// Whole content; a missing file is created empty first. nullopt when it cannot be opened or created.
+// At most `hoechstens` bytes are read.
+std::optional<Bytes> dateiLesen(const std::filesystem::path& pfad, std::size_t hoechstens = SIZE_MAX);
+
+// Replaces the file with `inhalt` atomically. False when it cannot be written; the old file stays.
+bool dateiSchreiben(const std::filesystem::path& pfad, const Bytes& inhalt);
+
+// Signed 16-bit little-endian field at `pos`; bytes past the end read as 0.
+int16_t le16(const Bytes& b, std::size_t pos);
+// Writes a 16-bit little-endian field, growing `b` with zeros when needed.
+void setzeLe16(Bytes& b, std::size_t pos, int16_t wert);
+// Writes raw bytes at `pos`, growing `b` with zeros when needed.
+void setzeBytes(Bytes& b, std::size_t pos, const uint8_t* daten, std::size_t n);
+
+// The message shown when a file cannot be written.
+std::string schreibfehler(const std::string& name);
+
+} // namespace fuh

@@ -1,0 +1,122 @@
+#include "player/hennenspieler.h"
+
+#include "board/gewichte.h"
+#include "board/regeln.h"
+#include "board/zahlen.h"
+#include "player/strafregel.h"
+
+namespace fuh {
+
+namespace {
+constexpr int kLernfaktor = 10;
+}
+
+void Hennenspieler::psTopsfig() { kopiere(tisch_.spielstellung().Feld, psfig_); }
+
+int Hennenspieler::hzugmoglich(int x, int y) const {
+    int ergebnis = 0;
+    for (int dx = -1; dx <= 1; ++dx)
+        for (int dy = 0; dy <= 1; ++dy)
+            if (korrekt(x, y, dx, dy) && psfig_[x + dx][y + dy] == henne) ergebnis = 1;
+    return ergebnis;
+}
+
+int Hennenspieler::hbedroht(int x, int y) const {
+    int ergebnis = 0;
+    for (int dx = -1; dx <= 1; ++dx)
+        for (int dy = -1; dy <= 1; ++dy)
+            if (korrekt(x, y, dx, dy) && psfig_[x + dx][y + dy] == fuchs && aufGitter(x - dx, y - dy) &&
+                psfig_[x - dx][y - dy] == leer)
+                ergebnis = 1;
+    return ergebnis;
+}
+
+void Hennenspieler::hstatusScan(int k) {
+    const int m = tisch_.erinnern(psfig_, henne);
+    int s1 = 0, s3 = 0;
+    for (int x = 0; x <= 6; ++x)
+        for (int y = 0; y <= 6; ++y) {
+            if (psfig_[x][y] == henne) s1 += hennenfeldwert[x][y];
+            if (psfig_[x][y] == leer && hzugmoglich(x, y) == 1 && hbedroht(x, y) == 0) s3 += hennenfeldwert[x][y];
+        }
+    hstatus_[k].lage = wrap16(kLernfaktor * m + s1);
+    hstatus_[k].raum = wrap16(kLernfaktor * m + s3);
+}
+
+void Hennenspieler::hzugauswahl(int n) {
+    int w = 0;
+    // Stage 1: keep at least the present position's worth.
+    int best = hstatus_[0].lage, anzahl = 0;
+    for (int j = 1; j < n; ++j) {
+        if (hstatus_[j].lage == best) {
+            ++anzahl;
+            w = j;
+        }
+        if (hstatus_[j].lage > best) {
+            best = hstatus_[j].lage;
+            anzahl = 1;
+            w = j;
+        }
+    }
+    // Stages 2 and 3: the most safe room, among the tied rows or, failing those, among all rows.
+    if (anzahl != 1) {
+        const bool unterGleichen = anzahl > 1;
+        auto zaehlt = [&](int j) { return !unterGleichen || hstatus_[j].lage == best; };
+        int best2 = 0, anzahl2 = 0;
+        for (int j = 1; j < n; ++j) {
+            if (!zaehlt(j)) continue;
+            if (hstatus_[j].raum == best2) {
+                ++anzahl2;
+                w = j;
+            }
+            if (hstatus_[j].raum > best2) {
+                best2 = hstatus_[j].raum;
+                anzahl2 = 1;
+                w = j;
+            }
+        }
+        if (anzahl2 > 1) {
+            const int r = tisch_.ziehe(anzahl2);
+            for (int j = 1, gezaehlt = 0; j < n; ++j)
+                if (zaehlt(j) && hstatus_[j].raum == best2 && ++gezaehlt == r) {
+                    w = j;
+                    break;
+                }
+        }
+    }
+    Stellung& s = tisch_.spielstellung();
+    s.vonX = hzuege_[w][0];
+    s.vonY = hzuege_[w][1];
+    s.nachX = hzuege_[w][2];
+    s.nachY = hzuege_[w][3];
+}
+
+void Hennenspieler::berechneHennen() {
+    tisch_.hinweis(Hinweis::h_zug, true);
+    strafregel(tisch_, psfig_);
+
+    psTopsfig();
+    hstatusScan(0);
+    const Brettfeld& Feld = tisch_.spielstellung().Feld;
+    int k = 1;
+    for (int x = 0; x <= 6; ++x)
+        for (int y = 0; y <= 6; ++y)
+            for (int dx = -1; dx <= 1; ++dx)
+                for (int dy = -1; dy <= 0; ++dy)
+                    if (k <= kHennenzuege && korrekt(x, y, dx, dy) && Feld[x + dx][y + dy] == leer &&
+                        Feld[x][y] == henne) {
+                        psTopsfig();
+                        psfig_[x][y] = leer;
+                        psfig_[x + dx][y + dy] = henne;
+                        fuchs_.berechneFuchs(true, psfig_);
+                        hstatusScan(k);
+                        hzuege_[k] = {static_cast<int16_t>(x), static_cast<int16_t>(y),
+                                      static_cast<int16_t>(x + dx), static_cast<int16_t>(y + dy)};
+                        ++k;
+                    }
+    hzugauswahl(k);
+    if (!(tisch_.spielstellung().nachX == 0 && tisch_.spielstellung().nachY == 0)) tisch_.zug(true);
+    tisch_.hinweis(Hinweis::h_zug, false);
+}
+
+} // namespace fuh

@@ -1,0 +1,29 @@
+#pragma once
+// A view without a window: it writes the game's events to a log.
+#include <ostream>
+
+#include "board/ansicht.h"
+#include "dialogs/oeffentlich.h"
+
+namespace fuh {
+
+class ProtokollAnsicht : public Ansicht {
+  public:
+    // `spiel` is read when a high-score list would open; `aus` is null when nothing is logged.
+    ProtokollAnsicht(const Oeffentlich*& spiel, std::ostream* aus) : spiel_(spiel), aus_(aus) {}
+
+    void figurBewegt(int, int, int) override {}
+    void figurSichtbar(int, bool) override {}
+    void figurenZiehbar(bool) override {}
+    void hinweis(Hinweis, bool) override {}
+    void status(int, const std::string&) override {}
+    void meldung(const std::string& text) override;
+    void oeffnen(Fenster f) override;
+    void zugAusgefuehrt(int vonX, int vonY, int nachX, int nachY, bool normal) override;
+
+  private:
+    const Oeffentlich*& spiel_;
+    std::ostream* aus_;
+};
+
+} // namespace fuh

@@ -1,0 +1,30 @@
+// selbstspiel: the game without a window, for tests, learning runs and benchmarks.
+#include <chrono>
+#include <ctime>
+#include <filesystem>
+#include <iostream>
+
+#include "tools/selbstspiel_lauf.h"
+
+namespace {
+uint32_t sekundenSeitMitternacht() {
+    const std::time_t jetzt = std::time(nullptr);
+    std::tm lokal{};
+    localtime_r(&jetzt, &lokal);
+    return static_cast<uint32_t>(lokal.tm_hour * 3600 + lokal.tm_min * 60 + lokal.tm_sec);
+}
+} // namespace
+
+int main(int argc, char** argv) {
+    std::ios::sync_with_stdio(false);
+    std::string fehler;
+    const auto optionen = fuh::optionenLesen(std::vector<std::string>(argv + 1, argv + argc), fehler);
+    if (!optionen) {
+        std::cerr << "selbstspiel: " << fehler << '\n';
+        return 2;
+    }
+    fuh::selbstspiel(*optionen, optionen->seed.value_or(sekundenSeitMitternacht()), std::filesystem::current_path(),
+                     std::cout);
+    std::cout.flush();
+    return 0;
+}

@@ -1,0 +1,77 @@
+#include "tools/selbstspiel_lauf.h"
+
+#include <vector>
+
+#include "board/regeln.h"
+#include "game/spiel.h"
+#include "tools/protokoll_ansicht.h"
+
+namespace fuh {
+
+namespace {
+// One thing the random human can do: drop piece k on square t, or press the right button (t < 0).
+struct Kandidat {
+    int k;
+    int t;
+};
+
+std::vector<Kandidat> kandidaten(const Spiel& spiel) {
+    std::vector<Kandidat> liste;
+    const Stellung& s = spiel.stellung();
+    const int PC = spiel.oeffentlich().einst.PC;
+    for (int k = 0; k < kFiguren; ++k) {
+        const int von = s.figurplatz[k];
+        if (von == 0) continue;
+        for (int t = 0; t < kFelder; ++t)
+            if (korrekterZug(s, PC, feldX(von), feldY(von), feldX(t), feldY(t))) liste.push_back({k, t});
+    }
+    if (s.imSprung) liste.push_back({0, -1});
+    return liste;
+}
+
+// The human's turns and the timer's replies alternate until an end is announced. False: abandoned.
+bool menschSpielt(Spiel& spiel, Zufall& zufall) {
+    while (!spiel.endeGefunden()) {
+        const auto liste = kandidaten(spiel);
+        if (liste.empty()) return false;
+        const Kandidat c = liste[static_cast<std::size_t>(zufall.ziehe(static_cast<int>(liste.size())) - 1)];
+        if (c.t < 0)
+            spiel.figur_MouseDown(c.k, 2);
+        else
+            spiel.platz_DragDrop(c.t, c.k);
+        if (!spiel.endeGefunden()) spiel.Timer1_Timer();
+    }
+    return true;
+}
+} // namespace
+
+Summe selbstspiel(const Optionen& o, uint32_t seed, const std::filesystem::path& ordner, std::ostream& aus) {
+    Summe summe;
+    if (o.spiele > 0) {
+        Zufall zufall(seed);
+        const Oeffentlich* oeffentlich = nullptr;
+        ProtokollAnsicht ansicht(oeffentlich, o.protokoll ? &aus : nullptr);
+        Spiel spiel(ansicht, zufall, ordner);
+        oeffentlich = &spiel.oeffentlich();
+        Einstellungen e;
+        e.PC = static_cast<int16_t>(o.pc);
+        e.Staerke = static_cast<int16_t>(o.staerke - 1);
+        e.Lernmodus = o.lernen ? 1 : 0;
+        spiel.einstellungenFestlegen(e);
+        for (uint64_t n = 1; n <= o.spiele; ++n) {
+            if (o.protokoll) aus << "spiel " << n << '\n';
+            spiel.Neu_Click();
+            bool beendet = spiel.endeGefunden();
+            if (!beendet && o.pc != 2) beendet = menschSpielt(spiel, zufall);
+            const int16_t ergebnis = beendet ? spiel.letztesErgebnis() : int16_t{0};
+            if (o.protokoll) aus << "ende " << ergebnis << ' ' << spiel.spielzug() << '\n';
+            ++summe.spiele;
+            ++summe.nachErgebnis[ergebnis >= 0 && ergebnis <= 3 ? ergebnis : 0];
+        }
+    }
+    aus << "summe " << summe.spiele << ' ' << summe.nachErgebnis[1] << ' ' << summe.nachErgebnis[2] << ' '
+        << summe.nachErgebnis[3] << ' ' << summe.nachErgebnis[0] << '\n';
+    return summe;
+}
+
+} // namespace fuh

@@ -1,0 +1,20 @@
+#pragma once
+// Plays whole games without a window: the computer against itself or against a random human.
+#include <array>
+#include <cstdint>
+#include <filesystem>
+#include <ostream>
+
+#include "tools/selbstspiel_optionen.h"
+
+namespace fuh {
+
+struct Summe {
+    uint64_t spiele = 0;
+    std::array<uint64_t, 4> nachErgebnis{}; // 0 abandoned, 1 hens, 2 foxes, 3 draw
+};
+
+// Runs the games in `ordner`; the log goes to `aus` when the options ask for it, the summary always.
+Summe selbstspiel(const Optionen& o, uint32_t seed, const std::filesystem::path& ordner, std::ostream& aus);
+
+} // namespace fuh
