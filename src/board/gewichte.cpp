@@ -8,7 +8,8 @@ using Zeilen = std::array<std::array<int16_t, 7>, 7>; // written row by row, as 
 constexpr Brettfeld nachSpalten(const Zeilen& z) {
     Brettfeld b{};
     for (int y = 0; y < 7; ++y)
-        for (int x = 0; x < 7; ++x) b[x][y] = z[y][x];
+        for (int x = 0; x < 7; ++x)
+            b[x][y] = z[y][x];
     return b;
 }
 } // namespace

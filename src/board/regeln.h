@@ -4,7 +4,9 @@
 
 namespace fuh {
 
-constexpr bool geradeZahl(int x) { return x % 2 == 0; }
+constexpr bool geradeZahl(int x) {
+    return x % 2 == 0;
+}
 
 // True when the vector (a, b) may be taken from (x, y) and ends on the 7 x 7 grid.
 // Diagonals only from squares whose column and row have the same parity. The cross is not tested.

@@ -9,14 +9,16 @@ constexpr std::array<int16_t, kFiguren> kStartplaetze = {16, 18, 21, 22, 23, 24,
 
 void Stellung::grundstellung() {
     for (int x = 0; x < 8; ++x)
-        for (int y = 0; y < 8; ++y) Feld[x][y] = 0;
+        for (int y = 0; y < 8; ++y)
+            Feld[x][y] = 0;
     for (int x = 0; x <= 6; ++x)
         for (int y = 0; y <= 6; ++y)
             if (aufKreuz(x, y)) Feld[x][y] = y >= 3 ? henne : leer;
     Feld[2][2] = fuchs;
     Feld[4][2] = fuchs;
     figurplatz.fill(0);
-    for (int k = 0; k < kFiguren; ++k) figurplatz[k] = kStartplaetze[k];
+    for (int k = 0; k < kFiguren; ++k)
+        figurplatz[k] = kStartplaetze[k];
     imSprung = false;
 }
 
@@ -28,7 +30,8 @@ std::optional<int> figur_index(const Stellung& s, int wert) {
 
 void kopiere(const Brettfeld& von, Brettfeld& nach) {
     for (int x = 0; x <= 6; ++x)
-        for (int y = 0; y <= 6; ++y) nach[x][y] = von[x][y];
+        for (int y = 0; y <= 6; ++y)
+            nach[x][y] = von[x][y];
 }
 
 } // namespace fuh

@@ -18,12 +18,24 @@ inline constexpr int kFiguren = 22; // 0 and 1 foxes, 2..21 hens
 inline constexpr int kFelder = 49;  // 7 x 7 squares, each with a drop target
 inline constexpr int kParkfeld = 0; // where a penalised fox waits, off the cross
 
-constexpr int feldX(int s) { return s % 7; }
-constexpr int feldY(int s) { return s / 7; }
-constexpr int feldNummer(int x, int y) { return y * 7 + x; }
-constexpr bool aufGitter(int x, int y) { return x >= 0 && x <= 6 && y >= 0 && y <= 6; }
-constexpr bool imZielfeld(int x, int y) { return x >= 2 && x <= 4 && y >= 0 && y <= 2; }
-constexpr bool aufKreuz(int x, int y) { return aufGitter(x, y) && ((x >= 2 && x <= 4) || (y >= 2 && y <= 4)); }
+constexpr int feldX(int s) {
+    return s % 7;
+}
+constexpr int feldY(int s) {
+    return s / 7;
+}
+constexpr int feldNummer(int x, int y) {
+    return y * 7 + x;
+}
+constexpr bool aufGitter(int x, int y) {
+    return x >= 0 && x <= 6 && y >= 0 && y <= 6;
+}
+constexpr bool imZielfeld(int x, int y) {
+    return x >= 2 && x <= 4 && y >= 0 && y <= 2;
+}
+constexpr bool aufKreuz(int x, int y) {
+    return aufGitter(x, y) && ((x >= 2 && x <= 4) || (y >= 2 && y <= 4));
+}
 
 struct Stellung {
     Brettfeld Feld{};

@@ -6,10 +6,14 @@
 namespace fuh {
 
 // Wraps like the game's 16-bit integers (modular since C++20).
-constexpr int16_t wrap16(int v) { return static_cast<int16_t>(v); }
+constexpr int16_t wrap16(int v) {
+    return static_cast<int16_t>(v);
+}
 
 // Bookings, merge sums and counters stop at the 16-bit limits instead of wrapping.
-constexpr int16_t sat16(int v) { return static_cast<int16_t>(std::clamp(v, -32768, 32767)); }
+constexpr int16_t sat16(int v) {
+    return static_cast<int16_t>(std::clamp(v, -32768, 32767));
+}
 
 // Rounds num / den (den > 0) to the nearest integer, halves to the even neighbour.
 constexpr int rundeGerade(int num, int den) {

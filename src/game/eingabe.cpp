@@ -5,7 +5,7 @@
 namespace fuh {
 
 void Spiel::platz_DragDrop(int t, int k) {
-    if (t < 0 || t >= kFelder || k < 0 || k >= kFiguren) return;
+    if (!bilder_.ziehbar || t < 0 || t >= kFelder || k < 0 || k >= kFiguren) return;
     Stellung& s = stellung_;
     const int von = s.figurplatz[k];
     s.vonX = static_cast<int16_t>(feldX(von));

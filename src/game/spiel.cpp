@@ -61,7 +61,9 @@ void Spiel::sperren(bool ziehbar) {
     ansicht_.figurenZiehbar(ziehbar);
 }
 
-void Spiel::einstellungenUebernehmen(const Einstellungen& e) { oeff_.einst = e; }
+void Spiel::einstellungenUebernehmen(const Einstellungen& e) {
+    oeff_.einst = e;
+}
 
 void Spiel::einstellungenFestlegen(const Einstellungen& e) {
     festeEinstellungen_ = e;

@@ -28,7 +28,7 @@ class Spiel : private Spieltisch, private Gutschrift {
     void Form_Load(uint32_t sekundenSeitMitternacht); // initialise, seed the random source, lock pieces
     void Neu_Click();
     void start_Click() { Neu_Click(); }
-    void platz_DragDrop(int t, int k); // piece k dropped on the target of square t
+    void platz_DragDrop(int t, int k);       // piece k dropped on the target of square t
     void figur_MouseDown(int k, int button); // button 1 left, 2 right
     void Timer1_Timer();
 

@@ -22,6 +22,11 @@ bool Spiel::endecheck(int16_t figur) {
         ergebnis = true;
         endeGefunden_ = true;
         letztesErgebnis_ = ergebnis_;
+        // A jump sequence cannot go on after the end; its prompt would only invite a reply.
+        if (stellung_.imSprung) {
+            stellung_.imSprung = false;
+            ansicht_.hinweis(Hinweis::spr_msg, false);
+        }
     }
     const auto p = punkte();
     ansicht_.status(3, "Punkte: " + (p ? std::to_string(*p) : std::string()));
@@ -60,9 +65,14 @@ std::optional<int16_t> Spiel::punkte() {
         for (int y = 0; y <= 6; ++y)
             if (stellung_.Feld[x][y] == henne) s += hennenfeldwert[x][y];
     switch (oeff_.einst.PC) {
-    case 0: oeff_.score = wrap16(s); return oeff_.score;
-    case 1: oeff_.score = wrap16(kHoechstpunkte - s); return oeff_.score;
-    default: return std::nullopt;
+    case 0:
+        oeff_.score = wrap16(s);
+        return oeff_.score;
+    case 1:
+        oeff_.score = wrap16(kHoechstpunkte - s);
+        return oeff_.score;
+    default:
+        return std::nullopt;
     }
 }
 

@@ -19,7 +19,8 @@ int satzzahl(std::size_t laenge) {
 bool codePasst(const Bytes& b, int r, const Code& p, const Code& m) {
     Code c{};
     const std::size_t start = static_cast<std::size_t>(r) * kLernsatz;
-    for (std::size_t i = 0; i < c.size(); ++i) c[i] = start + i < b.size() ? b[start + i] : 0;
+    for (std::size_t i = 0; i < c.size(); ++i)
+        c[i] = start + i < b.size() ? b[start + i] : 0;
     return c == p || c == m;
 }
 
@@ -30,7 +31,9 @@ int findeSatz(const Bytes& b, int n, const Code& p, const Code& m) {
 }
 } // namespace
 
-const char* lerndateiName(int Staerke) { return Staerke == 1 ? "QZ2.DAT" : "QZ3.DAT"; }
+const char* lerndateiName(int Staerke) {
+    return Staerke == 1 ? "QZ2.DAT" : "QZ3.DAT";
+}
 
 Lerndatei::Merge Lerndatei::speichern(const Partie& partie, int Staerke) const {
     const auto pfad = datenpfad(ordner_, lerndateiName(Staerke));
@@ -75,7 +78,8 @@ int16_t Lerndatei::erinnern(const Brettfeld& Feld, int16_t figur, int Staerke, c
         }
     }
     for (int k = 1; k <= kWiederholungsTiefe; ++k)
-        if (partie.spielzug >= k && partie.spielzug - k < kSituationen && partie.sits[partie.spielzug - k].code == p)
+        if (partie.spielzug >= k && partie.spielzug - k < kSituationen &&
+            partie.sits[partie.spielzug - k].code == p)
             ergebnis = kWiederholung;
     return ergebnis;
 }

@@ -8,10 +8,10 @@
 
 namespace fuh {
 
-inline constexpr int kLernsatz = 15;             // bytes per record
-inline constexpr int kHoechsteSaetze = 32767;    // the merge counts records in 16 bits
-inline constexpr int16_t kWiederholung = -500;   // learned value of a position that repeats a recent one
-inline constexpr int kWiederholungsTiefe = 6;    // how many recent positions count as a repetition
+inline constexpr int kLernsatz = 15;           // bytes per record
+inline constexpr int kHoechsteSaetze = 32767;  // the merge counts records in 16 bits
+inline constexpr int16_t kWiederholung = -500; // learned value of a position that repeats a recent one
+inline constexpr int kWiederholungsTiefe = 6;  // how many recent positions count as a repetition
 
 // Staerke 1 learns into "QZ2.DAT", every other value into "QZ3.DAT".
 const char* lerndateiName(int Staerke);

@@ -24,10 +24,12 @@ void Partie::sanktion(int16_t H, int16_t F, int16_t q) {
     };
     const int letzter = std::min<int>(spielzug, kSituationen) - 1;
     if (q == 1) {
-        for (int i = letzter; i >= 0; --i) buche(i);
+        for (int i = letzter; i >= 0; --i)
+            buche(i);
         return;
     }
-    for (int i = letzter; i >= 1 && i >= spielzug - 5; --i) buche(i);
+    for (int i = letzter; i >= 1 && i >= spielzug - 5; --i)
+        buche(i);
 }
 
 } // namespace fuh

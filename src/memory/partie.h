@@ -15,7 +15,7 @@ struct Situation {
     int16_t sprung = 0; // 1 when the move that produced the position was a jump
 };
 
-inline constexpr int kSituationen = 151; // records 0..150
+inline constexpr int kSituationen = 151;   // records 0..150
 inline constexpr int kZugbegrenzung = 149; // the game is drawn when this many positions are recorded
 
 struct Partie {

@@ -32,7 +32,8 @@ Code positionscode(const Brettfeld& Feld) {
 
 Code spiegelcode(const Code& c) {
     Code m{};
-    for (int i = 0; i < 7; ++i) m[i] = c[6 - i];
+    for (int i = 0; i < 7; ++i)
+        m[i] = c[6 - i];
     m[7] = c[9];
     m[8] = c[10];
     m[9] = c[7];

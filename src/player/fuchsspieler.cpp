@@ -20,10 +20,14 @@ constexpr int kFangVorHennenreihe = 8; // launch squares above a hen are worth m
 int fangbonus(int x, int y) {
     if (x < 2 || x > 4) return 0;
     switch (y) {
-    case 0: return 60;
-    case 1: return 40;
-    case 2: return 10;
-    default: return 0;
+    case 0:
+        return 60;
+    case 1:
+        return 40;
+    case 2:
+        return 10;
+    default:
+        return 0;
     }
 }
 } // namespace
@@ -61,7 +65,8 @@ void Fuchsspieler::scan(int x, int y, const Brettfeld& Feld, int i) {
 int Fuchsspieler::scanpots(int stufe, const Brettfeld& Feld) {
     int ergebnis = 0;
     if (stufe == 0) {
-        for (auto& spalte : pots_) spalte.fill(0);
+        for (auto& spalte : pots_)
+            spalte.fill(0);
         for (int x = 0; x <= 6; ++x)
             for (int y = 0; y <= 6; ++y) {
                 if (Feld[x][y] != leer) continue;
@@ -97,8 +102,7 @@ bool Fuchsspieler::zugDa(int x, int y, int i) {
     for (int dx = -1; dx <= 1; ++dx)
         for (int dy = -1; dy <= 1; ++dy) {
             if (korrekt(x, y, dx, dy) && pots_[x + dx][y + dy] > 0) {
-                eintrag(i,
-                        fuchsfeldwert[x + dx][y + dy] - fuchsfeldwert[x][y] + pots_[x + dx][y + dy], x, y,
+                eintrag(i, fuchsfeldwert[x + dx][y + dy] - fuchsfeldwert[x][y] + pots_[x + dx][y + dy], x, y,
                         x + dx, y + dy);
                 ergebnis = true;
             }
@@ -117,7 +121,9 @@ void Fuchsspieler::zugLeer(int x, int y, int i, const Brettfeld& Feld) {
         }
 }
 
-void Fuchsspieler::trans() { kopiere(tisch_.spielstellung().Feld, psffig_); }
+void Fuchsspieler::trans() {
+    kopiere(tisch_.spielstellung().Feld, psffig_);
+}
 
 void Fuchsspieler::psffigzug(int i) {
     const int v = zugwert_[5 * i];
@@ -126,7 +132,8 @@ void Fuchsspieler::psffigzug(int i) {
     if (!aufGitter(fx, fy) || !aufGitter(tx, ty)) return;
     psffig_[fx][fy] = leer;
     psffig_[tx][ty] = fuchs;
-    if (std::abs(tx - fx) > 1 || std::abs(ty - fy) > 1) psffig_[fx + (tx - fx) / 2][fy + (ty - fy) / 2] = leer;
+    if (std::abs(tx - fx) > 1 || std::abs(ty - fy) > 1)
+        psffig_[fx + (tx - fx) / 2][fy + (ty - fy) / 2] = leer;
     const int r = tisch_.erinnern(psffig_, fuchs);
     zugwert_[5 * i] = static_cast<int16_t>(std::clamp(v + r, 1, 32767));
 }

@@ -11,7 +11,9 @@ namespace {
 constexpr int kLernfaktor = 10;
 }
 
-void Hennenspieler::psTopsfig() { kopiere(tisch_.spielstellung().Feld, psfig_); }
+void Hennenspieler::psTopsfig() {
+    kopiere(tisch_.spielstellung().Feld, psfig_);
+}
 
 int Hennenspieler::hzugmoglich(int x, int y) const {
     int ergebnis = 0;
@@ -37,7 +39,8 @@ void Hennenspieler::hstatusScan(int k) {
     for (int x = 0; x <= 6; ++x)
         for (int y = 0; y <= 6; ++y) {
             if (psfig_[x][y] == henne) s1 += hennenfeldwert[x][y];
-            if (psfig_[x][y] == leer && hzugmoglich(x, y) == 1 && hbedroht(x, y) == 0) s3 += hennenfeldwert[x][y];
+            if (psfig_[x][y] == leer && hzugmoglich(x, y) == 1 && hbedroht(x, y) == 0)
+                s3 += hennenfeldwert[x][y];
         }
     hstatus_[k].lage = wrap16(kLernfaktor * m + s1);
     hstatus_[k].raum = wrap16(kLernfaktor * m + s3);

@@ -6,7 +6,9 @@
 namespace fuh {
 
 namespace {
-bool geparkt(int x, int y) { return x == 0 && y == 0; }
+bool geparkt(int x, int y) {
+    return x == 0 && y == 0;
+}
 } // namespace
 
 void strafregel(Spieltisch& tisch, Brettfeld& psfig) {
@@ -40,7 +42,8 @@ void sitsTopsfig(Spieltisch& tisch, Brettfeld& psfig) {
     const Partie& partie = tisch.partieDaten();
     Stellung& s = tisch.spielstellung();
     for (int x = 0; x <= 6; ++x)
-        for (int y = 0; y <= 6; ++y) psfig[x][y] = s.Feld[x][y] == fuchs ? leer : s.Feld[x][y];
+        for (int y = 0; y <= 6; ++y)
+            psfig[x][y] = s.Feld[x][y] == fuchs ? leer : s.Feld[x][y];
 
     // The foxes where they stood before their last move, the hens as they stand now.
     const Fuchsplaetze vorher = fuchsplaetze(partie.sits[partie.spielzug - 2].code);

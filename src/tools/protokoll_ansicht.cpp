@@ -3,7 +3,9 @@
 namespace fuh {
 
 namespace {
-const char* flagge(bool b) { return b ? "-1" : "0"; }
+const char* flagge(bool b) {
+    return b ? "-1" : "0";
+}
 } // namespace
 
 void ProtokollAnsicht::meldung(const std::string& text) {
@@ -19,12 +21,13 @@ void ProtokollAnsicht::oeffnen(Fenster f) {
             *aus_ << c;
             leer = false;
         }
-    *aus_ << (leer ? "- " : " ")
-          << flagge(spiel_->fuchs_null) << ' ' << flagge(spiel_->sw_spielende) << '\n';
+    *aus_ << (leer ? "- " : " ") << flagge(spiel_->fuchs_null) << ' ' << flagge(spiel_->sw_spielende) << '\n';
 }
 
 void ProtokollAnsicht::zugAusgefuehrt(int vonX, int vonY, int nachX, int nachY, bool normal) {
-    if (aus_) *aus_ << "zug " << vonX << ' ' << vonY << ' ' << nachX << ' ' << nachY << ' ' << (normal ? 1 : 0) << '\n';
+    if (aus_)
+        *aus_ << "zug " << vonX << ' ' << vonY << ' ' << nachX << ' ' << nachY << ' ' << (normal ? 1 : 0)
+              << '\n';
 }
 
 } // namespace fuh

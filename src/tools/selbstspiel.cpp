@@ -23,8 +23,8 @@ int main(int argc, char** argv) {
         std::cerr << "selbstspiel: " << fehler << '\n';
         return 2;
     }
-    fuh::selbstspiel(*optionen, optionen->seed.value_or(sekundenSeitMitternacht()), std::filesystem::current_path(),
-                     std::cout);
+    fuh::selbstspiel(*optionen, optionen->seed.value_or(sekundenSeitMitternacht()),
+                     std::filesystem::current_path(), std::cout);
     std::cout.flush();
     return 0;
 }

@@ -12,14 +12,13 @@ bool nurZiffern(const std::string& s) {
     return true;
 }
 
-// A plain decimal number no larger than `hoechstens`.
-std::optional<uint64_t> zahl(const std::string& s, uint64_t hoechstens) {
+// A plain decimal number no larger than `hoechstens` (at most 2^32 - 1, so nothing overflows).
+std::optional<uint64_t> zahl(const std::string& s, uint32_t hoechstens) {
     if (!nurZiffern(s)) return std::nullopt;
     uint64_t v = 0;
     for (char c : s) {
-        const uint64_t ziffer = static_cast<uint64_t>(c - '0');
-        if (v > (hoechstens - ziffer) / 10) return std::nullopt;
-        v = v * 10 + ziffer;
+        v = v * 10 + static_cast<uint64_t>(c - '0');
+        if (v > hoechstens) return std::nullopt;
     }
     return v;
 }
@@ -28,7 +27,8 @@ std::optional<uint64_t> zahl(const std::string& s, uint64_t hoechstens) {
 std::optional<uint32_t> seedWert(const std::string& s) {
     if (!nurZiffern(s)) return std::nullopt;
     uint64_t v = 0;
-    for (char c : s) v = (v * 10 + static_cast<uint64_t>(c - '0')) % (1u << 24);
+    for (char c : s)
+        v = (v * 10 + static_cast<uint64_t>(c - '0')) % (1u << 24);
     return static_cast<uint32_t>(v);
 }
 } // namespace

@@ -1,0 +1,76 @@
+#include <gtest/gtest.h>
+
+#include "board/sprung.h"
+
+namespace fuh {
+namespace {
+
+Brettfeld leer7() {
+    Stellung s;
+    s.grundstellung();
+    for (int x = 0; x <= 6; ++x)
+        for (int y = 0; y <= 6; ++y)
+            if (s.Feld[x][y] != 0) s.Feld[x][y] = leer;
+    return s.Feld;
+}
+
+TEST(Sprung, GrundstellungHatKeinenSprung) {
+    Stellung s;
+    s.grundstellung();
+    for (int a = -1; a <= 1; ++a)
+        for (int b = -1; b <= 1; ++b) {
+            EXPECT_EQ(issprung(2, 2, a, b, s.Feld), 0);
+            EXPECT_EQ(issprung(4, 2, a, b, s.Feld), 0);
+        }
+    EXPECT_FALSE(isjump(s.Feld, 2, 2));
+}
+
+TEST(Sprung, WertMitFolgespruengen) {
+    Brettfeld f = leer7();
+    f[3][2] = fuchs;
+    f[3][3] = henne;
+    EXPECT_EQ(issprung(3, 2, 0, 1, f), 5); // 8 - 6 + 3
+    f[2][4] = henne;
+    f[4][4] = henne;
+    const Brettfeld vorher = f;
+    EXPECT_EQ(issprung(3, 2, 0, 1, f), 13); // plus 6 - 3 + 1 twice
+    EXPECT_EQ(f, vorher);
+    EXPECT_EQ(is2sprung(3, 2, 0, 1, f), 5);
+    f[1][4] = henne; // a blocked follow-up counts nothing
+    EXPECT_EQ(issprung(3, 2, 0, 1, f), 9);
+}
+
+TEST(Sprung, DiagonaleNurVonGeradenFeldern) {
+    Brettfeld f = leer7();
+    f[3][2] = fuchs;
+    f[4][3] = henne;
+    EXPECT_FALSE(isjump(f, 3, 2));
+    EXPECT_EQ(issprung(3, 2, 1, 1, f), 0);
+    f[2][2] = fuchs;
+    f[3][3] = henne;
+    EXPECT_TRUE(isjump(f, 2, 2));
+    f[4][4] = henne; // landing occupied
+    EXPECT_FALSE(isjump(f, 2, 2));
+}
+
+TEST(Sprung, LandungAusserhalbDesKreuzesZaehltNicht) {
+    Brettfeld f = leer7();
+    f[2][1] = fuchs;
+    f[1][1] = 0;
+    f[2][0] = henne;
+    EXPECT_EQ(issprung(2, 1, 0, -1, f), 0);
+}
+
+TEST(Sprung, FolgesprungVonUngerademFeldNurGerade) {
+    Brettfeld f = leer7();
+    f[3][2] = fuchs;
+    f[3][3] = henne;
+    f[2][5] = henne; // diagonal from (3, 4) to (1, 6): not allowed, x + y odd
+    f[4][3] = henne; // diagonal to (5, 2): not allowed either
+    EXPECT_EQ(issprung(3, 2, 0, 1, f), 5);
+    f[3][5] = henne; // straight down to (3, 6): 4 - 3 + 0
+    EXPECT_EQ(issprung(3, 2, 0, 1, f), 6);
+}
+
+} // namespace
+} // namespace fuh

@@ -1,0 +1,143 @@
+#include <gtest/gtest.h>
+
+#include "memory/lerndatei.h"
+#include "temp_ordner.h"
+
+#include <unistd.h>
+
+namespace fuh {
+namespace {
+
+using Bytes = std::vector<unsigned char>;
+
+struct LerndateiTest : ::testing::Test {
+    test::TempOrdner ordner;
+    Lerndatei datei{ordner.pfad()};
+    Stellung s;
+    Partie partie;
+
+    void SetUp() override { s.grundstellung(); }
+    void nehmeAuf(int16_t fw, int16_t hw) {
+        partie.pstoSits(s);
+        partie.sits[partie.spielzug - 1].fuchswert = fw;
+        partie.sits[partie.spielzug - 1].hennenwert = hw;
+    }
+    static Bytes satz(const Code& c, int16_t fw, int16_t hw) {
+        Bytes b(c.begin(), c.end());
+        for (int16_t v : {fw, hw}) {
+            b.push_back(static_cast<unsigned char>(v & 0xFF));
+            b.push_back(static_cast<unsigned char>((static_cast<uint16_t>(v) >> 8) & 0xFF));
+        }
+        return b;
+    }
+};
+
+TEST_F(LerndateiTest, MergeHaengtAnUndAktualisiertZweitesVorkommen) {
+    const Code start = positionscode(s.Feld);
+    nehmeAuf(5, -2);
+    s.Feld[3][3] = leer;
+    s.Feld[3][2] = henne;
+    const Code zweite = positionscode(s.Feld);
+    nehmeAuf(-1, 1);
+    s.Feld[3][3] = henne;
+    s.Feld[3][2] = leer;
+    nehmeAuf(300, -300); // the first position again
+    const auto m = datei.speichern(partie, 2);
+    EXPECT_TRUE(m.geschrieben);
+    EXPECT_EQ(m.neueZuege, 2);
+    Bytes erwartet = satz(start, 305, -302);
+    const Bytes b2 = satz(zweite, -1, 1);
+    erwartet.insert(erwartet.end(), b2.begin(), b2.end());
+    EXPECT_EQ(ordner.lies("QZ3.DAT"), erwartet);
+    EXPECT_FALSE(ordner.gibt("QZ2.DAT"));
+
+    // A second merge into the file of strength 2 writes "QZ2.DAT" only.
+    EXPECT_EQ(datei.speichern(partie, 1).neueZuege, 2);
+    EXPECT_EQ(ordner.lies("QZ2.DAT").size(), 30u);
+}
+
+TEST_F(LerndateiTest, SpiegelcodeTrifftDenGespeichertenSatz) {
+    s.Feld[2][2] = leer;
+    s.Feld[1][2] = fuchs; // an asymmetric position
+    const Code c = positionscode(s.Feld);
+    ordner.schreibe("QZ3.DAT", satz(spiegelcode(c), 7, 9));
+    EXPECT_EQ(datei.erinnern(s.Feld, fuchs, 2, partie), 7);
+    EXPECT_EQ(datei.erinnern(s.Feld, henne, 2, partie), 9);
+    nehmeAuf(1, 1);
+    partie.spielzug = 1;
+    EXPECT_EQ(datei.speichern(partie, 2).neueZuege, 0);
+    EXPECT_EQ(ordner.lies("QZ3.DAT"), satz(spiegelcode(c), 8, 10)); // stored code unchanged
+}
+
+TEST_F(LerndateiTest, WiederholungSchlaegtGelerntenWert) {
+    ordner.schreibe("QZ2.DAT", satz(positionscode(s.Feld), 1000, 1000));
+    EXPECT_EQ(datei.erinnern(s.Feld, henne, 1, partie), 1000);
+    nehmeAuf(0, 0);
+    EXPECT_EQ(datei.erinnern(s.Feld, henne, 1, partie), kWiederholung);
+    s.Feld[3][3] = leer;
+    s.Feld[3][2] = henne;
+    for (int i = 0; i < 5; ++i)
+        nehmeAuf(0, 0);
+    s.Feld[3][3] = henne;
+    s.Feld[3][2] = leer;
+    EXPECT_EQ(datei.erinnern(s.Feld, henne, 1, partie), kWiederholung); // six back
+    s.Feld[3][3] = leer;
+    s.Feld[3][2] = henne;
+    nehmeAuf(0, 0);
+    s.Feld[3][3] = henne;
+    s.Feld[3][2] = leer;
+    EXPECT_EQ(datei.erinnern(s.Feld, henne, 1, partie), 1000); // seven back
+}
+
+TEST_F(LerndateiTest, StaerkeEinsOeffnetKeineDatei) {
+    EXPECT_EQ(datei.erinnern(s.Feld, fuchs, 0, partie), 0);
+    EXPECT_FALSE(ordner.gibt("QZ2.DAT"));
+    EXPECT_FALSE(ordner.gibt("QZ3.DAT"));
+    EXPECT_EQ(datei.erinnern(s.Feld, fuchs, 1, partie), 0);
+    EXPECT_TRUE(ordner.gibt("QZ2.DAT"));
+    EXPECT_EQ(ordner.lies("QZ2.DAT").size(), 0u);
+}
+
+TEST_F(LerndateiTest, UnvollstaendigeDateiUndGrenzen) {
+    Bytes b = satz(positionscode(s.Feld), 32760, -32760);
+    b.resize(8); // 8 of 15 bytes: counts as one record whose values read as 0
+    ordner.schreibe("QZ3.DAT", b);
+    Bytes kurz(b.begin(), b.begin() + 8);
+    nehmeAuf(100, -100);
+    EXPECT_EQ(datei.erinnern(s.Feld, fuchs, 2, partie), kWiederholung);
+    Partie nurEine = partie;
+    EXPECT_EQ(datei.speichern(nurEine, 2).neueZuege, 1); // 8 bytes of the code do not match
+    const Bytes nachher = ordner.lies("QZ3.DAT");
+    ASSERT_EQ(nachher.size(), 30u);
+    EXPECT_TRUE(std::equal(kurz.begin(), kurz.end(), nachher.begin()));
+    EXPECT_EQ(nachher[8], 0);
+    EXPECT_EQ(nachher[15], 0x58);
+
+    // Sums stop at the 16-bit limits.
+    ordner.schreibe("QZ3.DAT", satz(positionscode(s.Feld), 32760, -32760));
+    datei.speichern(partie, 2);
+    EXPECT_EQ(ordner.lies("QZ3.DAT"), satz(positionscode(s.Feld), 32767, -32768));
+}
+
+TEST_F(LerndateiTest, VolleDateiNimmtNichtsMehrAuf) {
+    Bytes voll(static_cast<std::size_t>(kHoechsteSaetze) * kLernsatz, 0x41);
+    ordner.schreibe("QZ3.DAT", voll);
+    nehmeAuf(1, 1);
+    const auto m = datei.speichern(partie, 2);
+    EXPECT_EQ(m.neueZuege, 0);
+    EXPECT_EQ(ordner.lies("QZ3.DAT").size(), voll.size());
+}
+
+TEST_F(LerndateiTest, NichtSchreibbareDateiBleibtUnversehrt) {
+    ordner.schreibe("QZ3.DAT", satz(positionscode(s.Feld), 1, 1));
+    // The temporary file cannot be created: a folder stands in its place.
+    std::filesystem::create_directory(ordner / ("QZ3.DAT.tmp" + std::to_string(::getpid())));
+    nehmeAuf(5, 5);
+    const auto m = datei.speichern(partie, 2);
+    EXPECT_FALSE(m.geschrieben);
+    EXPECT_EQ(m.neueZuege, 0);
+    EXPECT_EQ(ordner.lies("QZ3.DAT"), satz(positionscode(s.Feld), 1, 1));
+}
+
+} // namespace
+} // namespace fuh

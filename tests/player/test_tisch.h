@@ -1,0 +1,73 @@
+#pragma once
+// A game table for the players without the game flow around it.
+#include "board/zufall.h"
+#include "board/zug.h"
+#include "memory/lerndatei.h"
+#include "player/spieltisch.h"
+#include "temp_ordner.h"
+#include "test_ansicht.h"
+
+namespace fuh::test {
+
+struct TestTisch : Spieltisch, Gutschrift {
+    TempOrdner ordner;
+    Stellung s;
+    Partie partie;
+    Lerndatei lerndatei{ordner.pfad()};
+    int Staerke = 0;
+    int PC = 1;
+    int16_t einzel = 0;
+    Zufall zufall{12345};
+    Figurbilder bilder;
+    TestAnsicht ansicht;
+    std::vector<int16_t> endechecks;
+    bool fuchsNull = false;
+    int erinnerungen = 0;
+
+    TestTisch() {
+        s.grundstellung();
+        bilder.aufstellen(s);
+    }
+    // Every square of the cross empty, nothing on the board.
+    void leeren() {
+        for (int x = 0; x <= 6; ++x)
+            for (int y = 0; y <= 6; ++y)
+                if (s.Feld[x][y] != 0) s.Feld[x][y] = leer;
+        s.figurplatz.fill(0);
+    }
+    // Puts piece k on (x, y).
+    void setze(int k, int x, int y) {
+        s.Feld[x][y] = k < 2 ? fuchs : henne;
+        s.figurplatz[k] = static_cast<int16_t>(feldNummer(x, y));
+        bilder.aufstellen(s);
+    }
+    void aufzeichnen(bool sprung = false) {
+        s.vonX = s.vonY = 0;
+        s.nachX = s.nachY = static_cast<int16_t>(sprung ? 2 : 1);
+        partie.pstoSits(s);
+    }
+
+    Stellung& spielstellung() override { return s; }
+    const Partie& partieDaten() const override { return partie; }
+    int16_t erinnern(const Brettfeld& f, int16_t figur) override {
+        ++erinnerungen;
+        return lerndatei.erinnern(f, figur, Staerke, partie);
+    }
+    int ziehe(int n) override { return zufall.ziehe(n); }
+    void zug(bool normal) override {
+        Zugumgebung u{s, bilder, ansicht, *this};
+        fuh::zug(u, PC, normal);
+    }
+    bool endecheck(int16_t figur) override {
+        endechecks.push_back(figur);
+        partie.pstoSits(s);
+        return false;
+    }
+    void meldung(const std::string& text) override { ansicht.meldung(text); }
+    void hinweis(Hinweis h, bool sichtbar) override { ansicht.hinweis(h, sichtbar); }
+    int16_t einzelzug() const override { return einzel; }
+    void letzterFuchsAusgeschlossen() override { fuchsNull = true; }
+    void sanktion(int16_t H, int16_t F, int16_t q) override { partie.sanktion(H, F, q); }
+};
+
+} // namespace fuh::test

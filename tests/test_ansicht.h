@@ -1,0 +1,32 @@
+#pragma once
+// A view that remembers what the game showed, for tests.
+#include <map>
+#include <string>
+#include <vector>
+
+#include "board/ansicht.h"
+
+namespace fuh::test {
+
+struct TestAnsicht : Ansicht {
+    std::vector<std::string> meldungen;
+    std::map<int, std::string> panels;
+    std::map<Hinweis, bool> hinweise;
+    std::vector<Hinweis> gezeigt; // every label that was shown, in order
+    std::vector<Fenster> fenster;
+    int bewegungen = 0;
+    bool ziehbar = false;
+
+    void figurBewegt(int, int, int) override { ++bewegungen; }
+    void figurSichtbar(int, bool) override {}
+    void figurenZiehbar(bool z) override { ziehbar = z; }
+    void hinweis(Hinweis h, bool s) override {
+        hinweise[h] = s;
+        if (s) gezeigt.push_back(h);
+    }
+    void status(int panel, const std::string& text) override { panels[panel] = text; }
+    void meldung(const std::string& text) override { meldungen.push_back(text); }
+    void oeffnen(Fenster f) override { fenster.push_back(f); }
+};
+
+} // namespace fuh::test

@@ -1,0 +1,122 @@
+#include <gtest/gtest.h>
+
+#include <fstream>
+#include <set>
+#include <sstream>
+
+#include "memory/positionscode.h"
+#include "temp_ordner.h"
+#include "tools/selbstspiel_lauf.h"
+
+namespace fuh {
+namespace {
+
+namespace fs = std::filesystem;
+
+std::string lies(const fs::path& p) {
+    std::ifstream ein(p, std::ios::binary);
+    return {std::istreambuf_iterator<char>(ein), std::istreambuf_iterator<char>()};
+}
+
+std::vector<std::string> worte(const std::string& text) {
+    std::istringstream ein(text);
+    std::vector<std::string> w;
+    for (std::string s; ein >> s;)
+        w.push_back(s);
+    return w;
+}
+
+Optionen optionen(const std::string& text) {
+    std::string fehler;
+    const auto o = optionenLesen(worte(text), fehler);
+    EXPECT_TRUE(o.has_value()) << fehler;
+    return o.value_or(Optionen{});
+}
+
+// Games recorded by an independent implementation of the same rules: log and files, byte for byte.
+class Aufnahme : public ::testing::TestWithParam<std::string> {};
+
+TEST_P(Aufnahme, LogUndDateienStimmenUeberein) {
+    const fs::path fall = fs::path(AUFNAHMEN) / GetParam();
+    Optionen o = optionen(lies(fall / "args"));
+    o.protokoll = true;
+    test::TempOrdner ordner;
+    std::ostringstream log;
+    selbstspiel(o, *o.seed, ordner.pfad(), log);
+    EXPECT_EQ(log.str(), lies(fall / "log.txt"));
+    std::set<std::string> erwartet, erzeugt;
+    for (const auto& e : fs::directory_iterator(fall / "files"))
+        erwartet.insert(e.path().filename().string());
+    for (const auto& e : fs::directory_iterator(ordner.pfad()))
+        erzeugt.insert(e.path().filename().string());
+    EXPECT_EQ(erzeugt, erwartet);
+    for (const auto& name : erwartet)
+        EXPECT_EQ(lies(ordner / name), lies(fall / "files" / name)) << name;
+}
+
+INSTANTIATE_TEST_SUITE_P(Selbstspiel, Aufnahme, ::testing::Values("a", "b", "c", "d", "e", "f"));
+
+TEST(Selbstspiel, GleicherSeedGleichesErgebnis) {
+    const Optionen o = optionen("--spiele 3 --pc 0 --staerke 2 --lernen --protokoll");
+    std::string logs[2], dateien[2];
+    for (int i = 0; i < 2; ++i) {
+        test::TempOrdner ordner;
+        std::ostringstream log;
+        selbstspiel(o, 4711, ordner.pfad(), log);
+        logs[i] = log.str();
+        dateien[i] = lies(ordner / "QZ2.DAT") + lies(ordner / "QZ.sta");
+    }
+    EXPECT_EQ(logs[0], logs[1]);
+    EXPECT_EQ(dateien[0], dateien[1]);
+    EXPECT_NE(logs[0].find("summe 3 "), std::string::npos);
+}
+
+TEST(Selbstspiel, LernlaufSpeichertJedePositionNurEinmal) {
+    test::TempOrdner ordner;
+    std::ostringstream log;
+    const Summe s = selbstspiel(optionen("--spiele 5 --staerke 3 --lernen"), 99, ordner.pfad(), log);
+    EXPECT_EQ(s.spiele, 5u);
+    EXPECT_EQ(s.nachErgebnis[1] + s.nachErgebnis[2] + s.nachErgebnis[3], 5u);
+    const auto b = ordner.lies("QZ3.DAT");
+    ASSERT_FALSE(b.empty());
+    ASSERT_EQ(b.size() % 15, 0u);
+    std::set<Code> gesehen;
+    for (std::size_t pos = 0; pos < b.size(); pos += 15) {
+        Code c;
+        std::copy(b.begin() + static_cast<long>(pos), b.begin() + static_cast<long>(pos) + 11, c.begin());
+        EXPECT_FALSE(gesehen.count(c) || gesehen.count(spiegelcode(c))) << "record " << pos / 15;
+        gesehen.insert(c);
+    }
+    const auto sta = ordner.lies("QZ.sta");
+    EXPECT_EQ(sta[2], 5); // games in learning mode
+    EXPECT_EQ(sta[30] | (sta[31] << 8), static_cast<int>(b.size() / 15));
+    EXPECT_EQ(log.str(), "summe 5 " + std::to_string(s.nachErgebnis[1]) + " " +
+                             std::to_string(s.nachErgebnis[2]) + " " + std::to_string(s.nachErgebnis[3]) +
+                             " 0\n");
+}
+
+TEST(Selbstspiel, NullSpieleBeruehrenKeineDatei) {
+    test::TempOrdner ordner;
+    std::ostringstream log;
+    selbstspiel(optionen("--spiele 0 --lernen --protokoll"), 1, ordner.pfad(), log);
+    EXPECT_EQ(log.str(), "summe 0 0 0 0 0\n");
+    EXPECT_TRUE(fs::is_empty(ordner.pfad()));
+}
+
+TEST(Selbstspiel, Argumente) {
+    const Optionen o = optionen("--pc 0 --pc 1 --seed 16777217 --spiele 7 --staerke 3");
+    EXPECT_EQ(o.pc, 1);
+    EXPECT_EQ(o.seed, 1u);
+    EXPECT_EQ(o.spiele, 7u);
+    EXPECT_EQ(o.staerke, 3);
+    EXPECT_EQ(optionen("--seed 99999999999999999999999").seed, 8388607u); // any length, modulo 2^24
+    for (const char* schlecht : {"--pc 3", "--pc -1", "--pc +1", "--staerke 0", "--staerke 4", "--spiele",
+                                 "--spiele x", "--seed -5", "--lernen extra", "--unbekannt", "--pc 1.0"}) {
+        std::string fehler;
+        EXPECT_FALSE(optionenLesen(worte(schlecht), fehler).has_value()) << schlecht;
+        EXPECT_FALSE(fehler.empty());
+    }
+}
+
+} // namespace
+} // namespace fuh
