@@ -1,0 +1,52 @@
+#pragma once
+// The high-score lists "QZF.sco" (foxes) and "QZH.sco" (hens): ten 29-byte records each.
+#include <array>
+#include <cstdint>
+#include <filesystem>
+#include <string>
+
+#include "dialogs/oeffentlich.h"
+
+namespace fuh {
+
+enum class Seite { Fuchs, Hennen };
+
+const char* bestenlistendatei(Seite s); // "QZF.sco" or "QZH.sco"
+
+struct Eintrag {
+    double datum = 0; // OLE Automation date: days since 30 December 1899
+    int16_t score = 0;
+    std::string user; // exactly 15 bytes, Windows-1252, padded with blanks (or zeros in an empty row)
+    std::string sieg; // exactly 4 bytes, "Ja  " or "Nein" (or zeros in an empty row)
+};
+
+class Bestenliste {
+  public:
+    explicit Bestenliste(Seite s) : seite_(s) {}
+
+    void laden(const std::filesystem::path& ordner);           // a missing or short file gives empty rows
+    bool speichern(const std::filesystem::path& ordner) const; // false when it cannot be written
+
+    // Inserts the finished game when it is due (sw_spielende, score >= 1, and for the foxes no
+    // fuchs_null), then clears sw_spielende. Returns the new row, or 10 when nothing was inserted.
+    int anzeigen(Oeffentlich& spiel, double heute);
+    // Inserts `score` above the first row it reaches or ties; returns the row or 10.
+    int einfuegen(int16_t score, const std::string& u_is_sieger, double heute);
+    // The name typed into the new row, as UTF-8; stored cut or padded to 15 Windows-1252 bytes.
+    void nameSetzen(const std::string& utf8);
+
+    const std::array<Eintrag, 10>& eintraege() const { return tabelle_; }
+    int neuePos() const { return neuePos_; }
+    Seite seite() const { return seite_; }
+
+  private:
+    Seite seite_;
+    std::array<Eintrag, 10> tabelle_{};
+    int neuePos_ = 10;
+};
+
+// Text conversions between the files' Windows-1252 and UTF-8 (unmappable characters become '?').
+std::string nachWindows1252(const std::string& utf8);
+std::string vonWindows1252(const std::string& bytes);
+
+} // namespace fuh

@@ -1,0 +1,154 @@
+#include "dialogs/einst_dialog.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLabel>
+#include <QMessageBox>
+#include <QPalette>
+#include <QPushButton>
+#include <QStyle>
+#include <algorithm>
+#include <cmath>
+
+#include "dialogs/einstellungsdatei.h"
+#include "dialogs/statustexte.h"
+
+namespace fuh {
+
+namespace {
+
+constexpr int kBreite = 4140; // client area in twips
+constexpr int kHoehe = 2505;
+
+struct Lage {
+    QWidget* w;
+    int links, oben, breite, hoehe; // twips
+    int textBreite;                 // pixels the content needs
+};
+
+int eintrag(int wert) {
+    return wert >= 0 && wert <= 2 ? wert : 0;
+}
+
+} // namespace
+
+EinstDialog::EinstDialog(Oeffentlich& spiel, std::filesystem::path ordner,
+                         std::function<void(int panel, const QString& text)> statusSetzen,
+                         std::function<void(const Einstellungen&)> uebernehmen, QWidget* parent)
+    : QDialog(parent), spiel_(spiel), ordner_(std::move(ordner)), statusSetzen_(std::move(statusSetzen)),
+      uebernehmen_(std::move(uebernehmen)) {
+    setAttribute(Qt::WA_DeleteOnClose);
+    setModal(false);
+    setWindowTitle(QStringLiteral("Einstellungen"));
+    setAutoFillBackground(true);
+    QPalette pal = palette();
+    pal.setColor(QPalette::Window, Qt::white);
+    setPalette(pal);
+
+    auto* staerkeText = new QLabel(QStringLiteral("Spielstärke:"), this);
+    ok_ = new QPushButton(QStringLiteral("Übernehmen"), this);
+    ok_->setObjectName(QStringLiteral("ok"));
+    Abbruch_ = new QPushButton(QStringLiteral("Abbrechen"), this);
+    Abbruch_->setObjectName(QStringLiteral("Abbruch"));
+    pc_spielt_ = new QComboBox(this);
+    pc_spielt_->setObjectName(QStringLiteral("pc_spielt"));
+    pc_spielt_->addItems(
+        {QStringLiteral("Fuchs"), QStringLiteral("Hennen"), QStringLiteral("Fuchs und Hennen")});
+    Staerke_ = new QComboBox(this);
+    Staerke_->setObjectName(QStringLiteral("Staerke"));
+    Staerke_->addItems({QStringLiteral("1 leicht"), QStringLiteral("2 mittel"), QStringLiteral("3 stark")});
+    Lernen_ = new QCheckBox(QStringLiteral("Lernmodus (ab Spielstärke 2)"), this);
+    Lernen_->setObjectName(QStringLiteral("Lernen"));
+    Einzelzug_ = new QCheckBox(QStringLiteral("Einzelzugmodus"), this);
+    Einzelzug_->setObjectName(QStringLiteral("Einzelzug"));
+    auto* pcText = new QLabel(QStringLiteral("Computer spielt:"), this);
+    staerkeText->setBuddy(Staerke_);
+    pcText->setBuddy(pc_spielt_);
+
+    // The layout is drawn in twips; where the font needs more room than the drawing gives, the whole
+    // window grows by one factor so that the proportions stay.
+    const QFontMetrics fm(font());
+    auto comboBreite = [&](const QComboBox* c) {
+        int b = 0;
+        for (int i = 0; i < c->count(); ++i)
+            b = std::max(b, fm.horizontalAdvance(c->itemText(i)));
+        return b + 36; // frame and arrow
+    };
+    const int haken = style()->pixelMetric(QStyle::PM_IndicatorWidth) + 12;
+    const Lage lagen[] = {
+        {staerkeText, 120, 600, 975, 255, fm.horizontalAdvance(staerkeText->text())},
+        {ok_, 240, 1920, 1335, 375, fm.horizontalAdvance(ok_->text()) + 16},
+        {Abbruch_, 1920, 1920, 1575, 375, fm.horizontalAdvance(Abbruch_->text()) + 16},
+        {pc_spielt_, 1560, 120, 2175, 315, comboBreite(pc_spielt_)},
+        {Staerke_, 1560, 600, 2175, 315, comboBreite(Staerke_)},
+        {Lernen_, 840, 1080, 2415, 255, fm.horizontalAdvance(Lernen_->text()) + haken},
+        {Einzelzug_, 840, 1440, 2655, 255, fm.horizontalAdvance(Einzelzug_->text()) + haken},
+        {pcText, 120, 120, 1215, 255, fm.horizontalAdvance(pcText->text())},
+    };
+    double faktor = 1.0;
+    for (const Lage& l : lagen) {
+        faktor = std::max(faktor, l.textBreite * 15.0 / l.breite);
+        const int hoehe = std::max(l.w->sizeHint().height(), fm.height() + 2);
+        faktor = std::max(faktor, hoehe * 15.0 / l.hoehe);
+    }
+    auto px = [faktor](int twips) { return static_cast<int>(std::lround(twips * faktor / 15.0)); };
+    for (const Lage& l : lagen)
+        l.w->setGeometry(px(l.links), px(l.oben), px(l.breite), px(l.hoehe));
+    setFixedSize(px(kBreite), px(kHoehe));
+
+    setTabOrder(ok_, Abbruch_);
+    setTabOrder(Abbruch_, pc_spielt_);
+    setTabOrder(pc_spielt_, Staerke_);
+    setTabOrder(Staerke_, Lernen_);
+    setTabOrder(Lernen_, Einzelzug_);
+    ok_->setDefault(true);
+
+    // Form_Load: the values are unchecked file contents, so anything outside the lists shows entry 0.
+    const Einstellungen& e = spiel_.einst;
+    pc_spielt_->setCurrentIndex(eintrag(e.PC));
+    Staerke_->setCurrentIndex(eintrag(e.Staerke));
+    Lernen_->setChecked(e.Lernmodus == 1);
+    Einzelzug_->setChecked(e.Einzelzug == 1);
+    ausgleich();
+
+    connect(pc_spielt_, &QComboBox::currentIndexChanged, this, [this] { ausgleich(); });
+    connect(Staerke_, &QComboBox::currentIndexChanged, this, [this] { ausgleich(); });
+    connect(Lernen_, &QCheckBox::toggled, this, [this] { ausgleich(); });
+    connect(ok_, &QPushButton::clicked, this, [this] { ok_Click(); });
+    connect(Abbruch_, &QPushButton::clicked, this, [this] { Abbruch_Click(); });
+}
+
+void EinstDialog::ausgleich() {
+    // Learning needs a thinking opponent; the easiest strength plays without the learned moves.
+    if (Staerke_->currentIndex() == 0) {
+        Lernen_->setEnabled(false);
+        Lernen_->setChecked(false);
+    } else {
+        Lernen_->setEnabled(true);
+    }
+}
+
+void EinstDialog::ok_Click() {
+    Einstellungen e;
+    e.PC = static_cast<int16_t>(pc_spielt_->currentIndex());
+    e.Staerke = static_cast<int16_t>(Staerke_->currentIndex());
+    e.Lernmodus = Lernen_->isChecked() ? 1 : 0;
+    e.Einzelzug = Einzelzug_->isChecked() ? 1 : 0;
+    if (uebernehmen_) uebernehmen_(e);
+    if (!einstellungenSchreiben(ordner_, e)) {
+        QMessageBox::warning(this, QStringLiteral("Fuchs und Hennen"),
+                             QStringLiteral("Die Einstellungen konnten nicht in „QZ.INI“ gespeichert werden. "
+                                            "Sie gelten bis zum Programmende."));
+    }
+    if (statusSetzen_) {
+        if (const auto t = pcStatustext(e.PC)) statusSetzen_(1, QString::fromStdString(*t));
+        if (const auto t = staerkeStatustextDialog(e.Staerke)) statusSetzen_(2, QString::fromStdString(*t));
+    }
+    close();
+}
+
+void EinstDialog::Abbruch_Click() {
+    close();
+}
+
+} // namespace fuh

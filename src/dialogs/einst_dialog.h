@@ -1,0 +1,40 @@
+#pragma once
+// The settings window: side the computer plays, strength, learning and single-move mode.
+#include <QDialog>
+#include <filesystem>
+#include <functional>
+
+#include "dialogs/oeffentlich.h"
+
+class QCheckBox;
+class QComboBox;
+class QPushButton;
+
+namespace fuh {
+
+class EinstDialog : public QDialog {
+    Q_OBJECT
+  public:
+    // `statusSetzen` writes a status bar panel; `uebernehmen` lets the game take the new settings.
+    EinstDialog(Oeffentlich& spiel, std::filesystem::path ordner,
+                std::function<void(int panel, const QString& text)> statusSetzen,
+                std::function<void(const Einstellungen&)> uebernehmen, QWidget* parent = nullptr);
+
+  private:
+    void ausgleich();
+    void ok_Click();
+    void Abbruch_Click();
+
+    Oeffentlich& spiel_;
+    std::filesystem::path ordner_;
+    std::function<void(int, const QString&)> statusSetzen_;
+    std::function<void(const Einstellungen&)> uebernehmen_;
+    QComboBox* pc_spielt_;
+    QComboBox* Staerke_;
+    QCheckBox* Lernen_;
+    QCheckBox* Einzelzug_;
+    QPushButton* ok_;
+    QPushButton* Abbruch_;
+};
+
+} // namespace fuh

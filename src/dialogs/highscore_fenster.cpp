@@ -1,0 +1,127 @@
+#include "dialogs/highscore_fenster.h"
+
+#include <QDate>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QLocale>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QVBoxLayout>
+#include <cmath>
+
+namespace fuh {
+
+namespace {
+
+const QDate kNullDatum(1899, 12, 30);
+
+// Fixed-width file fields end in blanks or, in rows never written, in zeros.
+QString feldText(const std::string& bytes) {
+    std::string s = vonWindows1252(bytes);
+    while (!s.empty() && (s.back() == ' ' || s.back() == '\0'))
+        s.pop_back();
+    return QString::fromStdString(s);
+}
+
+QLabel* zelle(const QString& name, QWidget* eltern) {
+    auto* l = new QLabel(eltern);
+    l->setObjectName(name);
+    return l;
+}
+
+} // namespace
+
+double HighscoreFenster::oleDatumHeute() {
+    return static_cast<double>(kNullDatum.daysTo(QDate::currentDate()));
+}
+
+QString HighscoreFenster::datumText(double oleDatum) {
+    // The range OLE dates can express (years 100 to 9999); anything else is a damaged file.
+    if (!std::isfinite(oleDatum) || oleDatum == 0 || oleDatum < -657434.0 || oleDatum >= 2958466.0) return {};
+    const QDate d = kNullDatum.addDays(static_cast<qint64>(std::trunc(oleDatum)));
+    return d.isValid() ? QLocale::system().toString(d, QLocale::ShortFormat) : QString();
+}
+
+HighscoreFenster::HighscoreFenster(Seite seite, Oeffentlich& spiel, std::filesystem::path ordner,
+                                   QWidget* parent)
+    : QDialog(parent), liste_(seite), ordner_(std::move(ordner)) {
+    setAttribute(Qt::WA_DeleteOnClose);
+    setModal(false);
+    setWindowTitle(seite == Seite::Fuchs ? QStringLiteral("Highscores Fuchs")
+                                         : QStringLiteral("Highscore Hennen"));
+
+    liste_.laden(ordner_);
+    const int neu = liste_.anzeigen(spiel, oleDatumHeute());
+
+    auto* haupt = new QVBoxLayout(this);
+    auto* tabelle = new QGridLayout;
+    tabelle->setHorizontalSpacing(16);
+    const QString koepfe[4] = {QStringLiteral("Datum"), QStringLiteral("Punkte"), QStringLiteral("Name"),
+                               QStringLiteral("Sieg")};
+    for (int c = 0; c < 4; ++c) {
+        auto* k = new QLabel(koepfe[c], this);
+        QFont f = k->font();
+        f.setBold(true);
+        k->setFont(f);
+        tabelle->addWidget(k, 0, c);
+    }
+    const QFontMetrics fm(font());
+    for (int i = 0; i < 10; ++i) {
+        const Eintrag& e = liste_.eintraege()[static_cast<std::size_t>(i)];
+        auto* datum = zelle(QStringLiteral("datum%1").arg(i), this);
+        datum->setText(datumText(e.datum));
+        auto* score = zelle(QStringLiteral("score%1").arg(i), this);
+        score->setText(QString::number(e.score));
+        score->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+        auto* user = zelle(QStringLiteral("user%1").arg(i), this);
+        user->setText(feldText(e.user));
+        user->setMinimumWidth(fm.horizontalAdvance(QLatin1Char('W')) * 12);
+        auto* sieg = zelle(QStringLiteral("sieg%1").arg(i), this);
+        sieg->setText(feldText(e.sieg));
+        tabelle->addWidget(datum, i + 1, 0);
+        tabelle->addWidget(score, i + 1, 1);
+        tabelle->addWidget(user, i + 1, 2);
+        tabelle->addWidget(sieg, i + 1, 3);
+
+        // The edit lies over the name cell; only the new row's is shown.
+        auto* edit = new QLineEdit(this);
+        edit->setObjectName(QStringLiteral("name1_%1").arg(i));
+        edit->setMaxLength(15);
+        edit->setVisible(i == neu);
+        tabelle->addWidget(edit, i + 1, 2);
+        connect(edit, &QLineEdit::textEdited, this,
+                [this](const QString& text) { liste_.nameSetzen(text.toStdString()); });
+        name1_[static_cast<std::size_t>(i)] = edit;
+    }
+    haupt->addLayout(tabelle);
+
+    auto* knoepfe = new QHBoxLayout;
+    knoepfe->addStretch();
+    auto* ok = new QPushButton(QStringLiteral("OK"), this);
+    ok->setObjectName(QStringLiteral("ok"));
+    ok->setDefault(true);
+    auto* abbruch = new QPushButton(QStringLiteral("Abbruch"), this);
+    abbruch->setObjectName(QStringLiteral("Abbruch"));
+    knoepfe->addWidget(ok);
+    knoepfe->addWidget(abbruch);
+    haupt->addLayout(knoepfe);
+    haupt->setSizeConstraint(QLayout::SetFixedSize);
+
+    connect(ok, &QPushButton::clicked, this, [this] { ok_Click(); });
+    connect(abbruch, &QPushButton::clicked, this, &QDialog::close);
+    if (neu >= 0 && neu < 10) name1_[static_cast<std::size_t>(neu)]->setFocus();
+}
+
+void HighscoreFenster::ok_Click() {
+    if (!liste_.speichern(ordner_)) {
+        QMessageBox::warning(this, QStringLiteral("Fuchs und Hennen"),
+                             QStringLiteral("Die Highscore-Liste „%1“ konnte nicht gespeichert werden.")
+                                 .arg(QString::fromLatin1(bestenlistendatei(liste_.seite()))));
+        return;
+    }
+    close();
+}
+
+} // namespace fuh

@@ -1,0 +1,65 @@
+#include "dialogs/hilfe_fenster.h"
+
+#include <QHBoxLayout>
+#include <QPointer>
+#include <QPushButton>
+#include <QScrollBar>
+#include <QTextBrowser>
+#include <QUrl>
+#include <QVBoxLayout>
+
+namespace fuh {
+
+namespace {
+QPointer<HilfeFenster> g_offen;
+const QUrl kStartseite(QStringLiteral("qrc:/hilfe/ratgeber.html"));
+} // namespace
+
+HilfeFenster::HilfeFenster(QWidget* parent) : QWidget(parent, Qt::Window) {
+    setWindowTitle(QStringLiteral("Fuchs und Hennen – Hilfe"));
+    if (!g_offen) g_offen = this;
+
+    auto* haupt = new QVBoxLayout(this);
+    auto* leiste = new QHBoxLayout;
+    auto* zurueck = new QPushButton(QStringLiteral("Zurück"), this);
+    zurueck->setObjectName(QStringLiteral("zurueck"));
+    zurueck->setEnabled(false);
+    auto* start = new QPushButton(QStringLiteral("Inhalt"), this);
+    start->setObjectName(QStringLiteral("inhalt"));
+    leiste->addWidget(zurueck);
+    leiste->addWidget(start);
+    leiste->addStretch();
+    haupt->addLayout(leiste);
+
+    browser_ = new QTextBrowser(this);
+    browser_->setObjectName(QStringLiteral("browser"));
+    browser_->setOpenExternalLinks(true);
+    haupt->addWidget(browser_);
+    browser_->setSource(kStartseite);
+    resize(640, 560);
+
+    connect(browser_, &QTextBrowser::backwardAvailable, zurueck, &QPushButton::setEnabled);
+    connect(zurueck, &QPushButton::clicked, browser_, &QTextBrowser::backward);
+    connect(start, &QPushButton::clicked, browser_, [this] {
+        // Back to the guide's first topic, at the top even when the page was already shown.
+        browser_->home();
+        browser_->verticalScrollBar()->setValue(0);
+    });
+}
+
+HilfeFenster* HilfeFenster::offen() {
+    return g_offen.data();
+}
+
+void HilfeFenster::zeigen(QWidget* parent) {
+    if (!g_offen) {
+        auto* w = new HilfeFenster(parent);
+        w->setAttribute(Qt::WA_DeleteOnClose);
+        g_offen = w;
+    }
+    g_offen->show();
+    g_offen->raise();
+    g_offen->activateWindow();
+}
+
+} // namespace fuh

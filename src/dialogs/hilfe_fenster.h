@@ -1,0 +1,24 @@
+#pragma once
+// The help window: the guide from the program's resources in a browser with back and home.
+#include <QWidget>
+
+class QTextBrowser;
+
+namespace fuh {
+
+class HilfeFenster : public QWidget {
+    Q_OBJECT
+  public:
+    explicit HilfeFenster(QWidget* parent = nullptr);
+
+    static void zeigen(QWidget* parent);
+    // The open window, or nullptr.
+    static HilfeFenster* offen();
+
+    QTextBrowser* browser() const { return browser_; }
+
+  private:
+    QTextBrowser* browser_;
+};
+
+} // namespace fuh

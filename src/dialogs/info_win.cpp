@@ -1,0 +1,82 @@
+#include "dialogs/info_win.h"
+
+#include <QFont>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPointer>
+#include <QPushButton>
+#include <QSvgWidget>
+#include <QVBoxLayout>
+
+namespace fuh {
+
+namespace {
+QPointer<InfoWin> g_offen;
+}
+
+InfoWin::InfoWin(QWidget* parent) : QDialog(parent) {
+    setModal(false);
+    setWindowTitle(QStringLiteral("Info"));
+    if (!g_offen) g_offen = this;
+
+    auto* haupt = new QHBoxLayout(this);
+    auto* bilder = new QVBoxLayout;
+    for (int i = 1; i <= 4; ++i) {
+        auto* bild = new QSvgWidget(QStringLiteral(":/bilder/info%1.svg").arg(i), this);
+        bild->setObjectName(QStringLiteral("Image%1").arg(i));
+        bild->setFixedSize(32, 32);
+        bilder->addWidget(bild);
+    }
+    bilder->addStretch();
+    haupt->addLayout(bilder);
+
+    auto* texte = new QVBoxLayout;
+    auto text = [&](const QString& name, const QString& inhalt) {
+        auto* l = new QLabel(inhalt, this);
+        l->setObjectName(name);
+        l->setWordWrap(true);
+        texte->addWidget(l);
+        return l;
+    };
+    QLabel* titel = text(QStringLiteral("Label1"), QStringLiteral("Fuchs und Hennen 2026"));
+    QFont f = titel->font();
+    f.setBold(true);
+    titel->setFont(f);
+    text(QStringLiteral("Label2"), QStringLiteral("© 2026 Das Fuchs-und-Hennen-Team"));
+    text(QStringLiteral("Label3"),
+         QStringLiteral("Dank an Anna Gärtner und Paul Hofmann für ihre Geduld beim Testen"));
+    QLabel* mail = text(
+        QStringLiteral("email"),
+        QStringLiteral("<a href=\"mailto:fuchs-und-hennen@example.org\">fuchs-und-hennen@example.org</a>"));
+    mail->setTextFormat(Qt::RichText);
+    mail->setOpenExternalLinks(true);
+    mail->setTextInteractionFlags(Qt::TextBrowserInteraction);
+    text(QStringLiteral("Label4"),
+         QStringLiteral(
+             "Neue Versionen, Informationen und Neuigkeiten: https://example.org/fuchs-und-hennen"));
+    auto* ok = new QPushButton(QStringLiteral("Ok"), this);
+    ok->setObjectName(QStringLiteral("Command1"));
+    ok->setDefault(true);
+    texte->addWidget(ok, 0, Qt::AlignRight);
+    haupt->addLayout(texte);
+    setMinimumWidth(420);
+
+    connect(ok, &QPushButton::clicked, this, &QDialog::close);
+}
+
+InfoWin* InfoWin::offen() {
+    return g_offen.data();
+}
+
+void InfoWin::zeigen(QWidget* parent) {
+    if (!g_offen) {
+        auto* w = new InfoWin(parent);
+        w->setAttribute(Qt::WA_DeleteOnClose);
+        g_offen = w;
+    }
+    g_offen->show();
+    g_offen->raise();
+    g_offen->activateWindow();
+}
+
+} // namespace fuh

@@ -1,0 +1,24 @@
+#pragma once
+// The game's public variables: all that the other windows read and write of the running game.
+#include <cstdint>
+#include <string>
+
+namespace fuh {
+
+// The four settings; kept as read from the settings file, so any value must be handled safely.
+struct Einstellungen {
+    int16_t PC = 0;        // 0 the computer plays the foxes, 1 the hens, 2 both
+    int16_t Staerke = 0;   // 0, 1, 2 for strength 1, 2, 3
+    int16_t Lernmodus = 0; // 1 learning mode
+    int16_t Einzelzug = 0; // 1 single-move mode
+};
+
+struct Oeffentlich {
+    Einstellungen einst;
+    int16_t score = 0;                // points of the human side
+    std::string u_is_sieger = "    "; // "Ja", "Nein" or four blanks
+    bool fuchs_null = false;          // the penalty rule would have parked the last fox
+    bool sw_spielende = false;        // a finished game may still be entered in a high-score list
+};
+
+} // namespace fuh

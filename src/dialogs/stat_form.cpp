@@ -1,0 +1,124 @@
+#include "dialogs/stat_form.h"
+
+#include <QFrame>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include "dialogs/statistikdatei.h"
+
+namespace fuh {
+
+namespace {
+
+QLabel* wert(const QString& name, int zahl, QWidget* eltern, Qt::Alignment ausrichtung = Qt::AlignRight) {
+    auto* l = new QLabel(QString::number(zahl), eltern);
+    l->setObjectName(name);
+    l->setAlignment(ausrichtung | Qt::AlignVCenter);
+    l->setMinimumWidth(QFontMetrics(l->font()).horizontalAdvance(QStringLiteral("000000")));
+    return l;
+}
+
+QFrame* linie(QFrame::Shape form, QWidget* eltern) {
+    auto* f = new QFrame(eltern);
+    f->setFrameShape(form);
+    f->setFrameShadow(QFrame::Plain);
+    return f;
+}
+
+// Rows of "text: value", the values in one right-aligned column.
+QGridLayout* zeilen(std::initializer_list<std::pair<QString, QLabel*>> paare) {
+    auto* g = new QGridLayout;
+    int r = 0;
+    for (const auto& [text, label] : paare) {
+        g->addWidget(new QLabel(text), r, 0);
+        g->addWidget(label, r, 1);
+        ++r;
+    }
+    g->setColumnStretch(0, 1);
+    return g;
+}
+
+} // namespace
+
+StatForm::StatForm(std::filesystem::path ordner, QWidget* parent) : QDialog(parent) {
+    setAttribute(Qt::WA_DeleteOnClose);
+    setModal(false);
+    setWindowTitle(QStringLiteral("Statistik"));
+    const Statistik s = statistikLesen(ordner);
+
+    auto* haupt = new QVBoxLayout(this);
+
+    auto* oben = new QHBoxLayout;
+    // Started minus finished: games left by a new game or by closing the program.
+    oben->addLayout(
+        zeilen({{QStringLiteral("Spiele gesamt:"), wert(QStringLiteral("Spiele"), s.gestartet(), this)},
+                {QStringLiteral("abgebrochene:"),
+                 wert(QStringLiteral("abbruch"), s.gestartet() - s.beendet(), this)}}));
+    oben->addSpacing(24);
+    auto* ok = new QPushButton(QStringLiteral("Ok"), this);
+    ok->setObjectName(QStringLiteral("Command1"));
+    ok->setDefault(true);
+    oben->addWidget(ok, 0, Qt::AlignTop);
+    haupt->addLayout(oben);
+
+    auto* lernen = new QGroupBox(QStringLiteral("Lernmodus"), this);
+    lernen->setLayout(zeilen(
+        {{QStringLiteral("Spiele im Lernmodus:"), wert(QStringLiteral("gelernte"), s.imLernmodus(), lernen)},
+         {QStringLiteral("Bewertete Züge:"), wert(QStringLiteral("Zuge"), s.gelernt(), lernen)},
+         {QStringLiteral("Neue Züge aus letztem Spiel:"),
+          wert(QStringLiteral("Zugaenge"), s.gelerntLetztes(), lernen)}}));
+    haupt->addWidget(lernen);
+
+    // Columns: 0 row heads, 1 rule, 2..4 computer, 5 rule, 6..8 user.
+    // Rows: 0 side heads, 1 rule, 2 strengths, 3 rule, 4 hens, 5 foxes, 6 rule, 7 totals.
+    auto* siege = new QGroupBox(QStringLiteral("Siege"), this);
+    auto* t = new QGridLayout(siege);
+    t->setHorizontalSpacing(8);
+    t->setVerticalSpacing(2);
+    auto kopf = [&](const QString& text, int r, int c, int spalten = 1) {
+        auto* l = new QLabel(text, siege);
+        l->setAlignment(Qt::AlignCenter);
+        t->addWidget(l, r, c, 1, spalten);
+    };
+    kopf(QStringLiteral("Computer"), 0, 2, 3);
+    kopf(QStringLiteral("User"), 0, 6, 3);
+    t->addWidget(new QLabel(QStringLiteral("Stärke"), siege), 2, 0);
+    for (int k = 0; k < 3; ++k) {
+        kopf(QString::number(k + 1), 2, 2 + k);
+        kopf(QString::number(k + 1), 2, 6 + k);
+    }
+    t->addWidget(new QLabel(QStringLiteral("Hennen"), siege), 4, 0);
+    t->addWidget(new QLabel(QStringLiteral("Fuchs"), siege), 5, 0);
+    t->addWidget(new QLabel(QStringLiteral("Gesamt"), siege), 7, 0);
+    auto zelle = [&](int nr, int zahl) {
+        return wert(QStringLiteral("wert%1").arg(nr), zahl, siege, Qt::AlignHCenter);
+    };
+    int pc = 0;
+    int user = 0;
+    for (int k = 0; k < 3; ++k) {
+        const int werte[4] = {s.pcSiegeHennen(k), s.pcSiegeFuchs(k), s.userSiegeHennen(k),
+                              s.userSiegeFuchs(k)};
+        t->addWidget(zelle(k, werte[0]), 4, 2 + k);
+        t->addWidget(zelle(3 + k, werte[1]), 5, 2 + k);
+        t->addWidget(zelle(6 + k, werte[2]), 4, 6 + k);
+        t->addWidget(zelle(9 + k, werte[3]), 5, 6 + k);
+        pc += werte[0] + werte[1];
+        user += werte[2] + werte[3];
+    }
+    t->addWidget(zelle(12, pc), 7, 3);
+    t->addWidget(zelle(13, user), 7, 7);
+    for (const int r : {1, 3, 6})
+        t->addWidget(linie(QFrame::HLine, siege), r, 0, 1, 9);
+    for (const int c : {1, 5})
+        t->addWidget(linie(QFrame::VLine, siege), 0, c, 8, 1);
+    haupt->addWidget(siege);
+
+    haupt->setSizeConstraint(QLayout::SetFixedSize);
+    connect(ok, &QPushButton::clicked, this, &QDialog::close);
+}
+
+} // namespace fuh

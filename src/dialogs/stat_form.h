@@ -1,0 +1,14 @@
+#pragma once
+// The statistics window: counters of "QZ.sta" as read when the window opens.
+#include <QDialog>
+#include <filesystem>
+
+namespace fuh {
+
+class StatForm : public QDialog {
+    Q_OBJECT
+  public:
+    explicit StatForm(std::filesystem::path ordner, QWidget* parent = nullptr);
+};
+
+} // namespace fuh

@@ -1,0 +1,70 @@
+#include "dialogs/statistikdatei.h"
+
+#include <algorithm>
+
+#include "memory/satzdatei.h"
+
+namespace fuh {
+
+namespace {
+
+constexpr std::size_t kZaehler = 17;
+
+void addiere(int16_t& z, int n) {
+    // The counters are 16-bit; a long-used file must not wrap around to negative numbers.
+    z = static_cast<int16_t>(std::clamp(static_cast<int>(z) + n, -32768, 32767));
+}
+
+Statistik auslesen(const Bytes& b) {
+    Statistik s;
+    for (std::size_t i = 0; i < kZaehler; ++i)
+        s.zaehler[i] = le16(b, 2 * i);
+    return s;
+}
+
+// Reads the whole file, lets `aendern` update the counters and writes them back over the first record.
+template <class F> bool fortschreiben(const std::filesystem::path& ordner, F aendern) {
+    const auto pfad = datenpfad(ordner, kStatistikdatei);
+    auto inhalt = dateiLesen(pfad);
+    if (!inhalt) return false;
+    Statistik s = auslesen(*inhalt);
+    aendern(s.zaehler);
+    for (std::size_t i = 0; i < kZaehler; ++i)
+        setzeLe16(*inhalt, 2 * i, s.zaehler[i]);
+    return dateiSchreiben(pfad, *inhalt);
+}
+
+} // namespace
+
+Statistik statistikLesen(const std::filesystem::path& ordner) {
+    const auto inhalt = dateiLesen(datenpfad(ordner, kStatistikdatei), 2 * kZaehler);
+    return inhalt ? auslesen(*inhalt) : Statistik{};
+}
+
+bool statistik(const std::filesystem::path& ordner, int ergebnis, const Einstellungen& e, int16_t neueZuege) {
+    return fortschreiben(ordner, [&](std::array<int16_t, 17>& z) {
+        addiere(z[0], 1);
+        if (e.Lernmodus == 1) {
+            addiere(z[1], 1);
+            addiere(z[15], neueZuege);
+            z[16] = neueZuege;
+        }
+        // Settings come unchecked from QZ.INI; an unknown strength counts the game but no win.
+        if (e.Staerke < 0 || e.Staerke > 2) return;
+        const int s = e.Staerke;
+        if (ergebnis == 2 && (e.PC == 0 || e.PC == 2))
+            addiere(z[2 + s], 1);
+        else if (ergebnis == 1 && e.PC == 0)
+            addiere(z[11 + s], 1);
+        else if (ergebnis == 1 && (e.PC == 1 || e.PC == 2))
+            addiere(z[5 + s], 1);
+        else if (ergebnis == 2 && e.PC == 1)
+            addiere(z[8 + s], 1);
+    });
+}
+
+bool spielGestartet(const std::filesystem::path& ordner) {
+    return fortschreiben(ordner, [](std::array<int16_t, 17>& z) { addiere(z[14], 1); });
+}
+
+} // namespace fuh

@@ -1,0 +1,15 @@
+#pragma once
+// The status bar texts for the side the computer plays and the strength.
+#include <optional>
+#include <string>
+
+namespace fuh {
+
+// Panel 1 for PC 0, 1, 2; nullopt for any other value (the panel keeps its text).
+std::optional<std::string> pcStatustext(int PC);
+// Panel 2 for Staerke 0, 1, 2 as the game's initialisation writes it.
+std::optional<std::string> staerkeStatustext(int Staerke);
+// Panel 2 as the settings dialog writes it on confirmation ("SPielstärke 3" for strength 3).
+std::optional<std::string> staerkeStatustextDialog(int Staerke);
+
+} // namespace fuh

@@ -1,0 +1,217 @@
+#include "game/brett_fenster.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QIcon>
+#include <QLabel>
+#include <QLayout>
+#include <QLibraryInfo>
+#include <QMenu>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QStatusBar>
+#include <QTime>
+#include <QTranslator>
+#include <utility>
+
+#include "dialogs/einst_dialog.h"
+#include "dialogs/highscore_fenster.h"
+#include "dialogs/hilfe_fenster.h"
+#include "dialogs/info_win.h"
+#include "dialogs/stat_form.h"
+#include "game/brett_flaeche.h"
+#include "game/spiel.h"
+
+namespace fuh {
+
+namespace {
+
+uint32_t sekundenSeitMitternacht() {
+    return static_cast<uint32_t>(QTime::currentTime().msecsSinceStartOfDay() / 1000);
+}
+
+// The other windows are modeless and free themselves when closed.
+template <class W> W* alsFenster(W* w) {
+    w->setAttribute(Qt::WA_DeleteOnClose);
+    return w;
+}
+
+void hervorholen(QWidget* w) {
+    w->show();
+    w->raise();
+    w->activateWindow();
+}
+
+} // namespace
+
+BrettFenster::BrettFenster(std::filesystem::path ordner, QWidget* parent)
+    : BrettFenster(std::move(ordner), sekundenSeitMitternacht(), parent) {}
+
+BrettFenster::BrettFenster(std::filesystem::path ordner, uint32_t startzeit, QWidget* parent)
+    : QMainWindow(parent) {
+    setObjectName(QStringLiteral("brett"));
+    setWindowTitle(QString::fromUtf8(kTitel));
+    setWindowIcon(QIcon(QStringLiteral(":/bilder/app.svg")));
+
+    brett_ = new BrettFlaeche([this] { return spiel_->ziehbar(); }, this);
+    setCentralWidget(brett_);
+    menueAnlegen();
+    statusleisteAnlegen();
+    layout()->setSizeConstraint(QLayout::SetFixedSize);
+
+    spiel_ = std::make_unique<Spiel>(*this, zufall_, std::move(ordner));
+    connect(brett_, &BrettFlaeche::figurGedrueckt, this,
+            [this](int k, int button) { spiel_->figur_MouseDown(k, button); });
+    connect(brett_, &BrettFlaeche::abgelegt, this, [this](int t, int k) { spiel_->platz_DragDrop(t, k); });
+
+    spiel_->Form_Load(startzeit);
+    bilderAbgleichen();
+
+    timer1_.setInterval(500);
+    connect(&timer1_, &QTimer::timeout, this, &BrettFenster::Timer1_Timer);
+    timer1_.start();
+}
+
+BrettFenster::~BrettFenster() {
+    timer1_.stop();
+    // Windows that refer to the game's public variables must go before the game does.
+    for (QWidget* w : {static_cast<QWidget*>(einst_.data()), static_cast<QWidget*>(highscore_[0].data()),
+                       static_cast<QWidget*>(highscore_[1].data())})
+        delete w;
+}
+
+void BrettFenster::anwendungEinrichten(QApplication& app) {
+    QApplication::setApplicationName(QString::fromUtf8(kTitel));
+    QApplication::setApplicationDisplayName(QString::fromUtf8(kTitel));
+    QApplication::setWindowIcon(QIcon(QStringLiteral(":/bilder/app.svg")));
+    auto* uebersetzung = new QTranslator(&app);
+    if (uebersetzung->load(QStringLiteral("qtbase_de"), QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+        QApplication::installTranslator(uebersetzung);
+    else
+        delete uebersetzung;
+}
+
+void BrettFenster::menueAnlegen() {
+    auto aktion = [this](QMenu* menue, const char* name, const QString& text, auto slot) {
+        QAction* a = menue->addAction(text);
+        a->setObjectName(QString::fromLatin1(name));
+        connect(a, &QAction::triggered, this, slot);
+        return a;
+    };
+
+    QMenu* spielMenue = menuBar()->addMenu(QStringLiteral("&Spiel"));
+    spielMenue->setObjectName(QStringLiteral("Spiel"));
+    aktion(spielMenue, "start", QStringLiteral("&Start"), [this] { spiel_->start_Click(); });
+    aktion(spielMenue, "Neu", QStringLiteral("&Neu"), [this] { spiel_->Neu_Click(); });
+    spielMenue->addSeparator();
+    aktion(spielMenue, "Beenden", QStringLiteral("&Beenden"), [] { QApplication::quit(); });
+
+    // A command right on the menu bar, as the game has always had it.
+    QAction* einstellungen = menuBar()->addAction(QStringLiteral("&Einstellungen"));
+    einstellungen->setObjectName(QStringLiteral("Einstellungen"));
+    connect(einstellungen, &QAction::triggered, this, &BrettFenster::einstellungenZeigen);
+
+    QMenu* ergebnisse = menuBar()->addMenu(QStringLiteral("E&rgebnisse"));
+    ergebnisse->setObjectName(QStringLiteral("Ergebnisse"));
+    aktion(ergebnisse, "Stt", QStringLiteral("&Statistik"), [this] { statistikZeigen(); });
+    aktion(ergebnisse, "highfu", QStringLiteral("Highscore &Fuchs"),
+           [this] { highscoreZeigen(Seite::Fuchs); });
+    aktion(ergebnisse, "highhe", QStringLiteral("Highscore &Hennen"),
+           [this] { highscoreZeigen(Seite::Hennen); });
+
+    QMenu* hilfe = menuBar()->addMenu(QStringLiteral("&Hilfe"));
+    hilfe->setObjectName(QStringLiteral("Hilfe"));
+    aktion(hilfe, "help", QStringLiteral("&Hilfe"), [this] { HilfeFenster::zeigen(this); });
+    aktion(hilfe, "info", QStringLiteral("&Info"), [this] { InfoWin::zeigen(this); });
+}
+
+void BrettFenster::statusleisteAnlegen() {
+    QStatusBar* leiste = statusBar();
+    leiste->setObjectName(QStringLiteral("StatusBar1"));
+    leiste->setSizeGripEnabled(false);
+    const std::array<int, 3> anteile = {2, 1, 1};
+    for (size_t i = 0; i < panels_.size(); ++i) {
+        auto* label = new QLabel(leiste);
+        label->setObjectName(QStringLiteral("panel%1").arg(i + 1));
+        label->setMinimumWidth(1); // long texts must not widen the fixed window
+        leiste->addWidget(label, anteile[i]);
+        panels_[i] = label;
+    }
+}
+
+void BrettFenster::bilderAbgleichen() {
+    const Figurbilder& b = spiel_->bilder();
+    for (int k = 0; k < kFiguren; ++k) {
+        brett_->figurSetzen(k, b.left[k], b.top[k]);
+        brett_->figurZeigen(k, b.sichtbar[k]);
+    }
+}
+
+void BrettFenster::Timer1_Timer() {
+    timer1_.stop();
+    spiel_->Timer1_Timer();
+    timer1_.start();
+}
+
+void BrettFenster::figurBewegt(int k, int left, int top) {
+    brett_->figurSetzen(k, left, top);
+}
+
+void BrettFenster::figurSichtbar(int k, bool sichtbar) {
+    brett_->figurZeigen(k, sichtbar);
+}
+
+void BrettFenster::figurenZiehbar(bool ziehbar) {
+    if (!ziehbar) brett_->ziehenAbbrechen();
+}
+
+void BrettFenster::hinweis(Hinweis h, bool sichtbar) {
+    brett_->hinweisZeigen(h, sichtbar);
+}
+
+void BrettFenster::status(int nummer, const std::string& text) {
+    if (nummer >= 1 && nummer <= 3) panel(nummer)->setText(QString::fromStdString(text));
+}
+
+void BrettFenster::meldung(const std::string& text) {
+    // The game is in the middle of a procedure: no tick may enter it while the message is open.
+    const bool tickte = timer1_.isActive();
+    timer1_.stop();
+    QMessageBox box(QMessageBox::NoIcon, QString::fromUtf8(kTitel), QString::fromStdString(text),
+                    QMessageBox::Ok, this);
+    box.exec();
+    if (tickte) timer1_.start();
+}
+
+void BrettFenster::oeffnen(Fenster f) {
+    highscoreZeigen(f == Fenster::highf ? Seite::Fuchs : Seite::Hennen);
+}
+
+void BrettFenster::einstellungenZeigen() {
+    if (!einst_) {
+        einst_ = alsFenster(new EinstDialog(
+            spiel_->oeffentlich(), spiel_->ordner(),
+            [this](int nummer, const QString& text) {
+                if (nummer >= 1 && nummer <= 3) panel(nummer)->setText(text);
+            },
+            [this](const Einstellungen& e) { spiel_->einstellungenUebernehmen(e); }, this));
+    }
+    hervorholen(einst_);
+}
+
+void BrettFenster::statistikZeigen() {
+    // A fresh window reads the counters as they are now.
+    if (stat_) stat_->close();
+    stat_ = alsFenster(new StatForm(spiel_->ordner(), this));
+    hervorholen(stat_);
+}
+
+void BrettFenster::highscoreZeigen(Seite seite) {
+    QPointer<HighscoreFenster>& offen = highscore_[seite == Seite::Fuchs ? 0 : 1];
+    // A fresh window enters a just finished game and shows the list as it is now.
+    if (offen) offen->close();
+    offen = alsFenster(new HighscoreFenster(seite, spiel_->oeffentlich(), spiel_->ordner(), this));
+    hervorholen(offen);
+}
+
+} // namespace fuh

@@ -1,0 +1,76 @@
+#pragma once
+// The main window ("brett"): shows the board, forwards every event to the game in one call and
+// carries out what the game asks of the screen.
+#include <QMainWindow>
+#include <QPointer>
+#include <QTimer>
+#include <array>
+#include <cstdint>
+#include <filesystem>
+#include <memory>
+
+#include "board/ansicht.h"
+#include "board/zufall.h"
+#include "dialogs/bestenliste.h"
+
+class QApplication;
+class QLabel;
+
+namespace fuh {
+
+class BrettFlaeche;
+class EinstDialog;
+class HighscoreFenster;
+class Spiel;
+class StatForm;
+
+inline constexpr const char* kTitel = "Fuchs und Hennen";
+
+class BrettFenster : public QMainWindow, public Ansicht {
+    Q_OBJECT
+  public:
+    // `ordner` holds the data files. The game starts as at the current time of day.
+    explicit BrettFenster(std::filesystem::path ordner, QWidget* parent = nullptr);
+    // As above with a fixed start time (seconds since midnight), which seeds the random source.
+    BrettFenster(std::filesystem::path ordner, uint32_t startzeit, QWidget* parent = nullptr);
+    ~BrettFenster() override;
+
+    // Application names and Qt's German texts for standard buttons; call once before any window.
+    static void anwendungEinrichten(QApplication& app);
+
+    Spiel& spiel() { return *spiel_; }
+    BrettFlaeche* brett() const { return brett_; }
+    QTimer& timer1() { return timer1_; }
+    QLabel* panel(int nummer) const { return panels_.at(static_cast<size_t>(nummer - 1)); }
+
+    // Ansicht
+    void figurBewegt(int k, int left, int top) override;
+    void figurSichtbar(int k, bool sichtbar) override;
+    void figurenZiehbar(bool ziehbar) override;
+    void hinweis(Hinweis h, bool sichtbar) override;
+    void status(int panel, const std::string& text) override;
+    void meldung(const std::string& text) override;
+    void oeffnen(Fenster f) override;
+
+  public slots:
+    void Timer1_Timer();
+
+  private:
+    void menueAnlegen();
+    void statusleisteAnlegen();
+    void bilderAbgleichen();
+    void einstellungenZeigen();
+    void statistikZeigen();
+    void highscoreZeigen(Seite seite);
+
+    Zufall zufall_;
+    std::unique_ptr<Spiel> spiel_;
+    BrettFlaeche* brett_ = nullptr;
+    std::array<QLabel*, 3> panels_{};
+    QTimer timer1_;
+    QPointer<EinstDialog> einst_;
+    QPointer<StatForm> stat_;
+    std::array<QPointer<HighscoreFenster>, 2> highscore_{};
+};
+
+} // namespace fuh

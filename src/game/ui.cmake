@@ -1,0 +1,9 @@
+# The Qt windows of the game; included by CMakeLists.txt when FUH_GUI is on.
+add_library(fuh_game_ui STATIC
+  brett_fenster.cpp brett_fenster.h
+  brett_flaeche.cpp brett_flaeche.h
+  svg_bild.cpp svg_bild.h)
+target_link_libraries(fuh_game_ui PUBLIC fuh_game fuh_dialogs_ui Qt6::Widgets Qt6::Svg Qt6::SvgWidgets)
+
+add_executable(fuchs-und-hennen main.cpp)
+target_link_libraries(fuchs-und-hennen PRIVATE fuh_game_ui)

@@ -1,0 +1,228 @@
+#include "dialogs/bestenliste.h"
+
+#include <cmath>
+#include <gtest/gtest.h>
+
+#include "testdateien.h"
+
+namespace fuh {
+namespace {
+
+using test::TempOrdner;
+using B = std::vector<uint8_t>;
+using test::hsSatz;
+
+constexpr double kHeute = 45000; // 15 March 2023
+
+// A full list: row i holds score `scores[i]` and the name "Spieler<i>".
+B liste(const std::vector<int16_t>& scores) {
+    B b;
+    for (std::size_t i = 0; i < scores.size(); ++i) {
+        const B s = hsSatz(44000 + static_cast<double>(i), scores[i], "Spieler" + std::to_string(i), "Nein");
+        b.insert(b.end(), s.begin(), s.end());
+    }
+    return b;
+}
+
+std::vector<int> scoresVon(const Bestenliste& l) {
+    std::vector<int> v;
+    for (const Eintrag& e : l.eintraege())
+        v.push_back(e.score);
+    return v;
+}
+
+std::string blank(std::string s) {
+    s.resize(15, ' ');
+    return s;
+}
+
+TEST(Bestenliste, ErsterEintragInLeereListe) {
+    TempOrdner t;
+    Bestenliste l(Seite::Hennen);
+    l.laden(t.pfad());
+    Oeffentlich spiel;
+    spiel.score = 50;
+    spiel.u_is_sieger = "Ja";
+    spiel.sw_spielende = true;
+    ASSERT_EQ(l.anzeigen(spiel, kHeute), 0);
+    EXPECT_FALSE(spiel.sw_spielende);
+    EXPECT_EQ(l.neuePos(), 0);
+    l.nameSetzen("Jörg");
+    ASSERT_TRUE(l.speichern(t.pfad()));
+
+    const B datei = t.lesen("QZH.sco");
+    ASSERT_EQ(datei.size(), 290u);
+    const B erwartet0 = {0x00, 0x00, 0x00, 0x00, 0x00, 0xF9, 0xE5, 0x40, // 45000.0
+                         0x32, 0x00,                                     // 50
+                         0x4A, 0xF6, 0x72, 0x67, 0x20, 0x20, 0x20, 0x20,
+                         0x20, 0x20, 0x20, 0x20, 0x20, 0x20, 0x20, // "Jörg" in Windows-1252, blank padded
+                         0x4A, 0x61, 0x20, 0x20};                  // "Ja  "
+    EXPECT_EQ(B(datei.begin(), datei.begin() + 29), erwartet0);
+    EXPECT_EQ(B(datei.begin() + 29, datei.end()), B(261, 0)); // untouched rows stay empty
+    EXPECT_EQ(t.namen(), std::vector<std::string>{"QZH.sco"});
+}
+
+TEST(Bestenliste, GleichstandKommtUeberAeltereZeile) {
+    TempOrdner t;
+    t.schreiben("QZF.sco", liste({90, 80, 70, 60, 50, 40, 30, 20, 10, 5}));
+    Bestenliste l(Seite::Fuchs);
+    l.laden(t.pfad());
+    ASSERT_EQ(l.einfuegen(60, "Nein", kHeute), 3);
+    EXPECT_EQ(scoresVon(l), (std::vector<int>{90, 80, 70, 60, 60, 50, 40, 30, 20, 10}));
+    const auto& e = l.eintraege();
+    EXPECT_EQ(e[3].datum, kHeute);
+    EXPECT_EQ(e[3].sieg, "Nein");
+    // Until a name is typed the new row shows the name of the entry that moved down.
+    EXPECT_EQ(e[3].user, blank("Spieler3"));
+    EXPECT_EQ(e[4].user, blank("Spieler3"));
+    EXPECT_EQ(e[4].datum, 44003);
+    EXPECT_EQ(e[9].user, blank("Spieler8"));
+    l.nameSetzen("Eva");
+    EXPECT_EQ(l.eintraege()[3].user, blank("Eva"));
+    EXPECT_EQ(l.eintraege()[4].user, blank("Spieler3"));
+}
+
+TEST(Bestenliste, UnterAllenEintraegenKeinPlatz) {
+    TempOrdner t;
+    const B vorher = liste({100, 90, 80, 70, 60, 50, 40, 30, 20, 10});
+    t.schreiben("QZH.sco", vorher);
+    Bestenliste l(Seite::Hennen);
+    l.laden(t.pfad());
+    EXPECT_EQ(l.einfuegen(9, "Ja", kHeute), 10);
+    EXPECT_EQ(l.neuePos(), 10);
+    l.nameSetzen("Niemand"); // no new row: nothing changes
+    ASSERT_TRUE(l.speichern(t.pfad()));
+    EXPECT_EQ(t.lesen("QZH.sco"), vorher);
+}
+
+TEST(Bestenliste, WannEingetragenWird) {
+    struct Fall {
+        Seite seite;
+        bool spielende;
+        int16_t score;
+        bool fuchsNull;
+        int erwartet;
+    };
+    const Fall faelle[] = {
+        {Seite::Hennen, true, 1, false, 0},   {Seite::Hennen, true, 0, false, 10},
+        {Seite::Hennen, true, -5, false, 10}, {Seite::Hennen, false, 40, false, 10},
+        {Seite::Hennen, true, 40, true, 0}, // the penalty rule only concerns the foxes
+        {Seite::Fuchs, true, 40, false, 0},   {Seite::Fuchs, true, 40, true, 10},
+        {Seite::Fuchs, true, -1, false, 10},
+    };
+    for (const Fall& f : faelle) {
+        SCOPED_TRACE(testing::Message() << (f.seite == Seite::Fuchs ? "Fuchs " : "Hennen ") << f.spielende
+                                        << ' ' << f.score << ' ' << f.fuchsNull);
+        Bestenliste l(f.seite);
+        Oeffentlich spiel;
+        spiel.sw_spielende = f.spielende;
+        spiel.score = f.score;
+        spiel.fuchs_null = f.fuchsNull;
+        EXPECT_EQ(l.anzeigen(spiel, kHeute), f.erwartet);
+        EXPECT_EQ(l.neuePos(), f.erwartet);
+        EXPECT_FALSE(spiel.sw_spielende);
+        EXPECT_EQ(l.eintraege()[0].score, f.erwartet == 0 ? f.score : 0);
+    }
+}
+
+TEST(Bestenliste, NamenUndSiegtextAufFesteBreite) {
+    Bestenliste l(Seite::Hennen);
+    ASSERT_EQ(l.einfuegen(7, "Neinnein", kHeute), 0);
+    EXPECT_EQ(l.eintraege()[0].sieg, "Nein");
+    ASSERT_EQ(l.einfuegen(8, "", kHeute), 0);
+    EXPECT_EQ(l.eintraege()[0].sieg, "    ");
+
+    l.nameSetzen("Maximilian-Alexander");
+    EXPECT_EQ(l.eintraege()[0].user, "Maximilian-Alex");
+    // Cut after conversion: fifteen single-byte characters, umlauts included.
+    l.nameSetzen("ÄÖÜäöüßÄÖÜäöüßÄÖÜ");
+    EXPECT_EQ(l.eintraege()[0].user, "\xC4\xD6\xDC\xE4\xF6\xFC\xDF\xC4\xD6\xDC\xE4\xF6\xFC\xDF\xC4");
+    l.nameSetzen("");
+    EXPECT_EQ(l.eintraege()[0].user, std::string(15, ' '));
+}
+
+TEST(Windows1252, Umwandlung) {
+    struct Fall {
+        std::string utf8, bytes;
+    };
+    const Fall faelle[] = {
+        {"Jörg", "\x4A\xF6\x72\x67"},
+        {"€ ‚ ƒ „ … † ‡ ˆ ‰ Š ‹ Œ Ž", "\x80 \x82 \x83 \x84 \x85 \x86 \x87 \x88 \x89 \x8A \x8B \x8C \x8E"},
+        {"‘’“”•–—˜™š›œžŸ", "\x91\x92\x93\x94\x95\x96\x97\x98\x99\x9A\x9B\x9C\x9E\x9F"},
+        {"\u00A0¡ÿßé", "\xA0\xA1\xFF\xDF\xE9"},
+    };
+    for (const Fall& f : faelle) {
+        SCOPED_TRACE(f.utf8);
+        EXPECT_EQ(nachWindows1252(f.utf8), f.bytes);
+        EXPECT_EQ(vonWindows1252(f.bytes), f.utf8);
+    }
+    // Characters outside the code page and broken UTF-8 each become one '?'.
+    EXPECT_EQ(nachWindows1252("a漢b😀c"), "a?b?c");
+    EXPECT_EQ(nachWindows1252("\xC3\x28\xC0\x80x\xC3"), "?(??x?"); // cut, overlong, at the end
+
+    // Every byte survives the way through UTF-8, the unassigned ones too.
+    std::string alle;
+    for (int b = 0; b < 256; ++b)
+        alle += static_cast<char>(b);
+    EXPECT_EQ(nachWindows1252(vonWindows1252(alle)), alle);
+}
+
+TEST(Bestenliste, SpeichernUndLadenErgebenDieselbeListe) {
+    TempOrdner t;
+    t.schreiben("QZF.sco", liste({300, 200, 100, 90, 80, -3}));
+    Bestenliste l(Seite::Fuchs);
+    l.laden(t.pfad());
+    EXPECT_EQ(scoresVon(l), (std::vector<int>{300, 200, 100, 90, 80, -3, 0, 0, 0, 0}));
+    ASSERT_EQ(l.einfuegen(150, "Ja", kHeute), 2);
+    l.nameSetzen("Zoë");
+    ASSERT_TRUE(l.speichern(t.pfad()));
+
+    Bestenliste neu(Seite::Fuchs);
+    neu.laden(t.pfad());
+    for (std::size_t i = 0; i < 10; ++i) {
+        SCOPED_TRACE(i);
+        EXPECT_EQ(neu.eintraege()[i].datum, l.eintraege()[i].datum);
+        EXPECT_EQ(neu.eintraege()[i].score, l.eintraege()[i].score);
+        EXPECT_EQ(neu.eintraege()[i].user, l.eintraege()[i].user);
+        EXPECT_EQ(neu.eintraege()[i].sieg, l.eintraege()[i].sieg);
+    }
+    EXPECT_EQ(neu.eintraege()[2].user, blank("Zo\xEB"));
+    EXPECT_EQ(neu.eintraege()[6].user, blank("Spieler5"));
+    EXPECT_EQ(neu.eintraege()[7].user, std::string(15, '\0'));
+}
+
+TEST(Bestenliste, BeschaedigteDateien) {
+    TempOrdner t;
+    // Short: a record and a half; the rest reads as zeros.
+    B kurz = hsSatz(std::nan(""), 77, "Kurt", "Ja");
+    kurz.insert(kurz.end(), {1, 2, 3, 4, 5, 6, 7, 8, 0x10, 0x00, 'A'});
+    t.schreiben("QZH.sco", kurz);
+    Bestenliste l(Seite::Hennen);
+    l.laden(t.pfad());
+    EXPECT_TRUE(std::isnan(l.eintraege()[0].datum));
+    EXPECT_EQ(l.eintraege()[0].score, 77);
+    EXPECT_EQ(l.eintraege()[1].score, 16);
+    EXPECT_EQ(l.eintraege()[1].user, std::string("A") + std::string(14, '\0'));
+    EXPECT_EQ(l.eintraege()[1].sieg, std::string(4, '\0'));
+    EXPECT_EQ(l.eintraege()[2].score, 0);
+    EXPECT_EQ(l.einfuegen(20, "Ja", kHeute), 1);
+
+    // Oversized: only the ten records count, and what follows them is left alone on saving.
+    B gross = liste({10, 9, 8, 7, 6, 5, 4, 3, 2, 1});
+    gross.insert(gross.end(), {0xFF, 0x7F, 0xFF, 0x7F});
+    t.schreiben("QZF.sco", gross);
+    Bestenliste f(Seite::Fuchs);
+    f.laden(t.pfad());
+    EXPECT_EQ(scoresVon(f), (std::vector<int>{10, 9, 8, 7, 6, 5, 4, 3, 2, 1}));
+    ASSERT_TRUE(f.speichern(t.pfad()));
+    EXPECT_EQ(t.lesen("QZF.sco"), gross);
+
+    // Infinite dates and scores at the limits load like any other.
+    t.schreiben("QZF.sco", hsSatz(-HUGE_VAL, -32768, "", ""));
+    f.laden(t.pfad());
+    EXPECT_TRUE(std::isinf(f.eintraege()[0].datum));
+    EXPECT_EQ(f.einfuegen(-32768, "Ja", kHeute), 0);
+}
+
+} // namespace
+} // namespace fuh
