@@ -3,7 +3,7 @@ BUILD ?= build
 JOBS ?= $(shell nproc 2>/dev/null || echo 2)
 DATA_DIR ?= $(or $(XDG_DATA_HOME),$(HOME)/.local/share)/fuchs-und-hennen
 
-.PHONY: run test build deps sanitize clean format
+.PHONY: run test build deps sanitize bench clean format
 
 deps:
 	@scripts/install-deps
@@ -24,6 +24,9 @@ sanitize: deps
 	cmake -S . -B build-asan -DCMAKE_BUILD_TYPE=Debug -DFUH_SANITIZE=ON $(CMAKE_FLAGS)
 	cmake --build build-asan -j $(JOBS)
 	cd build-asan && QT_QPA_PLATFORM=offscreen ASAN_OPTIONS=detect_leaks=0 UBSAN_OPTIONS=halt_on_error=1:print_stacktrace=1 ctest --output-on-failure -j $(JOBS)
+
+bench: build
+	$(BUILD)/src/tools/benchmarks
 
 format:
 	find src tests -name '*.cpp' -o -name '*.h' | xargs clang-format -i

@@ -15,6 +15,8 @@ class Ansicht {
     virtual ~Ansicht() = default;
     // A piece image moved; the screen repaints it at once (slides show every step).
     virtual void figurBewegt(int k, int left, int top) = 0;
+    // One of the 100 steps of a computer piece's slide; a screen may pause briefly so the slide is seen.
+    virtual void figurGleitet(int k, int left, int top) { figurBewegt(k, left, top); }
     virtual void figurSichtbar(int k, bool sichtbar) = 0;
     // All pieces draggable (automatic drag mode) or locked.
     virtual void figurenZiehbar(bool ziehbar) = 0;

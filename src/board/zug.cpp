@@ -20,7 +20,7 @@ void gleiten(Figurbilder& bilder, Ansicht& ansicht, int k, int zielLeft, int zie
         T0 = wrap16(T0 + dT);
         bilder.left[k] = L0;
         bilder.top[k] = T0;
-        ansicht.figurBewegt(k, L0, T0);
+        ansicht.figurGleitet(k, L0, T0);
     }
 }
 

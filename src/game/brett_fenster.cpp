@@ -2,6 +2,7 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QGuiApplication>
 #include <QIcon>
 #include <QLabel>
 #include <QLayout>
@@ -12,6 +13,7 @@
 #include <QStatusBar>
 #include <QTime>
 #include <QTranslator>
+#include <thread>
 #include <utility>
 
 #include "dialogs/einst_dialog.h"
@@ -48,7 +50,7 @@ BrettFenster::BrettFenster(std::filesystem::path ordner, QWidget* parent)
     : BrettFenster(std::move(ordner), sekundenSeitMitternacht(), parent) {}
 
 BrettFenster::BrettFenster(std::filesystem::path ordner, uint32_t startzeit, QWidget* parent)
-    : QMainWindow(parent) {
+    : QMainWindow(parent), gleitpause_(QGuiApplication::platformName() == QLatin1String("offscreen") ? 0 : 2000) {
     setObjectName(QStringLiteral("brett"));
     setWindowTitle(QString::fromUtf8(kTitel));
     setWindowIcon(QIcon(QStringLiteral(":/bilder/app.svg")));
@@ -155,6 +157,11 @@ void BrettFenster::Timer1_Timer() {
 
 void BrettFenster::figurBewegt(int k, int left, int top) {
     brett_->figurSetzen(k, left, top);
+}
+
+void BrettFenster::figurGleitet(int k, int left, int top) {
+    brett_->figurSetzen(k, left, top);
+    if (gleitpause_.count() > 0) std::this_thread::sleep_for(gleitpause_);
 }
 
 void BrettFenster::figurSichtbar(int k, bool sichtbar) {

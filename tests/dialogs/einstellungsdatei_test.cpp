@@ -1,7 +1,6 @@
 #include "dialogs/einstellungsdatei.h"
 
 #include <gtest/gtest.h>
-#include <unistd.h>
 
 #include "dialogs/statustexte.h"
 #include "testdateien.h"
