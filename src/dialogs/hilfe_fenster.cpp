@@ -1,7 +1,6 @@
 #include "dialogs/hilfe_fenster.h"
 
 #include <QHBoxLayout>
-#include <QPointer>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QTextBrowser>
@@ -11,13 +10,11 @@
 namespace fuh {
 
 namespace {
-QPointer<HilfeFenster> g_offen;
 const QUrl kStartseite(QStringLiteral("qrc:/hilfe/ratgeber.html"));
 } // namespace
 
 HilfeFenster::HilfeFenster(QWidget* parent) : QWidget(parent, Qt::Window) {
     setWindowTitle(QStringLiteral("Fuchs und Hennen – Hilfe"));
-    if (!g_offen) g_offen = this;
 
     auto* haupt = new QVBoxLayout(this);
     auto* leiste = new QHBoxLayout;
@@ -45,21 +42,6 @@ HilfeFenster::HilfeFenster(QWidget* parent) : QWidget(parent, Qt::Window) {
         browser_->home();
         browser_->verticalScrollBar()->setValue(0);
     });
-}
-
-HilfeFenster* HilfeFenster::offen() {
-    return g_offen.data();
-}
-
-void HilfeFenster::zeigen(QWidget* parent) {
-    if (!g_offen) {
-        auto* w = new HilfeFenster(parent);
-        w->setAttribute(Qt::WA_DeleteOnClose);
-        g_offen = w;
-    }
-    g_offen->show();
-    g_offen->raise();
-    g_offen->activateWindow();
 }
 
 } // namespace fuh

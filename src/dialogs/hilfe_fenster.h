@@ -11,10 +11,6 @@ class HilfeFenster : public QWidget {
   public:
     explicit HilfeFenster(QWidget* parent = nullptr);
 
-    static void zeigen(QWidget* parent);
-    // The open window, or nullptr.
-    static HilfeFenster* offen();
-
     QTextBrowser* browser() const { return browser_; }
 
   private:

@@ -3,21 +3,15 @@
 #include <QFont>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QPointer>
 #include <QPushButton>
 #include <QSvgWidget>
 #include <QVBoxLayout>
 
 namespace fuh {
 
-namespace {
-QPointer<InfoWin> g_offen;
-}
-
 InfoWin::InfoWin(QWidget* parent) : QDialog(parent) {
     setModal(false);
     setWindowTitle(QStringLiteral("Info"));
-    if (!g_offen) g_offen = this;
 
     auto* haupt = new QHBoxLayout(this);
     auto* bilder = new QVBoxLayout;
@@ -62,21 +56,6 @@ InfoWin::InfoWin(QWidget* parent) : QDialog(parent) {
     setMinimumWidth(420);
 
     connect(ok, &QPushButton::clicked, this, &QDialog::close);
-}
-
-InfoWin* InfoWin::offen() {
-    return g_offen.data();
-}
-
-void InfoWin::zeigen(QWidget* parent) {
-    if (!g_offen) {
-        auto* w = new InfoWin(parent);
-        w->setAttribute(Qt::WA_DeleteOnClose);
-        g_offen = w;
-    }
-    g_offen->show();
-    g_offen->raise();
-    g_offen->activateWindow();
 }
 
 } // namespace fuh

@@ -1,5 +1,5 @@
 #pragma once
-// The about box. There is only ever one; asking for it again brings the open one forward.
+// The about box: title, credits, contact address and four pictures; Ok closes it.
 #include <QDialog>
 
 namespace fuh {
@@ -8,10 +8,6 @@ class InfoWin : public QDialog {
     Q_OBJECT
   public:
     explicit InfoWin(QWidget* parent = nullptr);
-
-    static void zeigen(QWidget* parent);
-    // The open box, or nullptr.
-    static InfoWin* offen();
 };
 
 } // namespace fuh

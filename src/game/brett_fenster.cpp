@@ -44,13 +44,27 @@ void hervorholen(QWidget* w) {
     w->activateWindow();
 }
 
+// Windows that exist only once: asking again brings the open one forward, else `neu` makes one.
+template <class W, class Neu> void einmalZeigen(QPointer<W>& offen, Neu neu) {
+    if (!offen) offen = alsFenster(neu());
+    hervorholen(offen);
+}
+
+// Windows that show the files as they are now: a fresh one from `neu` replaces the open one.
+template <class W, class Neu> void neuZeigen(QPointer<W>& offen, Neu neu) {
+    if (offen) offen->close();
+    offen = alsFenster(neu());
+    hervorholen(offen);
+}
+
 } // namespace
 
 BrettFenster::BrettFenster(std::filesystem::path ordner, QWidget* parent)
     : BrettFenster(std::move(ordner), sekundenSeitMitternacht(), parent) {}
 
 BrettFenster::BrettFenster(std::filesystem::path ordner, uint32_t startzeit, QWidget* parent)
-    : QMainWindow(parent), gleitpause_(QGuiApplication::platformName() == QLatin1String("offscreen") ? 0 : 2000) {
+    : QMainWindow(parent),
+      gleitpause_(QGuiApplication::platformName() == QLatin1String("offscreen") ? 0 : 2000) {
     setObjectName(QStringLiteral("brett"));
     setWindowTitle(QString::fromUtf8(kTitel));
     setWindowIcon(QIcon(QStringLiteral(":/bilder/app.svg")));
@@ -123,8 +137,10 @@ void BrettFenster::menueAnlegen() {
 
     QMenu* hilfe = menuBar()->addMenu(QStringLiteral("&Hilfe"));
     hilfe->setObjectName(QStringLiteral("Hilfe"));
-    aktion(hilfe, "help", QStringLiteral("&Hilfe"), [this] { HilfeFenster::zeigen(this); });
-    aktion(hilfe, "info", QStringLiteral("&Info"), [this] { InfoWin::zeigen(this); });
+    aktion(hilfe, "help", QStringLiteral("&Hilfe"),
+           [this] { einmalZeigen(hilfe_, [this] { return new HilfeFenster(this); }); });
+    aktion(hilfe, "info", QStringLiteral("&Info"),
+           [this] { einmalZeigen(info_, [this] { return new InfoWin(this); }); });
 }
 
 void BrettFenster::statusleisteAnlegen() {
@@ -195,30 +211,25 @@ void BrettFenster::oeffnen(Fenster f) {
 }
 
 void BrettFenster::einstellungenZeigen() {
-    if (!einst_) {
-        einst_ = alsFenster(new EinstDialog(
+    einmalZeigen(einst_, [this] {
+        return new EinstDialog(
             spiel_->oeffentlich(), spiel_->ordner(),
             [this](int nummer, const QString& text) {
                 if (nummer >= 1 && nummer <= 3) panel(nummer)->setText(text);
             },
-            [this](const Einstellungen& e) { spiel_->einstellungenUebernehmen(e); }, this));
-    }
-    hervorholen(einst_);
+            [this](const Einstellungen& e) { spiel_->einstellungenUebernehmen(e); }, this);
+    });
 }
 
 void BrettFenster::statistikZeigen() {
-    // A fresh window reads the counters as they are now.
-    if (stat_) stat_->close();
-    stat_ = alsFenster(new StatForm(spiel_->ordner(), this));
-    hervorholen(stat_);
+    neuZeigen(stat_, [this] { return new StatForm(spiel_->ordner(), this); });
 }
 
 void BrettFenster::highscoreZeigen(Seite seite) {
-    QPointer<HighscoreFenster>& offen = highscore_[seite == Seite::Fuchs ? 0 : 1];
-    // A fresh window enters a just finished game and shows the list as it is now.
-    if (offen) offen->close();
-    offen = alsFenster(new HighscoreFenster(seite, spiel_->oeffentlich(), spiel_->ordner(), this));
-    hervorholen(offen);
+    // A fresh window also enters a just finished game.
+    neuZeigen(highscore_[seite == Seite::Fuchs ? 0 : 1], [this, seite] {
+        return new HighscoreFenster(seite, spiel_->oeffentlich(), spiel_->ordner(), this);
+    });
 }
 
 } // namespace fuh

@@ -22,6 +22,8 @@ namespace fuh {
 class BrettFlaeche;
 class EinstDialog;
 class HighscoreFenster;
+class HilfeFenster;
+class InfoWin;
 class Spiel;
 class StatForm;
 
@@ -75,6 +77,8 @@ class BrettFenster : public QMainWindow, public Ansicht {
     QTimer timer1_;
     QPointer<EinstDialog> einst_;
     QPointer<StatForm> stat_;
+    QPointer<HilfeFenster> hilfe_;
+    QPointer<InfoWin> info_;
     std::array<QPointer<HighscoreFenster>, 2> highscore_{};
 };
 

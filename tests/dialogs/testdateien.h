@@ -24,15 +24,12 @@ class TempOrdner {
     }
     ~TempOrdner() {
         std::error_code ec;
-        std::filesystem::permissions(pfad_, std::filesystem::perms::owner_all,
-                                     std::filesystem::perm_options::add, ec);
         std::filesystem::remove_all(pfad_, ec);
     }
     TempOrdner(const TempOrdner&) = delete;
     TempOrdner& operator=(const TempOrdner&) = delete;
 
     const std::filesystem::path& pfad() const { return pfad_; }
-
     void schreiben(const std::string& name, const std::vector<uint8_t>& b) const {
         std::ofstream aus(pfad_ / name, std::ios::binary | std::ios::trunc);
         aus.write(reinterpret_cast<const char*>(b.data()), static_cast<std::streamsize>(b.size()));
@@ -54,26 +51,24 @@ class TempOrdner {
     std::filesystem::path pfad_;
 };
 
-inline void le16(std::vector<uint8_t>& b, int16_t w) {
-    b.push_back(static_cast<uint8_t>(static_cast<uint16_t>(w) & 0xFF));
-    b.push_back(static_cast<uint8_t>(static_cast<uint16_t>(w) >> 8));
+inline void le(std::vector<uint8_t>& b, uint64_t wert, int laenge) {
+    for (int k = 0; k < laenge; ++k)
+        b.push_back(static_cast<uint8_t>(wert >> (8 * k)));
 }
 
 // The statistics record.
 inline std::vector<uint8_t> zaehlerBytes(const std::array<int16_t, 17>& z) {
     std::vector<uint8_t> b;
     for (const int16_t w : z)
-        le16(b, w);
+        le(b, static_cast<uint16_t>(w), 2);
     return b;
 }
 
 // One high-score record; name and result are blank padded.
 inline std::vector<uint8_t> hsSatz(double datum, int16_t score, std::string name, std::string sieg) {
     std::vector<uint8_t> b;
-    const auto roh = std::bit_cast<uint64_t>(datum);
-    for (int k = 0; k < 8; ++k)
-        b.push_back(static_cast<uint8_t>(roh >> (8 * k)));
-    le16(b, score);
+    le(b, std::bit_cast<uint64_t>(datum), 8);
+    le(b, static_cast<uint16_t>(score), 2);
     name.resize(15, ' ');
     sieg.resize(4, ' ');
     b.insert(b.end(), name.begin(), name.end());
