@@ -1,5 +1,6 @@
 #pragma once
 // A fresh temporary folder per test, removed afterwards.
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <random>
@@ -36,6 +37,14 @@ class TempOrdner {
         aus.write(reinterpret_cast<const char*>(bytes.data()), static_cast<std::streamsize>(bytes.size()));
     }
     bool gibt(const std::string& name) const { return std::filesystem::exists(pfad_ / name); }
+    // Names of all entries, sorted: nothing else (no temporary file) may be left behind.
+    std::vector<std::string> namen() const {
+        std::vector<std::string> n;
+        for (const auto& e : std::filesystem::directory_iterator(pfad_))
+            n.push_back(e.path().filename().string());
+        std::sort(n.begin(), n.end());
+        return n;
+    }
 
   private:
     std::filesystem::path pfad_;

@@ -33,7 +33,8 @@ struct StilleAnsicht : fuh::Ansicht {
 void lerndateiFuellen(const fs::path& ordner, int n) {
     std::ofstream aus(ordner / "QZ3.DAT", std::ios::binary);
     const std::string satz(15, '\x41');
-    for (int i = 0; i < n; ++i) aus << satz;
+    for (int i = 0; i < n; ++i)
+        aus << satz;
 }
 
 // The computer hens' opening: 20 candidate moves, each against a predicted fox reply.
@@ -44,7 +45,8 @@ void BM_Hennenzug(benchmark::State& state) {
     fuh::Zufall zufall(1);
     fuh::Spiel spiel(ansicht, zufall, ordner.pfad);
     spiel.einstellungenFestlegen({1, static_cast<int16_t>(state.range(0) > 0 ? 2 : 0), 0, 0});
-    for (auto _ : state) spiel.Neu_Click();
+    for (auto _ : state)
+        spiel.Neu_Click();
 }
 BENCHMARK(BM_Hennenzug)->Arg(0)->Arg(1000)->Arg(32767)->Unit(benchmark::kMillisecond);
 

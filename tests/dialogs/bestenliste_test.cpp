@@ -50,7 +50,7 @@ TEST(Bestenliste, ErsterEintragInLeereListe) {
     l.nameSetzen("Jörg");
     ASSERT_TRUE(l.speichern(t.pfad()));
 
-    const B datei = t.lesen("QZH.sco");
+    const B datei = t.lies("QZH.sco");
     ASSERT_EQ(datei.size(), 290u);
     const B erwartet0 = {0x00, 0x00, 0x00, 0x00, 0x00, 0xF9, 0xE5, 0x40, // 45000.0
                          0x32, 0x00,                                     // 50
@@ -64,7 +64,7 @@ TEST(Bestenliste, ErsterEintragInLeereListe) {
 
 TEST(Bestenliste, GleichstandKommtUeberAeltereZeile) {
     TempOrdner t;
-    t.schreiben("QZF.sco", liste({90, 80, 70, 60, 50, 40, 30, 20, 10, 5}));
+    t.schreibe("QZF.sco", liste({90, 80, 70, 60, 50, 40, 30, 20, 10, 5}));
     Bestenliste l(Seite::Fuchs);
     l.laden(t.pfad());
     ASSERT_EQ(l.einfuegen(60, "Nein", kHeute), 3);
@@ -82,14 +82,14 @@ TEST(Bestenliste, GleichstandKommtUeberAeltereZeile) {
 TEST(Bestenliste, UnterAllenEintraegenKeinPlatz) {
     TempOrdner t;
     const B vorher = liste({100, 90, 80, 70, 60, 50, 40, 30, 20, 10});
-    t.schreiben("QZH.sco", vorher);
+    t.schreibe("QZH.sco", vorher);
     Bestenliste l(Seite::Hennen);
     l.laden(t.pfad());
     EXPECT_EQ(l.einfuegen(9, "Ja", kHeute), 10);
     EXPECT_EQ(l.neuePos(), 10);
     l.nameSetzen("Niemand"); // no new row: nothing changes
     ASSERT_TRUE(l.speichern(t.pfad()));
-    EXPECT_EQ(t.lesen("QZH.sco"), vorher);
+    EXPECT_EQ(t.lies("QZH.sco"), vorher);
 }
 
 TEST(Bestenliste, WannEingetragenWird) {
@@ -169,7 +169,7 @@ TEST(Bestenliste, BeschaedigteDateien) {
     // Short: a record and a half; the rest reads as zeros.
     B kurz = hsSatz(std::nan(""), 77, "Kurt", "Ja");
     kurz.insert(kurz.end(), {1, 2, 3, 4, 5, 6, 7, 8, 0x10, 0x00, 'A'});
-    t.schreiben("QZH.sco", kurz);
+    t.schreibe("QZH.sco", kurz);
     Bestenliste l(Seite::Hennen);
     l.laden(t.pfad());
     EXPECT_TRUE(std::isnan(l.eintraege()[0].datum));
@@ -180,12 +180,12 @@ TEST(Bestenliste, BeschaedigteDateien) {
     // Oversized: only the ten records count, and what follows them is left alone on saving.
     B gross = liste({10, 9, 8, 7, 6, 5, 4, 3, 2, 1});
     gross.insert(gross.end(), {0xFF, 0x7F, 0xFF, 0x7F});
-    t.schreiben("QZF.sco", gross);
+    t.schreibe("QZF.sco", gross);
     Bestenliste f(Seite::Fuchs);
     f.laden(t.pfad());
     EXPECT_EQ(scoresVon(f), (std::vector<int>{10, 9, 8, 7, 6, 5, 4, 3, 2, 1}));
     ASSERT_TRUE(f.speichern(t.pfad()));
-    EXPECT_EQ(t.lesen("QZF.sco"), gross);
+    EXPECT_EQ(t.lies("QZF.sco"), gross);
 }
 
 } // namespace

@@ -21,7 +21,7 @@ TEST(Einstellungsdatei, ErsterStartLegtLeereDateiAnUndBehaeltStaerke) {
     einstellungenLesen(t.pfad(), e);
     EXPECT_EQ(werte(e), std::make_tuple(0, 1, 0, 0));
     EXPECT_EQ(t.namen(), std::vector<std::string>{"QZ.INI"});
-    EXPECT_TRUE(t.lesen("QZ.INI").empty());
+    EXPECT_TRUE(t.lies("QZ.INI").empty());
 }
 
 TEST(Einstellungsdatei, Lesen) {
@@ -39,7 +39,7 @@ TEST(Einstellungsdatei, Lesen) {
     for (const Fall& f : faelle) {
         SCOPED_TRACE(f.inhalt.size());
         TempOrdner t;
-        t.schreiben("QZ.INI", f.inhalt);
+        t.schreibe("QZ.INI", f.inhalt);
         Einstellungen e{1, 1, 1, 1};
         einstellungenLesen(t.pfad(), e);
         EXPECT_EQ(werte(e), f.erwartet);
@@ -49,30 +49,30 @@ TEST(Einstellungsdatei, Lesen) {
 TEST(Einstellungsdatei, SchreibenErsetztNurDieErstenAchtBytes) {
     TempOrdner t;
     ASSERT_TRUE(einstellungenSchreiben(t.pfad(), Einstellungen{1, 2, 1, 0}));
-    EXPECT_EQ(t.lesen("QZ.INI"), (B{0x01, 0x00, 0x02, 0x00, 0x01, 0x00, 0x00, 0x00}));
+    EXPECT_EQ(t.lies("QZ.INI"), (B{0x01, 0x00, 0x02, 0x00, 0x01, 0x00, 0x00, 0x00}));
     EXPECT_EQ(t.namen(), std::vector<std::string>{"QZ.INI"});
 
-    t.schreiben("QZ.INI", {9, 9, 9, 9, 9, 9, 9, 9, 0xAA, 0xBB, 0xCC});
+    t.schreibe("QZ.INI", {9, 9, 9, 9, 9, 9, 9, 9, 0xAA, 0xBB, 0xCC});
     ASSERT_TRUE(einstellungenSchreiben(t.pfad(), Einstellungen{-1, 0, 0, 1}));
-    EXPECT_EQ(t.lesen("QZ.INI"), (B{0xFF, 0xFF, 0, 0, 0, 0, 1, 0, 0xAA, 0xBB, 0xCC}));
+    EXPECT_EQ(t.lies("QZ.INI"), (B{0xFF, 0xFF, 0, 0, 0, 0, 1, 0, 0xAA, 0xBB, 0xCC}));
     Einstellungen e;
     einstellungenLesen(t.pfad(), e);
     EXPECT_EQ(werte(e), std::make_tuple(-1, 0, 0, 1));
 
-    t.schreiben("QZ.INI", {9, 9, 9});
+    t.schreibe("QZ.INI", {9, 9, 9});
     ASSERT_TRUE(einstellungenSchreiben(t.pfad(), Einstellungen{2, 1, 0, 0}));
-    EXPECT_EQ(t.lesen("QZ.INI"), (B{2, 0, 1, 0, 0, 0, 0, 0}));
+    EXPECT_EQ(t.lies("QZ.INI"), (B{2, 0, 1, 0, 0, 0, 0, 0}));
 }
 
 TEST(Einstellungsdatei, NichtSchreibbarLaesstDateiUnberuehrt) {
     TempOrdner t;
-    t.schreiben("keinOrdner", {1, 2, 3});
+    t.schreibe("keinOrdner", {1, 2, 3});
     const auto ordner = t.pfad() / "keinOrdner";
     Einstellungen e{1, 2, 1, 1};
     einstellungenLesen(ordner, e); // no file can exist there: like a file without record
     EXPECT_EQ(werte(e), std::make_tuple(0, 2, 0, 0));
     EXPECT_FALSE(einstellungenSchreiben(ordner, Einstellungen{1, 1, 1, 1}));
-    EXPECT_EQ(t.lesen("keinOrdner"), (B{1, 2, 3}));
+    EXPECT_EQ(t.lies("keinOrdner"), (B{1, 2, 3}));
 
     std::filesystem::create_directory(t.pfad() / "QZ.INI");
     EXPECT_FALSE(einstellungenSchreiben(t.pfad(), Einstellungen{1, 1, 1, 1}));

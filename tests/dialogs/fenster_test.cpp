@@ -120,7 +120,7 @@ class FensterTest : public QObject {
         klick(e.d, "ok");
 
         QVERIFY(e.d.isNull());
-        QCOMPARE(dir.lesen("QZ.INI"), (Bytes{0x01, 0x00, 0x02, 0x00, 0x01, 0x00, 0x00, 0x00}));
+        QCOMPARE(dir.lies("QZ.INI"), (Bytes{0x01, 0x00, 0x02, 0x00, 0x01, 0x00, 0x00, 0x00}));
         QCOMPARE(e.uebernommen, 1);
         QCOMPARE(std::make_tuple(e.spiel.einst.PC, e.spiel.einst.Staerke, e.spiel.einst.Lernmodus,
                                  e.spiel.einst.Einzelzug),
@@ -164,7 +164,7 @@ class FensterTest : public QObject {
 
     void nichtSpeicherbarWirdGemeldet() {
         TempOrdner dir;
-        dir.schreiben("keinOrdner", {});
+        dir.schreibe("keinOrdner", {});
         const auto ordner = dir.pfad() / "keinOrdner";
         Einst e(ordner);
         auto meldung = meldungAnnehmen();
@@ -192,7 +192,7 @@ class FensterTest : public QObject {
         // finished, learning, pc fox 1..3, pc hens 1..3, user fox 1..3, user hens 1..3, started, learned,
         // last
         const std::array<int16_t, 17> z = {40, 6, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 45, 300, 17};
-        dir.schreiben("QZ.sta", test::zaehlerBytes(z));
+        dir.schreibe("QZ.sta", test::zaehlerBytes(z));
         QPointer<StatForm> f = new StatForm(dir.pfad());
         f->show();
         const std::pair<const char*, const char*> felder[] = {
@@ -221,7 +221,7 @@ class FensterTest : public QObject {
         tippen(kind(w, "name1_0"), QStringLiteral("Jörg"));
         klick(w, "ok");
         QVERIFY(w.isNull());
-        const Bytes datei = dir.lesen("QZH.sco");
+        const Bytes datei = dir.lies("QZH.sco");
         QCOMPARE(datei.size(), std::size_t{290});
         QCOMPARE(Bytes(datei.begin() + 8, datei.begin() + 29),
                  (Bytes{42,  0,   0x4A, 0xF6, 0x72, 0x67, ' ', ' ', ' ', ' ', ' ',
@@ -233,7 +233,7 @@ class FensterTest : public QObject {
         Bytes vorher = hsSatz(44000, 100, "Hugo", "Ja");
         const Bytes zweiter = hsSatz(44001, 30, "Erna", "Nein");
         vorher.insert(vorher.end(), zweiter.begin(), zweiter.end());
-        dir.schreiben("QZF.sco", vorher);
+        dir.schreibe("QZF.sco", vorher);
         Oeffentlich spiel = spielende(30, "Nein");
         QPointer<HighscoreFenster> w = new HighscoreFenster(Seite::Fuchs, spiel, dir.pfad());
         w->show();
@@ -245,7 +245,7 @@ class FensterTest : public QObject {
         tippen(kind(w, "name1_1"), QStringLiteral("Otto"));
         klick(w, "Abbruch");
         QVERIFY(w.isNull());
-        QCOMPARE(dir.lesen("QZF.sco"), vorher);
+        QCOMPARE(dir.lies("QZF.sco"), vorher);
     }
 
     void highscoreOhneEintragUndKaputteDaten() {
@@ -253,7 +253,7 @@ class FensterTest : public QObject {
         Bytes b = hsSatz(std::nan(""), 9, "Nan", "Ja");
         for (const Bytes& s : {hsSatz(HUGE_VAL, 8, "Inf", "Ja"), hsSatz(1e300, 7, "Weit", "Ja")})
             b.insert(b.end(), s.begin(), s.end());
-        dir.schreiben("QZF.sco", b);
+        dir.schreibe("QZF.sco", b);
         Oeffentlich spiel = spielende(50);
         spiel.fuchs_null = true; // a penalty keeps the foxes off the list
         QPointer<HighscoreFenster> w = new HighscoreFenster(Seite::Fuchs, spiel, dir.pfad());
@@ -266,7 +266,7 @@ class FensterTest : public QObject {
         QCOMPARE(text(w, "user2"), QStringLiteral("Weit"));
         w->close(); // the close box discards
         aufraeumen();
-        QCOMPARE(dir.lesen("QZF.sco"), b);
+        QCOMPARE(dir.lies("QZF.sco"), b);
     }
 
     void infoUndHilfeOeffnenUndSchliessen() {

@@ -39,7 +39,7 @@ TEST(Statistik, ZaehltSpielUndRichtigenSieg) {
         Zaehler z{};
         z[0] = 1;
         if (f.zaehler >= 0) z[static_cast<std::size_t>(f.zaehler)] = 1;
-        EXPECT_EQ(t.lesen("QZ.sta"), bytes(z));
+        EXPECT_EQ(t.lies("QZ.sta"), bytes(z));
     }
 }
 
@@ -55,7 +55,7 @@ TEST(Statistik, Lernmodus) {
     z[1] = 2;
     z[15] = 12;
     z[16] = 7;
-    EXPECT_EQ(t.lesen("QZ.sta"), bytes(z));
+    EXPECT_EQ(t.lies("QZ.sta"), bytes(z));
     const Statistik s = statistikLesen(t.pfad());
     EXPECT_EQ(std::make_tuple(s.beendet(), s.imLernmodus(), s.gelernt(), s.gelerntLetztes()),
               std::make_tuple(4, 2, 12, 7));
@@ -67,37 +67,37 @@ TEST(Statistik, GestarteteSpiele) {
     ASSERT_TRUE(spielGestartet(t.pfad()));
     Zaehler z{};
     z[14] = 2;
-    EXPECT_EQ(t.lesen("QZ.sta"), bytes(z));
+    EXPECT_EQ(t.lies("QZ.sta"), bytes(z));
     EXPECT_EQ(t.namen(), std::vector<std::string>{"QZ.sta"});
 }
 
 TEST(Statistik, KurzeUndLangeDatei) {
     TempOrdner t;
-    t.schreiben("QZ.sta", {3, 0, 1, 0, 9});
+    t.schreibe("QZ.sta", {3, 0, 1, 0, 9});
     const Statistik s = statistikLesen(t.pfad());
     EXPECT_EQ(std::make_tuple(s.beendet(), s.imLernmodus(), s.pcSiegeFuchs(0), s.gestartet()),
               std::make_tuple(3, 1, 9, 0));
     ASSERT_TRUE(spielGestartet(t.pfad()));
     Zaehler z{3, 1, 9};
     z[14] = 1;
-    EXPECT_EQ(t.lesen("QZ.sta"), bytes(z));
+    EXPECT_EQ(t.lies("QZ.sta"), bytes(z));
 
     // What follows the record is read past and kept.
     const B rest{0xDE, 0xAD, 0xBE, 0xEF};
     B lang = bytes(z);
     lang.insert(lang.end(), rest.begin(), rest.end());
-    t.schreiben("QZ.sta", lang);
+    t.schreibe("QZ.sta", lang);
     ASSERT_TRUE(statistik(t.pfad(), 2, Einstellungen{1, 0, 0, 0}, 0));
     z[0] = 4;
     z[8] = 1;
     B erwartet = bytes(z);
     erwartet.insert(erwartet.end(), rest.begin(), rest.end());
-    EXPECT_EQ(t.lesen("QZ.sta"), erwartet);
+    EXPECT_EQ(t.lies("QZ.sta"), erwartet);
 }
 
 TEST(Statistik, VorhandeneDateiAndererSchreibweise) {
     TempOrdner t;
-    t.schreiben("QZ.STA", {1, 0});
+    t.schreibe("QZ.STA", {1, 0});
     ASSERT_TRUE(spielGestartet(t.pfad()));
     EXPECT_EQ(t.namen(), std::vector<std::string>{"QZ.STA"});
     EXPECT_EQ(statistikLesen(t.pfad()).gestartet(), 1);
@@ -109,7 +109,7 @@ TEST(Statistik, ZaehlerBleibenImBereich) {
     Zaehler z{32767, 32767, 32767};
     z[14] = 32767;
     z[15] = 32760;
-    t.schreiben("QZ.sta", bytes(z));
+    t.schreibe("QZ.sta", bytes(z));
     ASSERT_TRUE(statistik(t.pfad(), 2, Einstellungen{0, 0, 1, 0}, 100));
     ASSERT_TRUE(spielGestartet(t.pfad()));
     z[16] = 100;
@@ -119,7 +119,7 @@ TEST(Statistik, ZaehlerBleibenImBereich) {
 
 TEST(Statistik, NichtSchreibbar) {
     TempOrdner t;
-    t.schreiben("datei", {});
+    t.schreibe("datei", {});
     EXPECT_FALSE(statistik(t.pfad() / "datei", 1, Einstellungen{}, 0));
     EXPECT_FALSE(spielGestartet(t.pfad() / "datei"));
     EXPECT_EQ(statistikLesen(t.pfad() / "datei").zaehler, Zaehler{});

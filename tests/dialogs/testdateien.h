@@ -1,5 +1,5 @@
 #pragma once
-// Test folders and the byte layouts of the game's data files, written out by hand.
+// The byte layouts of the game's data files, written out by hand.
 #include <algorithm>
 #include <array>
 #include <bit>
@@ -12,44 +12,9 @@
 #include <string>
 #include <vector>
 
+#include "temp_ordner.h"
+
 namespace fuh::test {
-
-// A fresh folder under the system temp directory, removed with everything in it.
-class TempOrdner {
-  public:
-    TempOrdner() {
-        std::string muster = (std::filesystem::temp_directory_path() / "fuh_dialogs_XXXXXX").string();
-        if (!mkdtemp(muster.data())) throw std::runtime_error("mkdtemp");
-        pfad_ = muster;
-    }
-    ~TempOrdner() {
-        std::error_code ec;
-        std::filesystem::remove_all(pfad_, ec);
-    }
-    TempOrdner(const TempOrdner&) = delete;
-    TempOrdner& operator=(const TempOrdner&) = delete;
-
-    const std::filesystem::path& pfad() const { return pfad_; }
-    void schreiben(const std::string& name, const std::vector<uint8_t>& b) const {
-        std::ofstream aus(pfad_ / name, std::ios::binary | std::ios::trunc);
-        aus.write(reinterpret_cast<const char*>(b.data()), static_cast<std::streamsize>(b.size()));
-    }
-    std::vector<uint8_t> lesen(const std::string& name) const {
-        std::ifstream ein(pfad_ / name, std::ios::binary);
-        return {std::istreambuf_iterator<char>(ein), std::istreambuf_iterator<char>()};
-    }
-    // Names of all entries, to check nothing else (temporary files) was left behind.
-    std::vector<std::string> namen() const {
-        std::vector<std::string> n;
-        for (const auto& e : std::filesystem::directory_iterator(pfad_))
-            n.push_back(e.path().filename().string());
-        std::sort(n.begin(), n.end());
-        return n;
-    }
-
-  private:
-    std::filesystem::path pfad_;
-};
 
 inline void le(std::vector<uint8_t>& b, uint64_t wert, int laenge) {
     for (int k = 0; k < laenge; ++k)

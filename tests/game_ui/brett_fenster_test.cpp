@@ -16,7 +16,6 @@
 #include <vector>
 
 #include "board/bildlage.h"
-#include "board/regeln.h"
 #include "dialogs/einst_dialog.h"
 #include "dialogs/highscore_fenster.h"
 #include "dialogs/hilfe_fenster.h"
@@ -114,52 +113,12 @@ std::vector<int> fuchsFelder(const Stellung& s) {
     return f;
 }
 
-struct Zug {
-    int von, nach;
-};
-
-// Fox moves the human may make now (PC plays the hens), jumps or plain steps.
-std::vector<Zug> fuchszuege(const Stellung& s, bool spruenge) {
-    std::vector<Zug> z;
-    for (int von : fuchsFelder(s))
-        for (int a = -1; a <= 1; ++a)
-            for (int b = -1; b <= 1; ++b) {
-                const int w = spruenge ? 2 : 1;
-                const int x = feldX(von), y = feldY(von);
-                if (!korrekt(x, y, a * w, b * w)) continue;
-                if (korrekterZug(s, 1, x, y, x + a * w, y + b * w))
-                    z.push_back({von, feldNummer(x + a * w, y + b * w)});
-            }
-    return z;
-}
-
-// Plays fox steps against the computer's hens until a fox can jump; nullopt if none came up.
-std::optional<Zug> bisZumSprung(Aufbau& a, Antworter& antworter) {
-    for (int runde = 0; runde < 60 && a.spiel().ziehbar(); ++runde) {
-        const auto spruenge = fuchszuege(a.spiel().stellung(), true);
-        if (!spruenge.empty()) return spruenge.front();
-        const auto schritte = fuchszuege(a.spiel().stellung(), false);
-        if (schritte.empty()) return std::nullopt;
-        // The step that leaves the foxes the most jumps (two at once force one); among equals one
-        // that changes from round to round.
-        std::optional<Zug> bester;
-        int besteWertung = -1;
-        for (size_t i = 0; i < schritte.size(); ++i) {
-            const Zug& z = schritte[(i + static_cast<size_t>(runde)) % schritte.size()];
-            Stellung danach = a.spiel().stellung();
-            danach.Feld[feldX(z.nach)][feldY(z.nach)] = fuchs;
-            danach.Feld[feldX(z.von)][feldY(z.von)] = leer;
-            if (const int w = static_cast<int>(fuchszuege(danach, true).size()); w > besteWertung) {
-                besteWertung = w;
-                bester = z;
-            }
-        }
-        a.ziehe(bester->von, bester->nach);
-        if (a.spiel().pcZug() != 1) return std::nullopt;
-        a.fenster->Timer1_Timer();
-        if (!antworter.texte.empty()) return std::nullopt;
-    }
-    return std::nullopt;
+// After the computer hens' opening, the hen on (2, 4) is moved by hand to (3, 3) in single-move mode: the
+// fox on (2, 2) can then jump (2, 3) onto (2, 4), and the fox on (4, 2) can jump (3, 3) onto (2, 4) too.
+void sprungVorbereiten(Aufbau& a) {
+    a.spiel().einstellungenUebernehmen({2, 0, 0, 1});
+    a.ziehe(feldNummer(2, 4), feldNummer(3, 3));
+    a.spiel().einstellungenUebernehmen({1, 0, 0, 0});
 }
 
 // Visible windows of type W belonging to the main window.
@@ -278,9 +237,9 @@ class BrettFensterTest : public QObject {
         QCOMPARE(bewegt, 2);
         QVERIFY(a.spiel().ziehbar());
 
-        const auto sprung = bisZumSprung(a, antworter);
-        QVERIFY2(sprung, "no jump came up");
-        const int fuchsK = *figur_index(a.spiel().stellung(), sprung->von);
+        sprungVorbereiten(a);
+        const int von = feldNummer(2, 2), nach = feldNummer(2, 4);
+        const int fuchsK = *figur_index(a.spiel().stellung(), von);
         auto hennen = [&] {
             int n = 0;
             for (int k = 2; k < kFiguren; ++k)
@@ -288,7 +247,7 @@ class BrettFensterTest : public QObject {
             return n;
         };
         const int vorSprung = hennen();
-        a.ziehe(sprung->von, sprung->nach);
+        a.ziehe(von, nach);
         QVERIFY(a.spiel().stellung().imSprung);
         QVERIFY(a.hinweisSichtbar("spr_msg"));
         QCOMPARE(hennen(), vorSprung - 1);
@@ -296,11 +255,11 @@ class BrettFensterTest : public QObject {
         a.fenster->Timer1_Timer(); // the hens wait until the sequence is closed
         QVERIFY(a.spiel().stellung().imSprung);
 
-        QTest::mouseClick(a.brett(), Qt::RightButton, Qt::NoModifier, mitte(sprung->nach));
+        QTest::mouseClick(a.brett(), Qt::RightButton, Qt::NoModifier, mitte(nach));
         QVERIFY(!a.spiel().stellung().imSprung);
         QVERIFY(!a.hinweisSichtbar("spr_msg"));
         QCOMPARE(a.spiel().pcZug(), 1);
-        QCOMPARE(a.spiel().stellung().figurplatz[fuchsK], sprung->nach);
+        QCOMPARE(a.spiel().stellung().figurplatz[fuchsK], nach);
 
         const Stellung vorher = a.spiel().stellung();
         a.fenster->Timer1_Timer();
@@ -310,13 +269,9 @@ class BrettFensterTest : public QObject {
 
     void verpassterSprungWirdGemeldet() {
         Aufbau a(1);
-        Antworter antworter;
         a.aktion("Neu");
-        QVERIFY2(bisZumSprung(a, antworter), "no jump came up");
-        const auto schritte = fuchszuege(a.spiel().stellung(), false);
-        QVERIFY(!schritte.empty());
-
-        a.ziehe(schritte.front().von, schritte.front().nach);
+        sprungVorbereiten(a);
+        a.ziehe(feldNummer(4, 2), feldNummer(4, 1)); // a step although both foxes could jump
         QCOMPARE(a.spiel().pcZug(), 1);
         // Answered the way a quick player would: as soon as the box is up.
         QString text;
