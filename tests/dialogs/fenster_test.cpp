@@ -216,6 +216,7 @@ class FensterTest : public QObject {
         for (int i = 0; i < 10; ++i)
             QCOMPARE(kind(w, QStringLiteral("name1_%1").arg(i))->isVisible(), i == 0);
         QCOMPARE(text(w, "score0"), QStringLiteral("42"));
+        QCOMPARE(text(w, "score1") + text(w, "datum1"), QString()); // rows never written stay empty
         QCOMPARE(text(w, "datum0"), QLocale::system().toString(QDate::currentDate(), QLocale::ShortFormat));
 
         tippen(kind(w, "name1_0"), QStringLiteral("Jörg"));
