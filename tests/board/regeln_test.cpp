@@ -98,10 +98,6 @@ TEST(Stellung, GrundstellungUndFigurIndex) {
     EXPECT_EQ(summe, 217);
     EXPECT_EQ(ziel, 538);
     EXPECT_EQ(s.Feld[6][6], 0);
-    EXPECT_EQ(feldX(20), 6);
-    EXPECT_EQ(feldY(20), 2);
-    EXPECT_EQ(feldX(7), 0);
-    EXPECT_EQ(feldY(7), 1);
 
     EXPECT_FALSE(figur_index(s, 17).has_value());
     EXPECT_FALSE(figur_index(s, 0).has_value());

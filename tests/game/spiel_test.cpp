@@ -127,19 +127,5 @@ TEST_F(FuchsSpieltTest, SprungfolgeEndetMitRechterTaste) {
     EXPECT_TRUE(ansicht.meldungen.empty());  // a jump is never penalised
 }
 
-TEST_F(FuchsSpieltTest, VersaeumterSprungWirdBestraft) {
-    ziehe(4, 2, 4, 1); // a step although both foxes could have jumped
-    EXPECT_EQ(spiel.pcZug(), 1);
-    spiel.Timer1_Timer();
-    ASSERT_FALSE(ansicht.meldungen.empty());
-    EXPECT_EQ(ansicht.meldungen[0],
-              "Der Fuchs hätte springen können. Bis zum nächsten Sprung wird er vom Feld genommen.");
-    // The second fox in scan order now stands higher (row 1 against row 2): it is parked.
-    EXPECT_EQ(spiel.stellung().Feld[0][0], fuchs);
-    EXPECT_EQ(spiel.stellung().figurplatz[1], 0);
-    EXPECT_EQ(spiel.bilder().left[1], platzLeft(0));
-    EXPECT_FALSE(spiel.oeffentlich().fuchs_null);
-}
-
 } // namespace
 } // namespace fuh

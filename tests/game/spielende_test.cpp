@@ -65,19 +65,5 @@ TEST_F(SpielTest, ZugbegrenzungIstRemisOhneMeldung) {
     EXPECT_EQ(statistik(16), 2);
 }
 
-TEST_F(SpielTest, ComputerGegenComputerSpieltBisZumEnde) {
-    ini(2, 2);
-    spiel.Form_Load(1);
-    spiel.Neu_Click();
-    EXPECT_TRUE(spiel.endeGefunden());
-    EXPECT_GT(spiel.letztesErgebnis(), 0);
-    EXPECT_LE(spiel.spielzug(), kSituationen);
-    EXPECT_EQ(statistik(0), 1);
-    EXPECT_TRUE(ansicht.fenster.empty());
-    if (spiel.letztesErgebnis() != 3 || !ansicht.meldungen.empty()) {
-        EXPECT_FALSE(spiel.ziehbar());
-    }
-}
-
 } // namespace
 } // namespace fuh
