@@ -1,4 +1,5 @@
 #include "dialogs/einst_dialog.h"
+#include "dialogs/titel.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -136,7 +137,7 @@ void EinstDialog::ok_Click() {
     e.Einzelzug = Einzelzug_->isChecked() ? 1 : 0;
     if (uebernehmen_) uebernehmen_(e);
     if (!einstellungenSchreiben(ordner_, e)) {
-        QMessageBox::warning(this, QStringLiteral("Fuchs und Hennen"),
+        QMessageBox::warning(this, QString::fromUtf8(kTitel),
                              QStringLiteral("Die Einstellungen konnten nicht in „QZ.INI“ gespeichert werden. "
                                             "Sie gelten bis zum Programmende."));
     }

@@ -1,4 +1,5 @@
 #include "dialogs/highscore_fenster.h"
+#include "dialogs/titel.h"
 
 #include <QDate>
 #include <QGridLayout>
@@ -118,7 +119,7 @@ HighscoreFenster::HighscoreFenster(Seite seite, Oeffentlich& spiel, std::filesys
 
 void HighscoreFenster::ok_Click() {
     if (!liste_.speichern(ordner_)) {
-        QMessageBox::warning(this, QStringLiteral("Fuchs und Hennen"),
+        QMessageBox::warning(this, QString::fromUtf8(kTitel),
                              QStringLiteral("Die Highscore-Liste „%1“ konnte nicht gespeichert werden.")
                                  .arg(QString::fromLatin1(bestenlistendatei(liste_.seite()))));
         return;

@@ -13,6 +13,7 @@
 #include "board/ansicht.h"
 #include "board/zufall.h"
 #include "dialogs/bestenliste.h"
+#include "dialogs/titel.h"
 
 class QApplication;
 class QLabel;
@@ -26,8 +27,6 @@ class HilfeFenster;
 class InfoWin;
 class Spiel;
 class StatForm;
-
-inline constexpr const char* kTitel = "Fuchs und Hennen";
 
 class BrettFenster : public QMainWindow, public Ansicht {
     Q_OBJECT

@@ -1,0 +1,8 @@
+#pragma once
+
+namespace fuh {
+
+// The application's title: the main window's caption and that of every message box.
+inline constexpr const char* kTitel = "Fuchs und Hennen";
+
+} // namespace fuh
