@@ -117,8 +117,14 @@ void BrettFenster::menueAnlegen() {
 
     QMenu* spielMenue = menuBar()->addMenu(QStringLiteral("&Spiel"));
     spielMenue->setObjectName(QStringLiteral("Spiel"));
-    aktion(spielMenue, "start", QStringLiteral("&Start"), [this] { spiel_->start_Click(); });
-    aktion(spielMenue, "Neu", QStringLiteral("&Neu"), [this] { spiel_->Neu_Click(); });
+    aktion(spielMenue, "start", QStringLiteral("&Start"), [this] {
+        menueSchliessen();
+        spiel_->start_Click();
+    });
+    aktion(spielMenue, "Neu", QStringLiteral("&Neu"), [this] {
+        menueSchliessen();
+        spiel_->Neu_Click();
+    });
     spielMenue->addSeparator();
     aktion(spielMenue, "Beenden", QStringLiteral("&Beenden"), [] { QApplication::quit(); });
 
@@ -141,6 +147,13 @@ void BrettFenster::menueAnlegen() {
            [this] { einmalZeigen(hilfe_, [this] { return new HilfeFenster(this); }); });
     aktion(hilfe, "info", QStringLiteral("&Info"),
            [this] { einmalZeigen(info_, [this] { return new InfoWin(this); }); });
+}
+
+void BrettFenster::menueSchliessen() {
+    // A computer game does not return to the event loop until it is over: let the closed menu
+    // disappear from the screen and the board be painted whole before it starts.
+    QGuiApplication::sync();
+    repaint();
 }
 
 void BrettFenster::statusleisteAnlegen() {
@@ -203,6 +216,7 @@ void BrettFenster::meldung(const std::string& text) {
     QMessageBox box(QMessageBox::NoIcon, QString::fromUtf8(kTitel), QString::fromStdString(text),
                     QMessageBox::Ok, this);
     box.exec();
+    repaint(); // the game may go on without the event loop: the box must not leave a hole behind
     if (tickte) timer1_.start();
 }
 

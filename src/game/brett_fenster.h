@@ -63,6 +63,7 @@ class BrettFenster : public QMainWindow, public Ansicht {
   private:
     std::chrono::microseconds gleitpause_;
     void menueAnlegen();
+    void menueSchliessen();
     void statusleisteAnlegen();
     void bilderAbgleichen();
     void einstellungenZeigen();
