@@ -2,18 +2,12 @@
 
 #include "board/gewichte.h"
 #include "board/regeln.h"
+#include "leeres_kreuz.h"
 
 namespace fuh {
 namespace {
 
-Stellung leeresKreuz() {
-    Stellung s;
-    s.grundstellung();
-    for (int x = 0; x <= 6; ++x)
-        for (int y = 0; y <= 6; ++y)
-            if (s.Feld[x][y] != 0) s.Feld[x][y] = leer;
-    return s;
-}
+using test::leeresKreuz;
 
 TEST(Regeln, KorrektPrueftVektorGitterUndDiagonalen) {
     EXPECT_FALSE(korrekt(3, 3, 0, 0));

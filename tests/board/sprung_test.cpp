@@ -1,17 +1,13 @@
 #include <gtest/gtest.h>
 
 #include "board/sprung.h"
+#include "leeres_kreuz.h"
 
 namespace fuh {
 namespace {
 
 Brettfeld leer7() {
-    Stellung s;
-    s.grundstellung();
-    for (int x = 0; x <= 6; ++x)
-        for (int y = 0; y <= 6; ++y)
-            if (s.Feld[x][y] != 0) s.Feld[x][y] = leer;
-    return s.Feld;
+    return test::leeresKreuz().Feld;
 }
 
 TEST(Sprung, GrundstellungHatKeinenSprung) {

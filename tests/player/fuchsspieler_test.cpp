@@ -36,12 +36,7 @@ TEST_F(FuchsTest, GrundstellungZiehtEinenFuchsNachDreiEinsPerLos) {
 TEST_F(FuchsTest, FangbonusImZielfeldEntscheidet) {
     // Fox 0 jumps the hen on (2, 1): 11 - 8 + 4 = 7, plus 40 in the target area.
     // Fox 1 jumps (5, 4) and then (4, 3): 9 + 11 = 20 without a bonus.
-    tisch.leeren();
-    tisch.setze(0, 2, 2);
-    tisch.setze(2, 2, 1);
-    tisch.setze(1, 6, 4);
-    tisch.setze(3, 5, 4);
-    tisch.setze(4, 4, 3);
+    tisch.aufstellen({{0, 2, 2}, {2, 2, 1}, {1, 6, 4}, {3, 5, 4}, {4, 4, 3}});
     tisch.PC = 0;
     spieler.berechneFuchs(false, tisch.s.Feld);
     zugIst(2, 2, 2, 0);
@@ -50,12 +45,7 @@ TEST_F(FuchsTest, FangbonusImZielfeldEntscheidet) {
 }
 
 TEST_F(FuchsTest, SprungketteNurMitDemSpringendenFuchs) {
-    tisch.leeren();
-    tisch.setze(0, 2, 6);
-    tisch.setze(2, 2, 5);
-    tisch.setze(3, 2, 3);
-    tisch.setze(1, 4, 2);
-    tisch.setze(4, 4, 3);
+    tisch.aufstellen({{0, 2, 6}, {2, 2, 5}, {3, 2, 3}, {1, 4, 2}, {4, 4, 3}});
     Brettfeld arbeit = tisch.s.Feld;
     const Brettfeld vorher = tisch.s.Feld;
     spieler.berechneFuchs(true, arbeit); // a prediction: the whole chain on the working board only
@@ -85,12 +75,10 @@ TEST_F(FuchsTest, VorhersageLiestKeineLerndatei) {
     EXPECT_EQ(tisch.erinnerungen, 8);          // once for every plain move worth at least 1
 }
 
-TEST_F(FuchsTest, WiederholungWirdGemiedenUndGelernterWertZaehlt) {
+TEST_F(FuchsTest, WiederholungWirdGemieden) {
     // A parked fox and fox 0 on (3, 1): its best plain moves, to (2, 2) and (4, 2), are worth 9 each.
-    tisch.leeren();
-    tisch.setze(0, 3, 1);
+    tisch.aufstellen({{0, 3, 1}, {2, 6, 2}});
     tisch.s.Feld[0][0] = fuchs;
-    tisch.setze(2, 6, 2);
     tisch.PC = 0;
     // The position after the move to (2, 2) is a recent one: worth 1 now, so (4, 2) wins without a draw.
     Stellung danach = tisch.s;
@@ -104,14 +92,7 @@ TEST_F(FuchsTest, WiederholungWirdGemiedenUndGelernterWertZaehlt) {
 }
 
 TEST_F(FuchsTest, OhneZugBleibtZielNullNull) {
-    tisch.leeren();
-    tisch.setze(0, 2, 0);
-    tisch.setze(1, 4, 0);
-    tisch.setze(2, 3, 0);
-    tisch.setze(3, 2, 1);
-    tisch.setze(4, 3, 1);
-    tisch.setze(5, 4, 1);
-    tisch.setze(6, 3, 2);
+    tisch.aufstellen({{0, 2, 0}, {1, 4, 0}, {2, 3, 0}, {3, 2, 1}, {4, 3, 1}, {5, 4, 1}, {6, 3, 2}});
     tisch.s.Feld[2][2] = henne; // no piece image needed for a blocked square
     tisch.s.Feld[4][2] = henne;
     spieler.berechneFuchs(false, tisch.s.Feld);

@@ -30,10 +30,7 @@ TEST_F(HennenTest, EroeffnungZiehtDieMittlereHenneHoch) {
 }
 
 TEST_F(HennenTest, KandidatenInSchachtelungsreihenfolge) {
-    tisch.leeren();
-    tisch.setze(0, 0, 2);
-    tisch.setze(1, 6, 2);
-    tisch.setze(2, 3, 3);
+    tisch.aufstellen({{0, 0, 2}, {1, 6, 2}, {2, 3, 3}});
     hennen.berechneHennen();
     const auto& k = hennen.kandidaten();
     // x outermost, then y, then dx, then dy: (2, 2), (2, 3), (3, 2), (4, 2), (4, 3).
@@ -45,10 +42,7 @@ TEST_F(HennenTest, KandidatenInSchachtelungsreihenfolge) {
 
 TEST_F(HennenTest, BedrohteFelderZaehlenNichtAlsRaum) {
     // One hen on (3, 4); the fox on (1, 3) threatens (2, 4) along the diagonal, (3, 5) behind it being empty.
-    tisch.leeren();
-    tisch.setze(0, 1, 3);
-    tisch.setze(1, 6, 4);
-    tisch.setze(2, 3, 4);
+    tisch.aufstellen({{0, 1, 3}, {1, 6, 4}, {2, 3, 4}});
     hennen.berechneHennen();
     // The hen can reach (3, 3), (2, 4) and (4, 4); only (3, 3) and (4, 4) are safe.
     const auto& b = hennen.bewertungen();
@@ -58,12 +52,7 @@ TEST_F(HennenTest, BedrohteFelderZaehlenNichtAlsRaum) {
 
 TEST_F(HennenTest, OhneKandidatKeinZug) {
     // Three hens side by side on the top row cannot move at all.
-    tisch.leeren();
-    tisch.setze(0, 3, 3);
-    tisch.setze(1, 4, 4);
-    tisch.setze(2, 2, 0);
-    tisch.setze(3, 3, 0);
-    tisch.setze(4, 4, 0);
+    tisch.aufstellen({{0, 3, 3}, {1, 4, 4}, {2, 2, 0}, {3, 3, 0}, {4, 4, 0}});
     const Brettfeld vorher = tisch.s.Feld;
     hennen.berechneHennen();
     EXPECT_EQ(tisch.s.vonX, 0);

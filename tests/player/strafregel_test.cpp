@@ -90,11 +90,7 @@ TEST(Strafregel, BeideKonntenSpringenDerHoeherStehendeGeht) {
     for (const Fall f : {Fall{4, 1, 2, 0}, Fall{2, 1, 3, 1}, Fall{2, 1, 2, 0}}) {
         test::TestTisch t;
         Brettfeld psfig{};
-        t.leeren();
-        t.setze(0, 2, 2);
-        t.setze(2, 2, 3);
-        t.setze(1, 4, f.fuchs1Y);
-        t.setze(3, 4, 3);
+        t.aufstellen({{0, 2, 2}, {2, 2, 3}, {1, 4, f.fuchs1Y}, {3, 4, 3}});
         t.aufzeichnen();
         t.s.vonX = 2, t.s.vonY = 2;
         t.s.nachX = static_cast<int16_t>(f.nachX), t.s.nachY = static_cast<int16_t>(f.nachY);

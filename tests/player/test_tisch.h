@@ -2,6 +2,7 @@
 // A game table for the players without the game flow around it.
 #include "board/zufall.h"
 #include "board/zug.h"
+#include "leeres_kreuz.h"
 #include "memory/lerndatei.h"
 #include "player/spieltisch.h"
 #include "temp_ordner.h"
@@ -28,17 +29,16 @@ struct TestTisch : Spieltisch, Gutschrift {
         s.grundstellung();
         bilder.aufstellen(s);
     }
-    // Every square of the cross empty, nothing on the board.
-    void leeren() {
-        for (int x = 0; x <= 6; ++x)
-            for (int y = 0; y <= 6; ++y)
-                if (s.Feld[x][y] != 0) s.Feld[x][y] = leer;
-        s.figurplatz.fill(0);
-    }
-    // Puts piece k on (x, y).
-    void setze(int k, int x, int y) {
-        s.Feld[x][y] = k < 2 ? fuchs : henne;
-        s.figurplatz[k] = static_cast<int16_t>(feldNummer(x, y));
+    struct Platz {
+        int k, x, y; // piece k (0, 1 foxes) on (x, y)
+    };
+    // An otherwise empty cross with just these pieces.
+    void aufstellen(std::initializer_list<Platz> figuren) {
+        s = leeresKreuz();
+        for (const Platz& p : figuren) {
+            s.Feld[p.x][p.y] = p.k < 2 ? fuchs : henne;
+            s.figurplatz[p.k] = static_cast<int16_t>(feldNummer(p.x, p.y));
+        }
         bilder.aufstellen(s);
     }
     void aufzeichnen(bool sprung = false) {
