@@ -46,7 +46,7 @@ void Hennenspieler::hstatusScan(int k) {
     hstatus_[k].raum = wrap16(kLernfaktor * m + s3);
 }
 
-void Hennenspieler::hzugauswahl(int n) {
+bool Hennenspieler::hzugauswahl(int n) {
     int w = 0;
     // Stage 1: keep at least the present position's worth.
     int best = hstatus_[0].lage, anzahl = 0;
@@ -92,6 +92,7 @@ void Hennenspieler::hzugauswahl(int n) {
     s.vonY = hzuege_[w][1];
     s.nachX = hzuege_[w][2];
     s.nachY = hzuege_[w][3];
+    return w != 0;
 }
 
 void Hennenspieler::berechneHennen() {
@@ -117,8 +118,7 @@ void Hennenspieler::berechneHennen() {
                                       static_cast<int16_t>(x + dx), static_cast<int16_t>(y + dy)};
                         ++k;
                     }
-    hzugauswahl(k);
-    if (!(tisch_.spielstellung().nachX == 0 && tisch_.spielstellung().nachY == 0)) tisch_.zug(true);
+    if (hzugauswahl(k)) tisch_.zug(true);
     tisch_.hinweis(Hinweis::h_zug, false);
 }
 

@@ -31,7 +31,7 @@ class Hennenspieler {
     void hstatusScan(int k);
     int hzugmoglich(int x, int y) const;
     int hbedroht(int x, int y) const;
-    void hzugauswahl(int n);
+    bool hzugauswahl(int n); // true when a candidate was chosen
 
     Spieltisch& tisch_;
     Fuchsspieler& fuchs_;
