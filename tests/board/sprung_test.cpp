@@ -10,17 +10,6 @@ Brettfeld leer7() {
     return test::leeresKreuz().Feld;
 }
 
-TEST(Sprung, GrundstellungHatKeinenSprung) {
-    Stellung s;
-    s.grundstellung();
-    for (int a = -1; a <= 1; ++a)
-        for (int b = -1; b <= 1; ++b) {
-            EXPECT_EQ(issprung(2, 2, a, b, s.Feld), 0);
-            EXPECT_EQ(issprung(4, 2, a, b, s.Feld), 0);
-        }
-    EXPECT_FALSE(isjump(s.Feld, 2, 2));
-}
-
 TEST(Sprung, WertMitFolgespruengen) {
     Brettfeld f = leer7();
     f[3][2] = fuchs;

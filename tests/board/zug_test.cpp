@@ -84,18 +84,6 @@ TEST_F(ZugTest, GleitenEndetNebenDemFeld) {
     EXPECT_EQ(bilder.left[1], 400);
 }
 
-TEST_F(ZugTest, HennenImZielfeldWerdenGutgeschrieben) {
-    ziehe(3, 3, 3, 2, 0);
-    EXPECT_EQ(buchungen.liste.size(), 1u);
-    EXPECT_EQ(bilder.left[5], platzLeft(17));
-    ziehe(1, 3, 1, 2, 0);
-    EXPECT_EQ(buchungen.liste.size(), 1u);
-    s.Feld[2][0] = henne;
-    s.figurplatz[2] = feldNummer(2, 0);
-    ziehe(2, 0, 3, 0, 1);
-    EXPECT_EQ(buchungen.liste, (std::vector<std::array<int, 3>>{{1, -1, 0}, {1, -1, 0}}));
-}
-
 TEST_F(ZugTest, ParkfeldZuegeOhneSprungbehandlung) {
     s.Feld[3][4] = leer;
     s.figurplatz[12] = 0;

@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include "dialogs/statustexte.h"
 #include "testdateien.h"
 
 namespace fuh {
@@ -77,17 +76,6 @@ TEST(Einstellungsdatei, NichtSchreibbarLaesstDateiUnberuehrt) {
     std::filesystem::create_directory(t.pfad() / "QZ.INI");
     EXPECT_FALSE(einstellungenSchreiben(t.pfad(), Einstellungen{1, 1, 1, 1}));
     EXPECT_TRUE(std::filesystem::is_directory(t.pfad() / "QZ.INI"));
-}
-
-TEST(Statustexte, NurFuerBekannteWerte) {
-    for (const int w : {-1, 3}) {
-        EXPECT_FALSE(pcStatustext(w));
-        EXPECT_FALSE(staerkeStatustext(w));
-        EXPECT_FALSE(staerkeStatustextDialog(w));
-    }
-    // The settings window has always spelled the third strength its own way.
-    EXPECT_EQ(staerkeStatustext(2), "Spielstärke 3");
-    EXPECT_EQ(staerkeStatustextDialog(2), "SPielstärke 3");
 }
 
 } // namespace

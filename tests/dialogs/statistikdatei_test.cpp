@@ -61,16 +61,6 @@ TEST(Statistik, Lernmodus) {
               std::make_tuple(4, 2, 12, 7));
 }
 
-TEST(Statistik, GestarteteSpiele) {
-    TempOrdner t;
-    ASSERT_TRUE(spielGestartet(t.pfad()));
-    ASSERT_TRUE(spielGestartet(t.pfad()));
-    Zaehler z{};
-    z[14] = 2;
-    EXPECT_EQ(t.lies("QZ.sta"), bytes(z));
-    EXPECT_EQ(t.namen(), std::vector<std::string>{"QZ.sta"});
-}
-
 TEST(Statistik, KurzeUndLangeDatei) {
     TempOrdner t;
     t.schreibe("QZ.sta", {3, 0, 1, 0, 9});
@@ -115,14 +105,6 @@ TEST(Statistik, ZaehlerBleibenImBereich) {
     z[16] = 100;
     z[15] = 32767;
     EXPECT_EQ(statistikLesen(t.pfad()).zaehler, z);
-}
-
-TEST(Statistik, NichtSchreibbar) {
-    TempOrdner t;
-    t.schreibe("datei", {});
-    EXPECT_FALSE(statistik(t.pfad() / "datei", 1, Einstellungen{}, 0));
-    EXPECT_FALSE(spielGestartet(t.pfad() / "datei"));
-    EXPECT_EQ(statistikLesen(t.pfad() / "datei").zaehler, Zaehler{});
 }
 
 } // namespace

@@ -214,8 +214,9 @@ class BrettFensterTest : public QObject {
         QVERIFY(!a.hinweisSichtbar("f_zug"));
         bilderPruefen(a);
 
-        // Refused by the game: hens never move backwards.
+        // Refused by the game: hens never move backwards; and a tick with nothing requested moves nothing.
         const Stellung vorher = a.spiel().stellung();
+        a.fenster->Timer1_Timer();
         QCOMPARE(vorher.Feld[3][3], leer);
         a.ziehe(17, 24);
         QCOMPARE(abgelegt.count(), 2);
@@ -235,6 +236,7 @@ class BrettFensterTest : public QObject {
             bewegt +=
                 anfang.Feld[feldX(s)][feldY(s)] != a.spiel().stellung().Feld[feldX(s)][feldY(s)] ? 1 : 0;
         QCOMPARE(bewegt, 2);
+        QCOMPARE(a.panel(3), QStringLiteral("Punkte: 403"));
         QVERIFY(a.spiel().ziehbar());
 
         sprungVorbereiten(a);
