@@ -8,8 +8,28 @@
 namespace fuh {
 
 namespace {
+
 constexpr int kLernfaktor = 10;
-}
+
+// A running maximum over the rows: how many rows reach it, and the last of them.
+struct Hoechstwert {
+    int wert;
+    int anzahl = 0;
+    int zeile = 0;
+    void pruefe(int v, int j) {
+        if (v == wert) {
+            ++anzahl;
+            zeile = j;
+        }
+        if (v > wert) {
+            wert = v;
+            anzahl = 1;
+            zeile = j;
+        }
+    }
+};
+
+} // namespace
 
 void Hennenspieler::psTopsfig() {
     kopiere(tisch_.spielstellung().Feld, psfig_);
@@ -47,41 +67,23 @@ void Hennenspieler::hstatusScan(int k) {
 }
 
 bool Hennenspieler::hzugauswahl(int n) {
-    int w = 0;
     // Stage 1: keep at least the present position's worth.
-    int best = hstatus_[0].lage, anzahl = 0;
-    for (int j = 1; j < n; ++j) {
-        if (hstatus_[j].lage == best) {
-            ++anzahl;
-            w = j;
-        }
-        if (hstatus_[j].lage > best) {
-            best = hstatus_[j].lage;
-            anzahl = 1;
-            w = j;
-        }
-    }
+    Hoechstwert lage{hstatus_[0].lage};
+    for (int j = 1; j < n; ++j)
+        lage.pruefe(hstatus_[j].lage, j);
+    int w = lage.zeile;
     // Stages 2 and 3: the most safe room, among the tied rows or, failing those, among all rows.
-    if (anzahl != 1) {
-        const bool unterGleichen = anzahl > 1;
-        auto zaehlt = [&](int j) { return !unterGleichen || hstatus_[j].lage == best; };
-        int best2 = 0, anzahl2 = 0;
-        for (int j = 1; j < n; ++j) {
-            if (!zaehlt(j)) continue;
-            if (hstatus_[j].raum == best2) {
-                ++anzahl2;
-                w = j;
-            }
-            if (hstatus_[j].raum > best2) {
-                best2 = hstatus_[j].raum;
-                anzahl2 = 1;
-                w = j;
-            }
-        }
-        if (anzahl2 > 1) {
-            const int r = tisch_.ziehe(anzahl2);
+    if (lage.anzahl != 1) {
+        const bool unterGleichen = lage.anzahl > 1;
+        auto zaehlt = [&](int j) { return !unterGleichen || hstatus_[j].lage == lage.wert; };
+        Hoechstwert raum{0};
+        for (int j = 1; j < n; ++j)
+            if (zaehlt(j)) raum.pruefe(hstatus_[j].raum, j);
+        if (raum.anzahl > 0) w = raum.zeile;
+        if (raum.anzahl > 1) {
+            const int r = tisch_.ziehe(raum.anzahl);
             for (int j = 1, gezaehlt = 0; j < n; ++j)
-                if (zaehlt(j) && hstatus_[j].raum == best2 && ++gezaehlt == r) {
+                if (zaehlt(j) && hstatus_[j].raum == raum.wert && ++gezaehlt == r) {
                     w = j;
                     break;
                 }
