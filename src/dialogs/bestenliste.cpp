@@ -138,28 +138,27 @@ void Bestenliste::laden(const std::filesystem::path& ordner) {
 }
 
 bool Bestenliste::speichern(const std::filesystem::path& ordner) const {
-    const auto pfad = datenpfad(ordner, bestenlistendatei(seite_));
     // Bytes after the ten records belong to nobody we know; leave them where they are.
-    auto alt = dateiLesen(pfad);
-    Bytes b = alt ? *alt : Bytes{};
-    for (std::size_t z = 0; z < kZeilen; ++z) {
-        const std::size_t p = z * kSatz;
-        const Eintrag& e = tabelle_[z];
-        const auto roh = std::bit_cast<uint64_t>(e.datum);
-        uint8_t datum[8];
-        for (std::size_t k = 0; k < 8; ++k)
-            datum[k] = static_cast<uint8_t>(roh >> (8 * k));
-        setzeBytes(b, p, datum, 8);
-        setzeLe16(b, p + 8, e.score);
-        // Fields are fixed width; an empty row keeps its zeros.
-        std::string user = e.user;
-        user.resize(kName, '\0');
-        std::string sieg = e.sieg;
-        sieg.resize(kSieg, '\0');
-        setzeBytes(b, p + 10, reinterpret_cast<const uint8_t*>(user.data()), kName);
-        setzeBytes(b, p + 25, reinterpret_cast<const uint8_t*>(sieg.data()), kSieg);
-    }
-    return dateiSchreiben(pfad, b);
+    return dateiFortschreiben(datenpfad(ordner, bestenlistendatei(seite_)), kDatei, [this](Bytes& b) {
+        for (std::size_t z = 0; z < kZeilen; ++z) {
+            const std::size_t p = z * kSatz;
+            const Eintrag& e = tabelle_[z];
+            const auto roh = std::bit_cast<uint64_t>(e.datum);
+            uint8_t datum[8];
+            for (std::size_t k = 0; k < 8; ++k)
+                datum[k] = static_cast<uint8_t>(roh >> (8 * k));
+            setzeBytes(b, p, datum, 8);
+            setzeLe16(b, p + 8, e.score);
+            // Fields are fixed width; an empty row keeps its zeros.
+            std::string user = e.user;
+            user.resize(kName, '\0');
+            std::string sieg = e.sieg;
+            sieg.resize(kSieg, '\0');
+            setzeBytes(b, p + 10, reinterpret_cast<const uint8_t*>(user.data()), kName);
+            setzeBytes(b, p + 25, reinterpret_cast<const uint8_t*>(sieg.data()), kSieg);
+        }
+        return true;
+    });
 }
 
 int Bestenliste::anzeigen(Oeffentlich& spiel, double heute) {

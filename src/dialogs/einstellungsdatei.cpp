@@ -9,7 +9,7 @@ constexpr std::size_t kSatz = 8;
 }
 
 void einstellungenLesen(const std::filesystem::path& ordner, Einstellungen& e) {
-    const auto inhalt = dateiLesen(datenpfad(ordner, kEinstellungsdatei));
+    const auto inhalt = dateiLesen(datenpfad(ordner, kEinstellungsdatei), kSatz);
     // The record count is the length divided by the record size, rounded half to even: up to four
     // bytes there is no record, from five bytes on the (partial) first record counts.
     if (!inhalt || inhalt->size() <= kSatz / 2) {
@@ -25,14 +25,13 @@ void einstellungenLesen(const std::filesystem::path& ordner, Einstellungen& e) {
 }
 
 bool einstellungenSchreiben(const std::filesystem::path& ordner, const Einstellungen& e) {
-    const auto pfad = datenpfad(ordner, kEinstellungsdatei);
-    auto inhalt = dateiLesen(pfad);
-    if (!inhalt) return false;
-    setzeLe16(*inhalt, 0, e.PC);
-    setzeLe16(*inhalt, 2, e.Staerke);
-    setzeLe16(*inhalt, 4, e.Lernmodus);
-    setzeLe16(*inhalt, 6, e.Einzelzug);
-    return dateiSchreiben(pfad, *inhalt);
+    return dateiFortschreiben(datenpfad(ordner, kEinstellungsdatei), kSatz, [&](Bytes& inhalt) {
+        setzeLe16(inhalt, 0, e.PC);
+        setzeLe16(inhalt, 2, e.Staerke);
+        setzeLe16(inhalt, 4, e.Lernmodus);
+        setzeLe16(inhalt, 6, e.Einzelzug);
+        return true;
+    });
 }
 
 } // namespace fuh

@@ -22,16 +22,15 @@ Statistik auslesen(const Bytes& b) {
     return s;
 }
 
-// Reads the whole file, lets `aendern` update the counters and writes them back over the first record.
+// Lets `aendern` update the counters and writes them back over the first record.
 template <class F> bool fortschreiben(const std::filesystem::path& ordner, F aendern) {
-    const auto pfad = datenpfad(ordner, kStatistikdatei);
-    auto inhalt = dateiLesen(pfad);
-    if (!inhalt) return false;
-    Statistik s = auslesen(*inhalt);
-    aendern(s.zaehler);
-    for (std::size_t i = 0; i < kZaehler; ++i)
-        setzeLe16(*inhalt, 2 * i, s.zaehler[i]);
-    return dateiSchreiben(pfad, *inhalt);
+    return dateiFortschreiben(datenpfad(ordner, kStatistikdatei), 2 * kZaehler, [&](Bytes& inhalt) {
+        Statistik s = auslesen(inhalt);
+        aendern(s.zaehler);
+        for (std::size_t i = 0; i < kZaehler; ++i)
+            setzeLe16(inhalt, 2 * i, s.zaehler[i]);
+        return true;
+    });
 }
 
 } // namespace

@@ -9,6 +9,8 @@ namespace fuh {
 namespace {
 constexpr std::size_t kFuchswert = 11;
 constexpr std::size_t kHennenwert = 13;
+// The part of the file a merge can reach; records beyond it are never read.
+constexpr std::size_t kDateiHoechstens = static_cast<std::size_t>(kHoechsteSaetze) * kLernsatz;
 
 // Number of records: the length divided by 15, rounded to the nearest whole number.
 int satzzahl(std::size_t laenge) {
@@ -36,29 +38,28 @@ const char* lerndateiName(int Staerke) {
 }
 
 Lerndatei::Merge Lerndatei::speichern(const Partie& partie, int Staerke) const {
-    const auto pfad = datenpfad(ordner_, lerndateiName(Staerke));
-    auto inhalt = dateiLesen(pfad);
-    if (!inhalt) return {0, false};
-    Bytes& b = *inhalt;
-    int n = satzzahl(b.size());
     Merge ergebnis;
     const int saetze = std::clamp<int>(partie.spielzug, 0, kSituationen);
-    for (int k = 0; k < saetze; ++k) {
-        const Situation& sit = partie.sits[k];
-        const int r = findeSatz(b, n, sit.code, spiegelcode(sit.code));
-        const std::size_t pos = static_cast<std::size_t>(r < 0 ? n : r) * kLernsatz;
-        if (r >= 0) {
-            setzeLe16(b, pos + kFuchswert, sat16(le16(b, pos + kFuchswert) + sit.fuchswert));
-            setzeLe16(b, pos + kHennenwert, sat16(le16(b, pos + kHennenwert) + sit.hennenwert));
-        } else if (n < kHoechsteSaetze) {
-            setzeBytes(b, pos, sit.code.data(), sit.code.size());
-            setzeLe16(b, pos + kFuchswert, sit.fuchswert);
-            setzeLe16(b, pos + kHennenwert, sit.hennenwert);
-            ++n;
-            ++ergebnis.neueZuege;
-        }
-    }
-    if (saetze > 0) ergebnis.geschrieben = dateiSchreiben(pfad, b);
+    ergebnis.geschrieben =
+        dateiFortschreiben(datenpfad(ordner_, lerndateiName(Staerke)), kDateiHoechstens, [&](Bytes& b) {
+            int n = satzzahl(b.size());
+            for (int k = 0; k < saetze; ++k) {
+                const Situation& sit = partie.sits[k];
+                const int r = findeSatz(b, n, sit.code, spiegelcode(sit.code));
+                const std::size_t pos = static_cast<std::size_t>(r < 0 ? n : r) * kLernsatz;
+                if (r >= 0) {
+                    setzeLe16(b, pos + kFuchswert, sat16(le16(b, pos + kFuchswert) + sit.fuchswert));
+                    setzeLe16(b, pos + kHennenwert, sat16(le16(b, pos + kHennenwert) + sit.hennenwert));
+                } else if (n < kHoechsteSaetze) {
+                    setzeBytes(b, pos, sit.code.data(), sit.code.size());
+                    setzeLe16(b, pos + kFuchswert, sit.fuchswert);
+                    setzeLe16(b, pos + kHennenwert, sit.hennenwert);
+                    ++n;
+                    ++ergebnis.neueZuege;
+                }
+            }
+            return saetze > 0;
+        });
     if (!ergebnis.geschrieben) ergebnis.neueZuege = 0;
     return ergebnis;
 }
@@ -67,8 +68,7 @@ int16_t Lerndatei::erinnern(const Brettfeld& Feld, int16_t figur, int Staerke, c
     const Code p = positionscode(Feld);
     int16_t ergebnis = 0;
     if (Staerke >= 1) {
-        const auto inhalt = dateiLesen(datenpfad(ordner_, lerndateiName(Staerke)),
-                                       static_cast<std::size_t>(kHoechsteSaetze) * kLernsatz);
+        const auto inhalt = dateiLesen(datenpfad(ordner_, lerndateiName(Staerke)), kDateiHoechstens);
         if (inhalt) {
             const int r = findeSatz(*inhalt, satzzahl(inhalt->size()), p, spiegelcode(p));
             if (r >= 0) {

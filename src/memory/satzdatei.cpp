@@ -71,6 +71,30 @@ bool dateiSchreiben(const fs::path& pfad, const Bytes& inhalt) {
     return true;
 }
 
+namespace {
+bool anfangUeberschreiben(const fs::path& pfad, const Bytes& anfang) {
+    if (::access(pfad.c_str(), W_OK) != 0) return false;
+    std::fstream datei(pfad, std::ios::binary | std::ios::in | std::ios::out);
+    if (!datei) return false;
+    datei.write(reinterpret_cast<const char*>(anfang.data()), static_cast<std::streamsize>(anfang.size()));
+    datei.flush();
+    return static_cast<bool>(datei);
+}
+} // namespace
+
+bool dateiFortschreiben(const fs::path& pfad, std::size_t hoechstens,
+                        const std::function<bool(Bytes&)>& aendern) {
+    auto inhalt = dateiLesen(pfad, hoechstens);
+    if (!inhalt) return false;
+    std::error_code ec;
+    const auto groesse = fs::file_size(pfad, ec);
+    if (ec) return false;
+    if (!aendern(*inhalt)) return true;
+    if (groesse <= hoechstens) return dateiSchreiben(pfad, *inhalt);
+    inhalt->resize(std::min(inhalt->size(), hoechstens)); // never past the owned part
+    return anfangUeberschreiben(pfad, *inhalt);
+}
+
 int16_t le16(const Bytes& b, std::size_t pos) {
     const unsigned lo = pos < b.size() ? b[pos] : 0u;
     const unsigned hi = pos + 1 < b.size() ? b[pos + 1] : 0u;

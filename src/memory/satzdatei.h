@@ -4,6 +4,7 @@
 // file, so a failed write never leaves a truncated or half-written file behind.
 #include <cstdint>
 #include <filesystem>
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -21,6 +22,14 @@ std::optional<Bytes> dateiLesen(const std::filesystem::path& pfad, std::size_t h
 
 // Replaces the file with `inhalt` atomically. False when it cannot be written; the old file stays.
 bool dateiSchreiben(const std::filesystem::path& pfad, const Bytes& inhalt);
+
+// Updates the part of a file the game owns, its first `hoechstens` bytes (a missing file is created
+// empty): `aendern` changes them and returns false when there is nothing to write back. A file no longer
+// than that part is replaced atomically; a longer one is overwritten in place over that part only, so
+// what follows stays as it was and an oversized file is never read or copied whole.
+// False when the file cannot be read or written.
+bool dateiFortschreiben(const std::filesystem::path& pfad, std::size_t hoechstens,
+                        const std::function<bool(Bytes&)>& aendern);
 
 // Signed 16-bit little-endian field at `pos`; bytes past the end read as 0.
 int16_t le16(const Bytes& b, std::size_t pos);

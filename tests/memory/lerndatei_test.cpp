@@ -3,6 +3,7 @@
 #include "memory/lerndatei.h"
 #include "temp_ordner.h"
 
+#include <fstream>
 #include <unistd.h>
 
 namespace fuh {
@@ -126,6 +127,16 @@ TEST_F(LerndateiTest, VolleDateiNimmtNichtsMehrAuf) {
     const auto m = datei.speichern(partie, 2);
     EXPECT_EQ(m.neueZuege, 0);
     EXPECT_EQ(ordner.lies("QZ3.DAT").size(), voll.size());
+
+    // A terabyte file (sparse) is read no further than the records a merge can reach; a known position
+    // among them is still updated in place, and the rest of the file stays.
+    const Code c = positionscode(s.Feld);
+    std::fstream(ordner / "QZ3.DAT", std::ios::binary | std::ios::in | std::ios::out)
+        .write(reinterpret_cast<const char*>(c.data()), static_cast<std::streamsize>(c.size()));
+    std::filesystem::resize_file(ordner / "QZ3.DAT", std::uintmax_t{1} << 40);
+    EXPECT_TRUE(datei.speichern(partie, 2).geschrieben);
+    EXPECT_EQ(datei.erinnern(s.Feld, henne, 2, Partie{}), 0x4141 + 1);
+    EXPECT_EQ(std::filesystem::file_size(ordner / "QZ3.DAT"), std::uintmax_t{1} << 40);
 }
 
 TEST_F(LerndateiTest, NichtSchreibbareDateiBleibtUnversehrt) {
