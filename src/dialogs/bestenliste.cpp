@@ -164,9 +164,10 @@ bool Bestenliste::speichern(const std::filesystem::path& ordner) const {
 int Bestenliste::anzeigen(Oeffentlich& spiel, double heute) {
     neuePos_ = static_cast<int>(kZeilen);
     // A fox game the penalty rule decided says nothing about the player's skill.
-    if (spiel.sw_spielende && spiel.score >= 1 && (seite_ == Seite::Hennen || !spiel.fuchs_null))
+    if (spiel.sw_spielende && spiel.score >= 1 && (seite_ == Seite::Hennen || !spiel.fuchs_null)) {
         einfuegen(spiel.score, spiel.u_is_sieger, heute);
-    spiel.sw_spielende = false; // one entry per game, even when it made no row
+        spiel.sw_spielende = false; // offered once, even when it made no row
+    }
     return neuePos_;
 }
 

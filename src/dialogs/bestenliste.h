@@ -28,7 +28,7 @@ class Bestenliste {
     bool speichern(const std::filesystem::path& ordner) const; // false when it cannot be written
 
     // Inserts the finished game when it is due (sw_spielende, score >= 1, and for the foxes no
-    // fuchs_null), then clears sw_spielende. Returns the new row, or 10 when nothing was inserted.
+    // fuchs_null) and then clears sw_spielende. Returns the new row, or 10 when nothing was inserted.
     int anzeigen(Oeffentlich& spiel, double heute);
     // Inserts `score` above the first row it reaches or ties; returns the row or 10.
     int einfuegen(int16_t score, const std::string& u_is_sieger, double heute);

@@ -137,9 +137,11 @@ void EinstDialog::ok_Click() {
     e.Einzelzug = Einzelzug_->isChecked() ? 1 : 0;
     if (uebernehmen_) uebernehmen_(e);
     if (!einstellungenSchreiben(ordner_, e)) {
+        // The next new game reads the file again, so the settings last only for the game being played.
         QMessageBox::warning(this, QString::fromUtf8(kTitel),
-                             QStringLiteral("Die Einstellungen konnten nicht in „QZ.INI“ gespeichert werden. "
-                                            "Sie gelten bis zum Programmende."));
+                             QStringLiteral("Die Einstellungen konnten nicht in „%1“ gespeichert werden. "
+                                            "Sie gelten nur für das laufende Spiel.")
+                                 .arg(QString::fromUtf8(kEinstellungsdatei)));
     }
     if (statusSetzen_) {
         if (const auto t = pcStatustext(e.PC)) statusSetzen_(1, QString::fromStdString(*t));

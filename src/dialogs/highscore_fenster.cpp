@@ -74,9 +74,7 @@ HighscoreFenster::HighscoreFenster(Seite seite, Oeffentlich& spiel, std::filesys
         auto* datum = zelle(QStringLiteral("datum%1").arg(i), this);
         datum->setText(datumText(e.datum));
         auto* score = zelle(QStringLiteral("score%1").arg(i), this);
-        // A row that was never written stays empty instead of showing a score of 0.
-        const bool nieBeschrieben = e.datum == 0 && e.score == 0;
-        score->setText(nieBeschrieben ? QString() : QString::number(e.score));
+        score->setText(QString::number(e.score));
         score->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
         auto* user = zelle(QStringLiteral("user%1").arg(i), this);
         user->setText(feldText(e.user));

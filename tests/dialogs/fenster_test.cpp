@@ -171,7 +171,7 @@ class FensterTest : public QObject {
         klick(e.d, "ok");
         QVERIFY2(meldung->startsWith(QStringLiteral("Fuchs und Hennen|")) && meldung->contains("QZ.INI"),
                  qPrintable(*meldung));
-        // The settings still apply until the program ends.
+        // The settings still apply to the game being played.
         QCOMPARE(e.uebernommen, 1);
         QCOMPARE(e.status.size(), 2);
         QVERIFY(e.d.isNull());
@@ -216,7 +216,7 @@ class FensterTest : public QObject {
         for (int i = 0; i < 10; ++i)
             QCOMPARE(kind(w, QStringLiteral("name1_%1").arg(i))->isVisible(), i == 0);
         QCOMPARE(text(w, "score0"), QStringLiteral("42"));
-        QCOMPARE(text(w, "score1") + text(w, "datum1"), QString()); // rows never written stay empty
+        QCOMPARE(text(w, "score1") + text(w, "datum1"), QStringLiteral("0")); // a row never written: no date
         QCOMPARE(text(w, "datum0"), QLocale::system().toString(QDate::currentDate(), QLocale::ShortFormat));
 
         tippen(kind(w, "name1_0"), QStringLiteral("Jörg"));
@@ -259,7 +259,7 @@ class FensterTest : public QObject {
         spiel.fuchs_null = true; // a penalty keeps the foxes off the list
         QPointer<HighscoreFenster> w = new HighscoreFenster(Seite::Fuchs, spiel, dir.pfad());
         w->show();
-        QVERIFY(!spiel.sw_spielende);
+        QVERIFY(spiel.sw_spielende); // not offered
         for (int i = 0; i < 10; ++i) {
             QVERIFY(!kind(w, QStringLiteral("name1_%1").arg(i))->isVisible());
             QCOMPARE(text(w, QStringLiteral("datum%1").arg(i)), QString()); // damaged dates: empty cells
