@@ -47,6 +47,7 @@ EinstDialog::EinstDialog(Oeffentlich& spiel, std::filesystem::path ordner,
     setPalette(pal);
 
     auto* staerkeText = new QLabel(QStringLiteral("Spielstärke:"), this);
+    staerkeText->setObjectName(QStringLiteral("Spielstärke"));
     ok_ = new QPushButton(QStringLiteral("Übernehmen"), this);
     ok_->setObjectName(QStringLiteral("ok"));
     Abbruch_ = new QPushButton(QStringLiteral("Abbrechen"), this);
@@ -63,6 +64,7 @@ EinstDialog::EinstDialog(Oeffentlich& spiel, std::filesystem::path ordner,
     Einzelzug_ = new QCheckBox(QStringLiteral("Einzelzugmodus"), this);
     Einzelzug_->setObjectName(QStringLiteral("Einzelzug"));
     auto* pcText = new QLabel(QStringLiteral("Computer spielt:"), this);
+    pcText->setObjectName(QStringLiteral("Label1"));
     staerkeText->setBuddy(Staerke_);
     pcText->setBuddy(pc_spielt_);
 

@@ -1,3 +1,4 @@
+#include "player/strafregel.h"
 #include "spiel_fixture.h"
 
 namespace fuh {
@@ -49,6 +50,27 @@ TEST_F(FuchsSpieltTest, SprungfolgeEndetMitRechterTaste) {
     spiel.Timer1_Timer();
     EXPECT_EQ(spiel.spielzug(), vorher + 1); // one hen reply
     EXPECT_TRUE(ansicht.meldungen.empty());  // a jump is never penalised
+}
+
+TEST_F(FuchsSpieltTest, NeuNachFangUndStrafeStelltAllesAuf) {
+    ziehe(4, 2, 4, 1); // a step although both foxes could jump
+    spiel.Timer1_Timer();
+    ASSERT_EQ(ansicht.meldungen, std::vector<std::string>{kFuchsAusgeschlossen});
+    ASSERT_TRUE(figur_index(spiel.stellung(), kParkfeld).has_value());
+    ziehe(2, 2, 2, 4); // the remaining fox captures
+    ASSERT_EQ(spiel.stellung().Feld[2][3], leer);
+
+    // Every piece is back and shown, the captured hens and the parked fox too; then the hens open.
+    spiel.Neu_Click();
+    Stellung erwartet;
+    erwartet.grundstellung();
+    erwartet.Feld[3][3] = leer;
+    erwartet.Feld[3][2] = henne;
+    EXPECT_EQ(spiel.stellung().Feld, erwartet.Feld);
+    for (int k = 0; k < kFiguren; ++k)
+        EXPECT_TRUE(spiel.bilder().sichtbar[k]) << k;
+    EXPECT_EQ(spiel.spielzug(), 1);
+    EXPECT_EQ(statistik(14), 2);
 }
 
 } // namespace
