@@ -2,7 +2,6 @@
 
 #include <QAction>
 #include <QApplication>
-#include <QGuiApplication>
 #include <QIcon>
 #include <QLabel>
 #include <QLayout>
@@ -13,7 +12,6 @@
 #include <QStatusBar>
 #include <QTime>
 #include <QTranslator>
-#include <thread>
 #include <utility>
 
 #include "dialogs/einst_dialog.h"
@@ -63,8 +61,7 @@ BrettFenster::BrettFenster(std::filesystem::path ordner, QWidget* parent)
     : BrettFenster(std::move(ordner), sekundenSeitMitternacht(), parent) {}
 
 BrettFenster::BrettFenster(std::filesystem::path ordner, uint32_t startzeit, QWidget* parent)
-    : QMainWindow(parent),
-      gleitpause_(QGuiApplication::platformName() == QLatin1String("offscreen") ? 0 : 2000) {
+    : QMainWindow(parent) {
     setObjectName(QStringLiteral("brett"));
     setWindowTitle(QString::fromUtf8(kTitel));
     setWindowIcon(QIcon(QStringLiteral(":/bilder/app.svg")));
@@ -150,10 +147,18 @@ void BrettFenster::menueAnlegen() {
 }
 
 void BrettFenster::menueSchliessen() {
-    // A computer game does not return to the event loop until it is over: let the closed menu
-    // disappear from the screen and the board be painted whole before it starts.
-    QGuiApplication::sync();
-    repaint();
+    // A computer game does not return to the event loop until it is over, so the window is painted
+    // whole before it starts: the menu has already been taken off the screen, and its picture must
+    // not stay over the board.
+    ganzMalen();
+}
+
+void BrettFenster::ganzMalen() {
+    // Painting processes no events. The main window's own repaint leaves the board on the screen as
+    // it was, so each part is painted itself.
+    for (QWidget* teil : {static_cast<QWidget*>(menuBar()), static_cast<QWidget*>(brett_),
+                          static_cast<QWidget*>(statusBar())})
+        teil->repaint();
 }
 
 void BrettFenster::statusleisteAnlegen() {
@@ -189,8 +194,7 @@ void BrettFenster::figurBewegt(int k, int left, int top) {
 }
 
 void BrettFenster::figurGleitet(int k, int left, int top) {
-    brett_->figurSetzen(k, left, top);
-    if (gleitpause_.count() > 0) std::this_thread::sleep_for(gleitpause_);
+    brett_->figurSetzen(k, left, top); // painted at once: each step of a slide is seen
 }
 
 void BrettFenster::figurSichtbar(int k, bool sichtbar) {
@@ -216,7 +220,7 @@ void BrettFenster::meldung(const std::string& text) {
     QMessageBox box(QMessageBox::NoIcon, QString::fromUtf8(kTitel), QString::fromStdString(text),
                     QMessageBox::Ok, this);
     box.exec();
-    repaint(); // the game may go on without the event loop: the box must not leave a hole behind
+    ganzMalen(); // the game may go on without the event loop: the box must not leave a hole behind
     if (tickte) timer1_.start();
 }
 

@@ -1,5 +1,4 @@
 #pragma once
-#include <chrono>
 // The main window ("brett"): shows the board, forwards every event to the game in one call and
 // carries out what the game asks of the screen.
 #include <QMainWindow>
@@ -48,8 +47,6 @@ class BrettFenster : public QMainWindow, public Ansicht {
     // Ansicht
     void figurBewegt(int k, int left, int top) override;
     void figurGleitet(int k, int left, int top) override;
-    // Pause after each slide step; 0 shows slides as fast as the screen can paint (tests, offscreen).
-    void setGleitpause(std::chrono::microseconds p) { gleitpause_ = p; }
     void figurSichtbar(int k, bool sichtbar) override;
     void figurenZiehbar(bool ziehbar) override;
     void hinweis(Hinweis h, bool sichtbar) override;
@@ -61,9 +58,10 @@ class BrettFenster : public QMainWindow, public Ansicht {
     void Timer1_Timer();
 
   private:
-    std::chrono::microseconds gleitpause_;
     void menueAnlegen();
     void menueSchliessen();
+    // Paints the whole window at once, e.g. where a closed menu or message box lay.
+    void ganzMalen();
     void statusleisteAnlegen();
     void bilderAbgleichen();
     void einstellungenZeigen();
