@@ -9,10 +9,13 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QMessageBox>
+#include <QScreen>
 #include <QStatusBar>
 #include <QTime>
 #include <QTranslator>
+#include <algorithm>
 #include <utility>
+#include <vector>
 
 #include "dialogs/einst_dialog.h"
 #include "dialogs/highscore_fenster.h"
@@ -34,6 +37,20 @@ uint32_t sekundenSeitMitternacht() {
 template <class W> W* alsFenster(W* w) {
     w->setAttribute(Qt::WA_DeleteOnClose);
     return w;
+}
+
+// Places the top-level window `w` to the right of `nachbar`, or to its left where the screen ends.
+void nebenStellen(QWidget* w, const QWidget* nachbar) {
+    constexpr int kAbstand = 12;
+    w->adjustSize();
+    const QRect n = nachbar->frameGeometry();
+    QPoint p(n.right() + 1 + kAbstand, n.top());
+    if (const QScreen* bildschirm = nachbar->screen()) {
+        const QRect frei = bildschirm->availableGeometry();
+        if (p.x() + w->width() > frei.right() && n.left() - kAbstand - w->width() >= frei.left())
+            p.setX(n.left() - kAbstand - w->width());
+    }
+    w->move(p);
 }
 
 void hervorholen(QWidget* w) {
@@ -88,9 +105,8 @@ BrettFenster::BrettFenster(std::filesystem::path ordner, uint32_t startzeit, QWi
 BrettFenster::~BrettFenster() {
     timer1_.stop();
     // Windows that refer to the game's public variables must go before the game does.
-    for (QWidget* w : {static_cast<QWidget*>(einst_.data()), static_cast<QWidget*>(highscore_[0].data()),
-                       static_cast<QWidget*>(highscore_[1].data())})
-        delete w;
+    delete einst_.data();
+    qDeleteAll(findChildren<HighscoreFenster*>(Qt::FindDirectChildrenOnly));
 }
 
 void BrettFenster::anwendungEinrichten(QApplication& app) {
@@ -225,7 +241,7 @@ void BrettFenster::meldung(const std::string& text) {
 }
 
 void BrettFenster::oeffnen(Fenster f) {
-    highscoreZeigen(f == Fenster::highf ? Seite::Fuchs : Seite::Hennen);
+    highscoreNachDemSpiel(f == Fenster::highf ? Seite::Fuchs : Seite::Hennen);
 }
 
 void BrettFenster::einstellungenZeigen() {
@@ -243,11 +259,33 @@ void BrettFenster::statistikZeigen() {
     neuZeigen(stat_, [this] { return new StatForm(spiel_->ordner(), this); });
 }
 
+std::vector<HighscoreFenster*> BrettFenster::wartendeListen(Seite seite) const {
+    std::vector<HighscoreFenster*> wartend;
+    for (HighscoreFenster* w : findChildren<HighscoreFenster*>(Qt::FindDirectChildrenOnly))
+        if (w->liste().seite() == seite && !w->isHidden() && w->liste().neuePos() < 10) wartend.push_back(w);
+    return wartend;
+}
+
 void BrettFenster::highscoreZeigen(Seite seite) {
+    // A list whose new row still waits for its name is never replaced: a fresh one would not have it.
+    const std::vector<HighscoreFenster*> wartend = wartendeListen(seite);
+    for (HighscoreFenster* w : wartend)
+        hervorholen(w);
+    if (!wartend.empty()) return;
     // A fresh window also enters a just finished game.
     neuZeigen(highscore_[seite == Seite::Fuchs ? 0 : 1], [this, seite] {
         return new HighscoreFenster(seite, spiel_->oeffentlich(), spiel_->ordner(), this);
     });
+}
+
+void BrettFenster::highscoreNachDemSpiel(Seite seite) {
+    QPointer<HighscoreFenster>& offen = highscore_[seite == Seite::Fuchs ? 0 : 1];
+    const std::vector<HighscoreFenster*> wartend = wartendeListen(seite);
+    if (offen && std::find(wartend.begin(), wartend.end(), offen.data()) == wartend.end()) offen->close();
+    offen = alsFenster(new HighscoreFenster(seite, spiel_->oeffentlich(), spiel_->ordner(), this));
+    // The entry of an earlier game still waits for its name: both stay open, side by side.
+    if (!wartend.empty()) nebenStellen(offen, wartend.back());
+    hervorholen(offen);
 }
 
 } // namespace fuh

@@ -8,6 +8,7 @@
 #include <cstdint>
 #include <filesystem>
 #include <memory>
+#include <vector>
 
 #include "board/ansicht.h"
 #include "board/zufall.h"
@@ -66,7 +67,12 @@ class BrettFenster : public QMainWindow, public Ansicht {
     void bilderAbgleichen();
     void einstellungenZeigen();
     void statistikZeigen();
+    // From the menu: brings forward a list whose new row waits for a name, else shows a fresh one.
     void highscoreZeigen(Seite seite);
+    // After a game: a fresh list that enters it, beside any list still waiting for a name.
+    void highscoreNachDemSpiel(Seite seite);
+    // Open lists of `seite` with a new row whose name is not yet confirmed.
+    std::vector<HighscoreFenster*> wartendeListen(Seite seite) const;
 
     Zufall zufall_;
     std::unique_ptr<Spiel> spiel_;

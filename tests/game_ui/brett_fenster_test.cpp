@@ -334,6 +334,38 @@ class BrettFensterTest : public QObject {
         QCOMPARE(offene<HighscoreFenster>(*a.fenster), 2);
         QCOMPARE(a.fenster->findChildren<HighscoreFenster*>().size(), 2);
         QVERIFY(QApplication::activeModalWidget() == nullptr);
+
+        // A list whose new row still waits for its name is never replaced: not by the menu, and not
+        // by the list of the next finished game, which opens beside it.
+        Oeffentlich& o = a.spiel().oeffentlich();
+        auto spielEnde = [&](int16_t score) {
+            o.score = score;
+            o.u_is_sieger = "Ja";
+            o.sw_spielende = true;
+            a.fenster->oeffnen(Fenster::highh);
+        };
+        auto henneListen = [&] {
+            QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+            std::vector<HighscoreFenster*> l;
+            for (auto* w : a.fenster->findChildren<HighscoreFenster*>())
+                if (w->liste().seite() == Seite::Hennen && w->isVisible()) l.push_back(w);
+            return l;
+        };
+        spielEnde(300);
+        QPointer<HighscoreFenster> erste = henneListen().at(0);
+        QCOMPARE(erste->liste().neuePos(), 0);
+        a.aktion("highhe");
+        QVERIFY(!erste.isNull() && erste->isVisible());
+        QCOMPARE(henneListen().size(), 1u);
+        spielEnde(200);
+        const auto beide = henneListen();
+        QCOMPARE(beide.size(), 2u);
+        for (HighscoreFenster* w : beide)
+            QCOMPARE(w->liste().neuePos(), 0);
+        QVERIFY(!beide[0]->frameGeometry().intersects(beide[1]->frameGeometry()));
+        a.aktion("highhe");
+        QCOMPARE(henneListen().size(), 2u);
+        QCOMPARE(offene<HighscoreFenster>(*a.fenster), 3); // the foxes' list stays as it was
     }
 };
 
