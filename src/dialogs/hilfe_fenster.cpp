@@ -37,11 +37,12 @@ HilfeFenster::HilfeFenster(QWidget* parent) : QWidget(parent, Qt::Window) {
 
     connect(browser_, &QTextBrowser::backwardAvailable, zurueck, &QPushButton::setEnabled);
     connect(zurueck, &QPushButton::clicked, browser_, &QTextBrowser::backward);
-    connect(start, &QPushButton::clicked, browser_, [this] {
-        // Back to the guide's first topic, at the top even when the page was already shown.
-        browser_->home();
-        browser_->verticalScrollBar()->setValue(0);
-    });
+    connect(start, &QPushButton::clicked, this, &HilfeFenster::zumAnfang);
+}
+
+void HilfeFenster::zumAnfang() {
+    browser_->home();
+    browser_->verticalScrollBar()->setValue(0);
 }
 
 } // namespace fuh

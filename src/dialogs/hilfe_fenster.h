@@ -12,6 +12,8 @@ class HilfeFenster : public QWidget {
     explicit HilfeFenster(QWidget* parent = nullptr);
 
     QTextBrowser* browser() const { return browser_; }
+    // Back to the guide's first topic, at the top even when the page was already shown.
+    void zumAnfang();
 
   private:
     QTextBrowser* browser_;

@@ -129,7 +129,7 @@ void BrettFenster::menueAnlegen() {
     };
 
     QMenu* spielMenue = menuBar()->addMenu(QStringLiteral("&Spiel"));
-    spielMenue->setObjectName(QStringLiteral("Spiel"));
+    spielMenue->setObjectName(QStringLiteral("spiel"));
     aktion(spielMenue, "start", QStringLiteral("&Start"), [this] {
         menueSchliessen();
         spiel_->start_Click();
@@ -147,7 +147,7 @@ void BrettFenster::menueAnlegen() {
     connect(einstellungen, &QAction::triggered, this, &BrettFenster::einstellungenZeigen);
 
     QMenu* ergebnisse = menuBar()->addMenu(QStringLiteral("E&rgebnisse"));
-    ergebnisse->setObjectName(QStringLiteral("Ergebnisse"));
+    ergebnisse->setObjectName(QStringLiteral("erg"));
     aktion(ergebnisse, "Stt", QStringLiteral("&Statistik"), [this] { statistikZeigen(); });
     aktion(ergebnisse, "highfu", QStringLiteral("Highscore &Fuchs"),
            [this] { highscoreZeigen(Seite::Fuchs); });
@@ -155,9 +155,12 @@ void BrettFenster::menueAnlegen() {
            [this] { highscoreZeigen(Seite::Hennen); });
 
     QMenu* hilfe = menuBar()->addMenu(QStringLiteral("&Hilfe"));
-    hilfe->setObjectName(QStringLiteral("Hilfe"));
-    aktion(hilfe, "help", QStringLiteral("&Hilfe"),
-           [this] { einmalZeigen(hilfe_, [this] { return new HilfeFenster(this); }); });
+    hilfe->setObjectName(QStringLiteral("hilfe"));
+    aktion(hilfe, "help", QStringLiteral("&Hilfe"), [this] {
+        // The help always opens at its first topic, also when it was left open elsewhere.
+        einmalZeigen(hilfe_, [this] { return new HilfeFenster(this); });
+        hilfe_->zumAnfang();
+    });
     aktion(hilfe, "info", QStringLiteral("&Info"),
            [this] { einmalZeigen(info_, [this] { return new InfoWin(this); }); });
 }

@@ -5,9 +5,11 @@
 #include <QMessageBox>
 #include <QPointer>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTextBrowser>
 #include <QTimer>
 #include <algorithm>
 #include <fstream>
@@ -311,6 +313,13 @@ class BrettFensterTest : public QObject {
         QCOMPARE(a.fenster->findChildren<EinstDialog*>().size(), 1);
         QCOMPARE(a.fenster->findChildren<HilfeFenster*>().size(), 1);
         QCOMPARE(a.fenster->findChildren<InfoWin*>().size(), 1);
+        // The help opens at its first topic also when the open one was left elsewhere.
+        QTextBrowser* hilfe = a.fenster->findChild<HilfeFenster*>()->browser();
+        hilfe->setSource(QUrl(QStringLiteral("qrc:/hilfe/ratgeber.html#punkte")));
+        QVERIFY(hilfe->verticalScrollBar()->value() > 0);
+        a.aktion("help");
+        QCOMPARE(hilfe->source(), QUrl(QStringLiteral("qrc:/hilfe/ratgeber.html")));
+        QCOMPARE(hilfe->verticalScrollBar()->value(), 0);
         QCOMPARE(offene<EinstDialog>(*a.fenster) + offene<HilfeFenster>(*a.fenster) +
                      offene<InfoWin>(*a.fenster),
                  3);
