@@ -1,5 +1,6 @@
 #include "game/brett_flaeche.h"
 
+#include <QApplication>
 #include <QFont>
 #include <QFontMetrics>
 #include <QMouseEvent>
@@ -184,8 +185,10 @@ void BrettFlaeche::mouseReleaseEvent(QMouseEvent* event) {
     ziehenAbbrechen();
     zeigerSetzen(p);
 
-    // Only the drop targets accept a drop; a piece image lying over the point takes it instead.
+    // Only the drop targets accept a drop; a piece image lying over the point takes it instead. The
+    // board holds the mouse during a drag, so a release over another window arrives here as well.
     if (!rect().contains(p) || figurAn(p) >= 0) return;
+    if (QApplication::topLevelAt(event->globalPosition().toPoint()) != window()) return;
     const int t = platzAn(p);
     if (t >= 0) emit abgelegt(t, k);
 }
