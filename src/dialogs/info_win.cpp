@@ -42,9 +42,9 @@ InfoWin::InfoWin(QWidget* parent) : QDialog(parent) {
     QLabel* mail = text(
         QStringLiteral("email"),
         QStringLiteral("<a href=\"mailto:fuchs-und-hennen@example.org\">fuchs-und-hennen@example.org</a>"));
+    // It looks like a mail link, but like every label here it does nothing when clicked.
     mail->setTextFormat(Qt::RichText);
-    mail->setOpenExternalLinks(true);
-    mail->setTextInteractionFlags(Qt::TextBrowserInteraction);
+    mail->setTextInteractionFlags(Qt::NoTextInteraction);
     text(QStringLiteral("Label4"),
          QStringLiteral(
              "Neue Versionen, Informationen und Neuigkeiten: https://example.org/fuchs-und-hennen"));

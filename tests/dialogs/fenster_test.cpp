@@ -276,6 +276,11 @@ class FensterTest : public QObject {
         info->show();
         QCOMPARE(text(info, "Label1"), QStringLiteral("Fuchs und Hennen 2026"));
         QVERIFY(text(info, "email").contains(QStringLiteral("mailto:fuchs-und-hennen@example.org")));
+        // It looks like a link, but like every label of the box it ignores clicks.
+        auto* mail = kind<QLabel>(info, QStringLiteral("email"));
+        QSignalSpy angeklickt(mail, &QLabel::linkActivated);
+        QTest::mouseClick(mail, Qt::LeftButton, Qt::NoModifier, QPoint(8, mail->height() / 2));
+        QCOMPARE(angeklickt.count(), 0);
         for (int i = 1; i <= 4; ++i)
             QVERIFY(kind<QSvgWidget>(info, QStringLiteral("Image%1").arg(i))->renderer()->isValid());
         klick(info, "Command1");
