@@ -1,7 +1,8 @@
 // Fuchs und Hennen: starts the main window in the player's data folder.
 #include <QApplication>
+#include <QFile>
 #include <QMessageBox>
-#include <cstdlib>
+#include <QStandardPaths>
 #include <filesystem>
 #include <system_error>
 
@@ -9,17 +10,11 @@
 
 namespace {
 
-// FUH_DATA_DIR if given, else $XDG_DATA_HOME/fuchs-und-hennen (default ~/.local/share/fuchs-und-hennen).
+// The per-user data folder: $XDG_DATA_HOME/fuchs-und-hennen (normally ~/.local/share/fuchs-und-hennen).
 std::filesystem::path datenordner() {
-    if (const char* d = std::getenv("FUH_DATA_DIR"); d && *d) return d;
-    std::filesystem::path basis;
-    if (const char* x = std::getenv("XDG_DATA_HOME"); x && *x)
-        basis = x;
-    else if (const char* h = std::getenv("HOME"); h && *h)
-        basis = std::filesystem::path(h) / ".local" / "share";
-    else
-        return std::filesystem::current_path();
-    return basis / "fuchs-und-hennen";
+    const QString basis = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
+    if (basis.isEmpty()) return std::filesystem::current_path();
+    return std::filesystem::path(QFile::encodeName(basis).toStdString()) / "fuchs-und-hennen";
 }
 
 } // namespace
