@@ -138,6 +138,19 @@ void Bestenliste::laden(const std::filesystem::path& ordner) {
 }
 
 bool Bestenliste::speichern(const std::filesystem::path& ordner) const {
+    // Another list of the same side may have been confirmed since this one was read: the new row goes
+    // into what the file holds now, so that neither entry is lost.
+    Bestenliste jetzt(seite_);
+    jetzt.laden(ordner);
+    if (neuePos_ >= 0 && neuePos_ < static_cast<int>(kZeilen)) {
+        const Eintrag& neu = tabelle_[static_cast<std::size_t>(neuePos_)];
+        if (jetzt.einfuegen(neu.score, neu.sieg, neu.datum) < static_cast<int>(kZeilen))
+            jetzt.tabelle_[static_cast<std::size_t>(jetzt.neuePos_)].user = neu.user;
+    }
+    return jetzt.schreiben(ordner);
+}
+
+bool Bestenliste::schreiben(const std::filesystem::path& ordner) const {
     // Bytes after the ten records belong to nobody we know; leave them where they are.
     return dateiFortschreiben(datenpfad(ordner, bestenlistendatei(seite_)), kDatei, [this](Bytes& b) {
         for (std::size_t z = 0; z < kZeilen; ++z) {

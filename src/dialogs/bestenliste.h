@@ -24,8 +24,9 @@ class Bestenliste {
   public:
     explicit Bestenliste(Seite s) : seite_(s) {}
 
-    void laden(const std::filesystem::path& ordner);           // a missing or short file gives empty rows
-    bool speichern(const std::filesystem::path& ordner) const; // false when it cannot be written
+    void laden(const std::filesystem::path& ordner); // a missing or short file gives empty rows
+    // Writes the list with its new row; false when it cannot be written.
+    bool speichern(const std::filesystem::path& ordner) const;
 
     // Inserts the finished game when it is due (sw_spielende, score >= 1, and for the foxes no
     // fuchs_null) and then clears sw_spielende. Returns the new row, or 10 when nothing was inserted.
@@ -40,6 +41,8 @@ class Bestenliste {
     Seite seite() const { return seite_; }
 
   private:
+    bool schreiben(const std::filesystem::path& ordner) const; // the ten rows over the first records
+
     Seite seite_;
     std::array<Eintrag, 10> tabelle_{};
     int neuePos_ = 10;

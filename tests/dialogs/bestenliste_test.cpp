@@ -79,6 +79,25 @@ TEST(Bestenliste, GleichstandKommtUeberAeltereZeile) {
               std::make_tuple(blank("Eva"), blank("Spieler3"), blank("Spieler8")));
 }
 
+TEST(Bestenliste, ZweiWartendeListenVerlierenKeinenEintrag) {
+    TempOrdner t;
+    t.schreibe("QZH.sco", liste({90, 50}));
+    Bestenliste erste(Seite::Hennen), zweite(Seite::Hennen);
+    erste.laden(t.pfad());
+    zweite.laden(t.pfad());
+    ASSERT_EQ(erste.einfuegen(60, "Ja", kHeute), 1);
+    ASSERT_EQ(zweite.einfuegen(95, "Ja", kHeute + 1), 0);
+    erste.nameSetzen("Erste");
+    zweite.nameSetzen("Zweite");
+    ASSERT_TRUE(zweite.speichern(t.pfad()));
+    ASSERT_TRUE(erste.speichern(t.pfad()));
+    Bestenliste l(Seite::Hennen);
+    l.laden(t.pfad());
+    EXPECT_EQ(scoresVon(l), (std::vector<int>{95, 90, 60, 50, 0, 0, 0, 0, 0, 0}));
+    EXPECT_EQ(std::make_tuple(l.eintraege()[0].user, l.eintraege()[2].user, l.eintraege()[2].datum),
+              std::make_tuple(blank("Zweite"), blank("Erste"), kHeute));
+}
+
 TEST(Bestenliste, UnterAllenEintraegenKeinPlatz) {
     TempOrdner t;
     const B vorher = liste({100, 90, 80, 70, 60, 50, 40, 30, 20, 10});
