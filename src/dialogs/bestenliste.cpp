@@ -10,7 +10,7 @@ namespace fuh {
 namespace {
 
 constexpr std::size_t kSatz = 29;
-constexpr std::size_t kZeilen = 10;
+constexpr std::size_t kZeilen = kListenzeilen;
 constexpr std::size_t kDatei = kSatz * kZeilen;
 constexpr std::size_t kName = 15;
 constexpr std::size_t kSieg = 4;
@@ -142,10 +142,10 @@ bool Bestenliste::speichern(const std::filesystem::path& ordner) const {
     // into what the file holds now, so that neither entry is lost.
     Bestenliste jetzt(seite_);
     jetzt.laden(ordner);
-    if (neuePos_ >= 0 && neuePos_ < static_cast<int>(kZeilen)) {
+    if (hatNeueZeile()) {
         const Eintrag& neu = tabelle_[static_cast<std::size_t>(neuePos_)];
-        if (jetzt.einfuegen(neu.score, neu.sieg, neu.datum) < static_cast<int>(kZeilen))
-            jetzt.tabelle_[static_cast<std::size_t>(jetzt.neuePos_)].user = neu.user;
+        jetzt.einfuegen(neu.score, neu.sieg, neu.datum);
+        if (jetzt.hatNeueZeile()) jetzt.tabelle_[static_cast<std::size_t>(jetzt.neuePos_)].user = neu.user;
     }
     return jetzt.schreiben(ordner);
 }
@@ -201,7 +201,7 @@ int Bestenliste::einfuegen(int16_t score, const std::string& u_is_sieger, double
 }
 
 void Bestenliste::nameSetzen(const std::string& utf8) {
-    if (neuePos_ < 0 || neuePos_ >= static_cast<int>(kZeilen)) return;
+    if (!hatNeueZeile()) return;
     tabelle_[static_cast<std::size_t>(neuePos_)].user =
         aufLaenge(nachWindows1252(utf8).substr(0, kName), kName);
 }

@@ -11,6 +11,8 @@ namespace fuh {
 
 enum class Seite { Fuchs, Hennen };
 
+inline constexpr int kListenzeilen = 10; // rows of a list; as a row index: none
+
 const char* bestenlistendatei(Seite s); // "QZF.sco" or "QZH.sco"
 
 struct Eintrag {
@@ -36,16 +38,17 @@ class Bestenliste {
     // The name typed into the new row, as UTF-8; stored cut or padded to 15 Windows-1252 bytes.
     void nameSetzen(const std::string& utf8);
 
-    const std::array<Eintrag, 10>& eintraege() const { return tabelle_; }
+    const std::array<Eintrag, kListenzeilen>& eintraege() const { return tabelle_; }
     int neuePos() const { return neuePos_; }
+    bool hatNeueZeile() const { return neuePos_ >= 0 && neuePos_ < kListenzeilen; }
     Seite seite() const { return seite_; }
 
   private:
     bool schreiben(const std::filesystem::path& ordner) const; // the ten rows over the first records
 
     Seite seite_;
-    std::array<Eintrag, 10> tabelle_{};
-    int neuePos_ = 10;
+    std::array<Eintrag, kListenzeilen> tabelle_{};
+    int neuePos_ = kListenzeilen;
 };
 
 // Text conversions between the files' Windows-1252 and UTF-8 (unmappable characters become '?').

@@ -69,7 +69,7 @@ HighscoreFenster::HighscoreFenster(Seite seite, Oeffentlich& spiel, std::filesys
         tabelle->addWidget(k, 0, c);
     }
     const QFontMetrics fm(font());
-    for (int i = 0; i < 10; ++i) {
+    for (int i = 0; i < kListenzeilen; ++i) {
         const Eintrag& e = liste_.eintraege()[static_cast<std::size_t>(i)];
         auto* datum = zelle(QStringLiteral("datum%1").arg(i), this);
         datum->setText(datumText(e.datum));
@@ -112,7 +112,7 @@ HighscoreFenster::HighscoreFenster(Seite seite, Oeffentlich& spiel, std::filesys
 
     connect(ok, &QPushButton::clicked, this, [this] { ok_Click(); });
     connect(abbruch, &QPushButton::clicked, this, &QDialog::close);
-    if (neu >= 0 && neu < 10) name1_[static_cast<std::size_t>(neu)]->setFocus();
+    if (liste_.hatNeueZeile()) name1_[static_cast<std::size_t>(neu)]->setFocus();
 }
 
 void HighscoreFenster::ok_Click() {

@@ -30,7 +30,7 @@ class HighscoreFenster : public QDialog {
 
     Bestenliste liste_;
     std::filesystem::path ordner_;
-    std::array<QLineEdit*, 10> name1_{};
+    std::array<QLineEdit*, kListenzeilen> name1_{};
 };
 
 } // namespace fuh

@@ -265,7 +265,7 @@ void BrettFenster::statistikZeigen() {
 std::vector<HighscoreFenster*> BrettFenster::wartendeListen(Seite seite) const {
     std::vector<HighscoreFenster*> wartend;
     for (HighscoreFenster* w : findChildren<HighscoreFenster*>(Qt::FindDirectChildrenOnly))
-        if (w->liste().seite() == seite && !w->isHidden() && w->liste().neuePos() < 10) wartend.push_back(w);
+        if (w->liste().seite() == seite && !w->isHidden() && w->liste().hatNeueZeile()) wartend.push_back(w);
     return wartend;
 }
 
