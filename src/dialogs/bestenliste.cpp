@@ -12,7 +12,12 @@ namespace {
 constexpr std::size_t kSatz = 29;
 constexpr std::size_t kZeilen = kListenzeilen;
 constexpr std::size_t kDatei = kSatz * kZeilen;
+// Fields of a record: date, score, name and win text.
+constexpr std::size_t kDatum = 8;
+constexpr std::size_t kScoreAb = kDatum;
+constexpr std::size_t kNameAb = 10;
 constexpr std::size_t kName = 15;
+constexpr std::size_t kSiegAb = 25;
 constexpr std::size_t kSieg = 4;
 
 // Code points of the bytes 0x80..0x9F. The five bytes Windows-1252 leaves unassigned map to the C1
@@ -126,13 +131,13 @@ void Bestenliste::laden(const std::filesystem::path& ordner) {
     for (std::size_t z = 0; z < kZeilen; ++z) {
         const std::size_t p = z * kSatz;
         uint64_t roh = 0;
-        for (std::size_t k = 0; k < 8; ++k)
+        for (std::size_t k = 0; k < kDatum; ++k)
             roh |= static_cast<uint64_t>(p + k < b.size() ? b[p + k] : 0) << (8 * k);
         Eintrag& e = tabelle_[z];
         e.datum = std::bit_cast<double>(roh);
-        e.score = le16(b, p + 8);
-        e.user = feld(b, p + 10, kName);
-        e.sieg = feld(b, p + 25, kSieg);
+        e.score = le16(b, p + kScoreAb);
+        e.user = feld(b, p + kNameAb, kName);
+        e.sieg = feld(b, p + kSiegAb, kSieg);
     }
     neuePos_ = static_cast<int>(kZeilen);
 }
@@ -157,18 +162,18 @@ bool Bestenliste::schreiben(const std::filesystem::path& ordner) const {
             const std::size_t p = z * kSatz;
             const Eintrag& e = tabelle_[z];
             const auto roh = std::bit_cast<uint64_t>(e.datum);
-            uint8_t datum[8];
-            for (std::size_t k = 0; k < 8; ++k)
+            uint8_t datum[kDatum];
+            for (std::size_t k = 0; k < kDatum; ++k)
                 datum[k] = static_cast<uint8_t>(roh >> (8 * k));
-            setzeBytes(b, p, datum, 8);
-            setzeLe16(b, p + 8, e.score);
+            setzeBytes(b, p, datum, kDatum);
+            setzeLe16(b, p + kScoreAb, e.score);
             // Fields are fixed width; an empty row keeps its zeros.
             std::string user = e.user;
             user.resize(kName, '\0');
             std::string sieg = e.sieg;
             sieg.resize(kSieg, '\0');
-            setzeBytes(b, p + 10, reinterpret_cast<const uint8_t*>(user.data()), kName);
-            setzeBytes(b, p + 25, reinterpret_cast<const uint8_t*>(sieg.data()), kSieg);
+            setzeBytes(b, p + kNameAb, reinterpret_cast<const uint8_t*>(user.data()), kName);
+            setzeBytes(b, p + kSiegAb, reinterpret_cast<const uint8_t*>(sieg.data()), kSieg);
         }
         return true;
     });
