@@ -8,7 +8,7 @@ namespace fuh {
 
 namespace {
 
-constexpr std::size_t kZaehler = 17;
+constexpr std::size_t kZaehler = Zaehlerstelle::anzahl;
 
 void addiere(int16_t& z, int n) {
     // The counters are 16-bit; a long-used file must not wrap around to negative numbers.
@@ -41,29 +41,30 @@ Statistik statistikLesen(const std::filesystem::path& ordner) {
 }
 
 bool statistik(const std::filesystem::path& ordner, int ergebnis, const Einstellungen& e, int16_t neueZuege) {
-    return fortschreiben(ordner, [&](std::array<int16_t, 17>& z) {
-        addiere(z[0], 1);
+    return fortschreiben(ordner, [&](std::array<int16_t, kZaehler>& z) {
+        addiere(z[Zaehlerstelle::beendet], 1);
         if (e.Lernmodus == 1) {
-            addiere(z[1], 1);
-            addiere(z[15], neueZuege);
-            z[16] = neueZuege;
+            addiere(z[Zaehlerstelle::imLernmodus], 1);
+            addiere(z[Zaehlerstelle::gelernt], neueZuege);
+            z[Zaehlerstelle::gelerntLetztes] = neueZuege;
         }
         // Settings come unchecked from QZ.INI; an unknown strength counts the game but no win.
         if (e.Staerke < 0 || e.Staerke > 2) return;
-        const int s = e.Staerke;
+        const auto s = static_cast<std::size_t>(e.Staerke);
         if (ergebnis == 2 && (e.PC == 0 || e.PC == 2))
-            addiere(z[2 + s], 1);
+            addiere(z[Zaehlerstelle::pcSiegeFuchs + s], 1);
         else if (ergebnis == 1 && e.PC == 0)
-            addiere(z[11 + s], 1);
+            addiere(z[Zaehlerstelle::userSiegeHennen + s], 1);
         else if (ergebnis == 1 && (e.PC == 1 || e.PC == 2))
-            addiere(z[5 + s], 1);
+            addiere(z[Zaehlerstelle::pcSiegeHennen + s], 1);
         else if (ergebnis == 2 && e.PC == 1)
-            addiere(z[8 + s], 1);
+            addiere(z[Zaehlerstelle::userSiegeFuchs + s], 1);
     });
 }
 
 bool spielGestartet(const std::filesystem::path& ordner) {
-    return fortschreiben(ordner, [](std::array<int16_t, 17>& z) { addiere(z[14], 1); });
+    return fortschreiben(ordner,
+                         [](std::array<int16_t, kZaehler>& z) { addiere(z[Zaehlerstelle::gestartet], 1); });
 }
 
 } // namespace fuh

@@ -10,18 +10,26 @@ namespace fuh {
 
 inline constexpr const char* kStatistikdatei = "QZ.sta";
 
-struct Statistik {
-    std::array<int16_t, 17> zaehler{}; // in file order, offsets 0, 2, ... 32
+// Where each counter stands in the record (counter i at byte 2 i); the wins are three counters each,
+// one per strength.
+struct Zaehlerstelle {
+    static constexpr std::size_t beendet = 0, imLernmodus = 1, pcSiegeFuchs = 2, pcSiegeHennen = 5,
+                                 userSiegeFuchs = 8, userSiegeHennen = 11, gestartet = 14, gelernt = 15,
+                                 gelerntLetztes = 16, anzahl = 17;
+};
 
-    int16_t beendet() const { return zaehler[0]; }
-    int16_t imLernmodus() const { return zaehler[1]; }
-    int16_t pcSiegeFuchs(int s) const { return zaehler[2 + s]; }
-    int16_t pcSiegeHennen(int s) const { return zaehler[5 + s]; }
-    int16_t userSiegeFuchs(int s) const { return zaehler[8 + s]; }
-    int16_t userSiegeHennen(int s) const { return zaehler[11 + s]; }
-    int16_t gestartet() const { return zaehler[14]; }
-    int16_t gelernt() const { return zaehler[15]; }
-    int16_t gelerntLetztes() const { return zaehler[16]; }
+struct Statistik {
+    std::array<int16_t, Zaehlerstelle::anzahl> zaehler{}; // in file order
+
+    int16_t beendet() const { return zaehler[Zaehlerstelle::beendet]; }
+    int16_t imLernmodus() const { return zaehler[Zaehlerstelle::imLernmodus]; }
+    int16_t pcSiegeFuchs(int s) const { return zaehler[Zaehlerstelle::pcSiegeFuchs + s]; }
+    int16_t pcSiegeHennen(int s) const { return zaehler[Zaehlerstelle::pcSiegeHennen + s]; }
+    int16_t userSiegeFuchs(int s) const { return zaehler[Zaehlerstelle::userSiegeFuchs + s]; }
+    int16_t userSiegeHennen(int s) const { return zaehler[Zaehlerstelle::userSiegeHennen + s]; }
+    int16_t gestartet() const { return zaehler[Zaehlerstelle::gestartet]; }
+    int16_t gelernt() const { return zaehler[Zaehlerstelle::gelernt]; }
+    int16_t gelerntLetztes() const { return zaehler[Zaehlerstelle::gelerntLetztes]; }
 };
 
 // Reads record 1 (creating an empty file when missing); missing bytes read as 0.
