@@ -1,12 +1,20 @@
 #include "dialogs/einstellungsdatei.h"
 
+#include <array>
+
 #include "memory/satzdatei.h"
 
 namespace fuh {
 
 namespace {
-constexpr std::size_t kSatz = 8;
+// The four settings in file order, 16 bits each.
+constexpr std::size_t kFelder = 4;
+constexpr std::size_t kSatz = 2 * kFelder;
+
+std::array<int16_t*, kFelder> felder(Einstellungen& e) {
+    return {&e.PC, &e.Staerke, &e.Lernmodus, &e.Einzelzug};
 }
+} // namespace
 
 void einstellungenLesen(const std::filesystem::path& ordner, Einstellungen& e) {
     const auto inhalt = dateiLesen(datenpfad(ordner, kEinstellungsdatei), kSatz);
@@ -18,18 +26,17 @@ void einstellungenLesen(const std::filesystem::path& ordner, Einstellungen& e) {
         e.Einzelzug = 0;
         return; // Staerke keeps the value the game started with
     }
-    e.PC = le16(*inhalt, 0);
-    e.Staerke = le16(*inhalt, 2);
-    e.Lernmodus = le16(*inhalt, 4);
-    e.Einzelzug = le16(*inhalt, 6);
+    const auto f = felder(e);
+    for (std::size_t i = 0; i < f.size(); ++i)
+        *f[i] = le16(*inhalt, 2 * i);
 }
 
 bool einstellungenSchreiben(const std::filesystem::path& ordner, const Einstellungen& e) {
     return dateiFortschreiben(datenpfad(ordner, kEinstellungsdatei), kSatz, [&](Bytes& inhalt) {
-        setzeLe16(inhalt, 0, e.PC);
-        setzeLe16(inhalt, 2, e.Staerke);
-        setzeLe16(inhalt, 4, e.Lernmodus);
-        setzeLe16(inhalt, 6, e.Einzelzug);
+        Einstellungen werte = e;
+        const auto f = felder(werte);
+        for (std::size_t i = 0; i < f.size(); ++i)
+            setzeLe16(inhalt, 2 * i, *f[i]);
         return true;
     });
 }
