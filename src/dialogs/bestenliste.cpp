@@ -16,7 +16,7 @@ constexpr std::size_t kDatei = kSatz * kZeilen;
 constexpr std::size_t kDatum = 8;
 constexpr std::size_t kScoreAb = kDatum;
 constexpr std::size_t kNameAb = 10;
-constexpr std::size_t kName = 15;
+constexpr std::size_t kName = kNamenlaenge;
 constexpr std::size_t kSiegAb = 25;
 constexpr std::size_t kSieg = 4;
 

@@ -12,6 +12,7 @@ namespace fuh {
 enum class Seite { Fuchs, Hennen };
 
 inline constexpr int kListenzeilen = 10; // rows of a list; as a row index: none
+inline constexpr int kNamenlaenge = 15;  // bytes of a name in the file
 
 const char* bestenlistendatei(Seite s); // "QZF.sco" or "QZH.sco"
 

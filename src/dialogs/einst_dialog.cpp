@@ -11,6 +11,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "board/bildlage.h"
 #include "dialogs/einstellungsdatei.h"
 #include "dialogs/statustexte.h"
 
@@ -90,11 +91,11 @@ EinstDialog::EinstDialog(Oeffentlich& spiel, std::filesystem::path ordner,
     };
     double faktor = 1.0;
     for (const Lage& l : lagen) {
-        faktor = std::max(faktor, l.textBreite * 15.0 / l.breite);
+        faktor = std::max(faktor, l.textBreite * double{kTwipsProPixel} / l.breite);
         const int hoehe = std::max(l.w->sizeHint().height(), fm.height() + 2);
-        faktor = std::max(faktor, hoehe * 15.0 / l.hoehe);
+        faktor = std::max(faktor, hoehe * double{kTwipsProPixel} / l.hoehe);
     }
-    auto px = [faktor](int twips) { return static_cast<int>(std::lround(twips * faktor / 15.0)); };
+    auto px = [faktor](int twips) { return static_cast<int>(std::lround(twips * faktor / kTwipsProPixel)); };
     for (const Lage& l : lagen)
         l.w->setGeometry(px(l.links), px(l.oben), px(l.breite), px(l.hoehe));
     setFixedSize(px(kBreite), px(kHoehe));

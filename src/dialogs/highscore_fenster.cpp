@@ -89,7 +89,7 @@ HighscoreFenster::HighscoreFenster(Seite seite, Oeffentlich& spiel, std::filesys
         // The edit lies over the name cell; only the new row's is shown.
         auto* edit = new QLineEdit(this);
         edit->setObjectName(QStringLiteral("name1_%1").arg(i));
-        edit->setMaxLength(15);
+        edit->setMaxLength(kNamenlaenge);
         edit->setVisible(i == neu);
         tabelle->addWidget(edit, i + 1, 2);
         connect(edit, &QLineEdit::textEdited, this,

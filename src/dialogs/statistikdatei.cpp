@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "board/zahlen.h"
 #include "memory/satzdatei.h"
 
 namespace fuh {
@@ -11,8 +12,7 @@ namespace {
 constexpr std::size_t kZaehler = Zaehlerstelle::anzahl;
 
 void addiere(int16_t& z, int n) {
-    // The counters are 16-bit; a long-used file must not wrap around to negative numbers.
-    z = static_cast<int16_t>(std::clamp(static_cast<int>(z) + n, -32768, 32767));
+    z = sat16(z + n); // a long-used file must not wrap around to negative numbers
 }
 
 Statistik auslesen(const Bytes& b) {
