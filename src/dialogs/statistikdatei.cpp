@@ -1,7 +1,5 @@
 #include "dialogs/statistikdatei.h"
 
-#include <algorithm>
-
 #include "board/zahlen.h"
 #include "memory/satzdatei.h"
 
