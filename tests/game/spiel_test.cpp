@@ -29,29 +29,6 @@ struct FuchsSpieltTest : SpielTest {
     }
 };
 
-TEST_F(FuchsSpieltTest, SprungfolgeEndetMitRechterTaste) {
-    ziehe(2, 2, 2, 4);
-    EXPECT_TRUE(spiel.stellung().imSprung);
-    EXPECT_TRUE(ansicht.hinweise[Hinweis::spr_msg]);
-    EXPECT_EQ(spiel.pcZug(), 0);
-    ziehe(4, 2, 4, 1); // the other fox may not step now
-    EXPECT_EQ(spiel.stellung().Feld[4][2], fuchs);
-    ziehe(2, 4, 0, 2); // the same fox jumps again
-    EXPECT_EQ(spiel.stellung().Feld[1][3], leer);
-    EXPECT_EQ(spiel.pcZug(), 0);
-
-    spiel.figur_MouseDown(7, 1); // the left button closes nothing
-    EXPECT_TRUE(spiel.stellung().imSprung);
-    spiel.figur_MouseDown(7, 2); // any piece
-    EXPECT_FALSE(spiel.stellung().imSprung);
-    EXPECT_FALSE(ansicht.hinweise[Hinweis::spr_msg]);
-    EXPECT_EQ(spiel.pcZug(), 1);
-    const int16_t vorher = spiel.spielzug();
-    spiel.Timer1_Timer();
-    EXPECT_EQ(spiel.spielzug(), vorher + 1); // one hen reply
-    EXPECT_TRUE(ansicht.meldungen.empty());  // a jump is never penalised
-}
-
 TEST_F(FuchsSpieltTest, NeuNachFangUndStrafeStelltAllesAuf) {
     ziehe(4, 2, 4, 1); // a step although both foxes could jump
     spiel.Timer1_Timer();

@@ -33,30 +33,6 @@ struct LerndateiTest : ::testing::Test {
     }
 };
 
-TEST_F(LerndateiTest, MergeHaengtAnUndAktualisiertZweitesVorkommen) {
-    const Code start = positionscode(s.Feld);
-    nehmeAuf(5, -2);
-    s.Feld[3][3] = leer;
-    s.Feld[3][2] = henne;
-    const Code zweite = positionscode(s.Feld);
-    nehmeAuf(-1, 1);
-    s.Feld[3][3] = henne;
-    s.Feld[3][2] = leer;
-    nehmeAuf(300, -300); // the first position again
-    const auto m = datei.speichern(partie, 2);
-    EXPECT_TRUE(m.geschrieben);
-    EXPECT_EQ(m.neueZuege, 2);
-    Bytes erwartet = satz(start, 305, -302);
-    const Bytes b2 = satz(zweite, -1, 1);
-    erwartet.insert(erwartet.end(), b2.begin(), b2.end());
-    EXPECT_EQ(ordner.lies("QZ3.DAT"), erwartet);
-    EXPECT_FALSE(ordner.gibt("QZ2.DAT"));
-
-    // A second merge into the file of strength 2 writes "QZ2.DAT" only.
-    EXPECT_EQ(datei.speichern(partie, 1).neueZuege, 2);
-    EXPECT_EQ(ordner.lies("QZ2.DAT").size(), 30u);
-}
-
 TEST_F(LerndateiTest, SpiegelcodeTrifftDenGespeichertenSatz) {
     s.Feld[2][2] = leer;
     s.Feld[1][2] = fuchs; // an asymmetric position

@@ -17,12 +17,9 @@ struct TestTisch : Spieltisch, Gutschrift {
     Lerndatei lerndatei{ordner.pfad()};
     int Staerke = 0;
     int PC = 1;
-    int16_t einzel = 0;
     Zufall zufall{12345};
     Figurbilder bilder;
     TestAnsicht ansicht;
-    std::vector<int16_t> endechecks;
-    bool fuchsNull = false;
     int erinnerungen = 0;
 
     TestTisch() {
@@ -41,9 +38,10 @@ struct TestTisch : Spieltisch, Gutschrift {
         }
         bilder.aufstellen(s);
     }
-    void aufzeichnen(bool sprung = false) {
+    // Records the position as after a plain move.
+    void aufzeichnen() {
         s.vonX = s.vonY = 0;
-        s.nachX = s.nachY = static_cast<int16_t>(sprung ? 2 : 1);
+        s.nachX = s.nachY = 1;
         partie.pstoSits(s);
     }
 
@@ -58,15 +56,14 @@ struct TestTisch : Spieltisch, Gutschrift {
         Zugumgebung u{s, bilder, ansicht, *this};
         fuh::zug(u, PC, normal);
     }
-    bool endecheck(int16_t figur) override {
-        endechecks.push_back(figur);
+    bool endecheck(int16_t) override {
         partie.pstoSits(s);
         return false;
     }
     void meldung(const std::string& text) override { ansicht.meldung(text); }
     void hinweis(Hinweis h, bool sichtbar) override { ansicht.hinweis(h, sichtbar); }
-    int16_t einzelzug() const override { return einzel; }
-    void letzterFuchsAusgeschlossen() override { fuchsNull = true; }
+    int16_t einzelzug() const override { return 0; }
+    void letzterFuchsAusgeschlossen() override {}
     void sanktion(int16_t H, int16_t F, int16_t q) override { partie.sanktion(H, F, q); }
 };
 
