@@ -7,6 +7,8 @@
 #include <sstream>
 
 #include "game/spiel.h"
+#include "memory/lerndatei.h"
+#include "tools/protokoll_ansicht.h"
 #include "tools/selbstspiel_lauf.h"
 
 namespace {
@@ -19,20 +21,10 @@ struct Ordner {
     ~Ordner() { fs::remove_all(pfad); }
 };
 
-struct StilleAnsicht : fuh::Ansicht {
-    void figurBewegt(int, int, int) override {}
-    void figurSichtbar(int, bool) override {}
-    void figurenZiehbar(bool) override {}
-    void hinweis(fuh::Hinweis, bool) override {}
-    void status(int, const std::string&) override {}
-    void meldung(const std::string&) override {}
-    void oeffnen(fuh::Fenster) override {}
-};
-
 // A learned-move file of n records that never match, so every recall reads all of them.
 void lerndateiFuellen(const fs::path& ordner, int n) {
-    std::ofstream aus(ordner / "QZ3.DAT", std::ios::binary);
-    const std::string satz(15, '\x41');
+    std::ofstream aus(ordner / fuh::lerndateiName(2), std::ios::binary);
+    const std::string satz(fuh::kLernsatz, '\x41');
     for (int i = 0; i < n; ++i)
         aus << satz;
 }
@@ -41,7 +33,8 @@ void lerndateiFuellen(const fs::path& ordner, int n) {
 void BM_Hennenzug(benchmark::State& state) {
     Ordner ordner;
     lerndateiFuellen(ordner.pfad, static_cast<int>(state.range(0)));
-    StilleAnsicht ansicht;
+    const fuh::Oeffentlich* oeffentlich = nullptr;
+    fuh::ProtokollAnsicht ansicht(oeffentlich, nullptr); // logs nothing
     fuh::Zufall zufall(1);
     fuh::Spiel spiel(ansicht, zufall, ordner.pfad);
     spiel.einstellungenFestlegen({1, static_cast<int16_t>(state.range(0) > 0 ? 2 : 0), 0, 0});

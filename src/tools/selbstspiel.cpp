@@ -1,5 +1,4 @@
 // selbstspiel: the game without a window, for tests, learning runs and benchmarks.
-#include <chrono>
 #include <ctime>
 #include <filesystem>
 #include <iostream>

@@ -47,27 +47,25 @@ bool menschSpielt(Spiel& spiel, Zufall& zufall) {
 
 Summe selbstspiel(const Optionen& o, uint32_t seed, const std::filesystem::path& ordner, std::ostream& aus) {
     Summe summe;
-    if (o.spiele > 0) {
-        Zufall zufall(seed);
-        const Oeffentlich* oeffentlich = nullptr;
-        ProtokollAnsicht ansicht(oeffentlich, o.protokoll ? &aus : nullptr);
-        Spiel spiel(ansicht, zufall, ordner);
-        oeffentlich = &spiel.oeffentlich();
-        Einstellungen e;
-        e.PC = static_cast<int16_t>(o.pc);
-        e.Staerke = static_cast<int16_t>(o.staerke - 1);
-        e.Lernmodus = o.lernen ? 1 : 0;
-        spiel.einstellungenFestlegen(e);
-        for (uint64_t n = 1; n <= o.spiele; ++n) {
-            if (o.protokoll) aus << "spiel " << n << '\n';
-            spiel.Neu_Click();
-            bool beendet = spiel.endeGefunden();
-            if (!beendet && o.pc != 2) beendet = menschSpielt(spiel, zufall);
-            const int16_t ergebnis = beendet ? spiel.letztesErgebnis() : int16_t{0};
-            if (o.protokoll) aus << "ende " << ergebnis << ' ' << spiel.spielzug() << '\n';
-            ++summe.spiele;
-            ++summe.nachErgebnis[ergebnis >= 0 && ergebnis <= 3 ? ergebnis : 0];
-        }
+    Zufall zufall(seed);
+    const Oeffentlich* oeffentlich = nullptr;
+    ProtokollAnsicht ansicht(oeffentlich, o.protokoll ? &aus : nullptr);
+    Spiel spiel(ansicht, zufall, ordner);
+    oeffentlich = &spiel.oeffentlich();
+    Einstellungen e;
+    e.PC = static_cast<int16_t>(o.pc);
+    e.Staerke = static_cast<int16_t>(o.staerke - 1);
+    e.Lernmodus = o.lernen ? 1 : 0;
+    spiel.einstellungenFestlegen(e);
+    for (uint64_t n = 1; n <= o.spiele; ++n) {
+        if (o.protokoll) aus << "spiel " << n << '\n';
+        spiel.Neu_Click();
+        bool beendet = spiel.endeGefunden();
+        if (!beendet && o.pc != 2) beendet = menschSpielt(spiel, zufall);
+        const int16_t ergebnis = beendet ? spiel.letztesErgebnis() : int16_t{0};
+        if (o.protokoll) aus << "ende " << ergebnis << ' ' << spiel.spielzug() << '\n';
+        ++summe.spiele;
+        ++summe.nachErgebnis[ergebnis >= 0 && ergebnis <= 3 ? ergebnis : 0];
     }
     aus << "summe " << summe.spiele << ' ' << summe.nachErgebnis[1] << ' ' << summe.nachErgebnis[2] << ' '
         << summe.nachErgebnis[3] << ' ' << summe.nachErgebnis[0] << '\n';
