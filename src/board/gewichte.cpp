@@ -38,4 +38,12 @@ const Brettfeld hennenfeldwert = nachSpalten({{{0, 0, 80, 78, 80, 0, 0},
                                                {0, 0, 4, 4, 4, 0, 0},
                                                {0, 0, 2, 2, 2, 0, 0}}});
 
+int hennenwert(const Brettfeld& Feld) {
+    int s = 0;
+    for (int x = 0; x <= 6; ++x)
+        for (int y = 0; y <= 6; ++y)
+            if (Feld[x][y] == henne) s += hennenfeldwert[x][y];
+    return s;
+}
+
 } // namespace fuh

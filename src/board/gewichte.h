@@ -8,4 +8,7 @@ extern const Brettfeld fangwert;       // worth of capturing a hen standing on a
 extern const Brettfeld fuchsfeldwert;  // worth of a fox standing on a square
 extern const Brettfeld hennenfeldwert; // worth of a hen standing on a square
 
+// The worth of all hens on the board.
+int hennenwert(const Brettfeld& Feld);
+
 } // namespace fuh

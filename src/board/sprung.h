@@ -4,6 +4,9 @@
 
 namespace fuh {
 
+// True when a fox on (x, y) could jump the hen on (x + a, y + b) onto the empty square behind it.
+bool sprungMoeglich(int x, int y, int a, int b, const Brettfeld& Feld);
+
 // True when the fox on (x, y) of `psfig` has at least one jump.
 bool isjump(const Brettfeld& psfig, int x, int y);
 

@@ -8,9 +8,7 @@ constexpr std::array<int16_t, kFiguren> kStartplaetze = {16, 18, 21, 22, 23, 24,
 }
 
 void Stellung::grundstellung() {
-    for (int x = 0; x < 8; ++x)
-        for (int y = 0; y < 8; ++y)
-            Feld[x][y] = 0;
+    Feld = {};
     for (int x = 0; x <= 6; ++x)
         for (int y = 0; y <= 6; ++y)
             if (aufKreuz(x, y)) Feld[x][y] = y >= 3 ? henne : leer;
@@ -26,12 +24,6 @@ std::optional<int> figur_index(const Stellung& s, int wert) {
     for (int k = 0; k < kFiguren; ++k)
         if (s.figurplatz[k] == wert) return k;
     return std::nullopt;
-}
-
-void kopiere(const Brettfeld& von, Brettfeld& nach) {
-    for (int x = 0; x <= 6; ++x)
-        for (int y = 0; y <= 6; ++y)
-            nach[x][y] = von[x][y];
 }
 
 } // namespace fuh

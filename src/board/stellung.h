@@ -51,7 +51,4 @@ struct Stellung {
 // The first piece whose square is `wert`; foxes come first, so square 0 yields a parked fox.
 std::optional<int> figur_index(const Stellung& s, int wert);
 
-// Copies squares 0..6 x 0..6.
-void kopiere(const Brettfeld& von, Brettfeld& nach);
-
 } // namespace fuh

@@ -8,14 +8,8 @@ class Zufall {
   public:
     explicit Zufall(uint32_t start = 0) { setzen(start); }
     void setzen(uint64_t start) { x_ = static_cast<uint32_t>(start % kModul); }
-    uint32_t zustand() const { return x_; }
 
-    // Uniform in [0, 1): x / 2^24 after one step.
-    double Rnd() {
-        schritt();
-        return static_cast<double>(x_) / kModul;
-    }
-    // Int(Rnd * n) + 1, computed exactly in integers: 1..n.
+    // Int(Rnd * n) + 1, where Rnd is x / 2^24 after one step; computed exactly in integers: 1..n.
     int ziehe(int n) {
         schritt();
         return static_cast<int>((static_cast<uint64_t>(x_) * static_cast<uint64_t>(n)) >> 24) + 1;

@@ -1,7 +1,6 @@
 // Filing a finished game: final credits, the learned-move merge, the statistics, the high-score list.
 #include "dialogs/statistikdatei.h"
 #include "game/spiel.h"
-#include "memory/satzdatei.h"
 
 namespace fuh {
 

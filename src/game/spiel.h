@@ -61,6 +61,8 @@ class Spiel : private Spieltisch, private Gutschrift {
     void sperren(bool ziehbar);
     void statusTexte();
     void spielBeginnen();
+    bool hennenZiehen();  // the computer hens' move and its end-of-move check; true at an end
+    bool fuechseZiehen(); // the same for the computer foxes
 
     // End of a move, end of a game, and filing.
     bool endecheck(int16_t figur) override;

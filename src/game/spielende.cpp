@@ -60,10 +60,7 @@ void Spiel::spielende(int16_t figur) {
 }
 
 std::optional<int16_t> Spiel::punkte() {
-    int s = 0;
-    for (int x = 0; x <= 6; ++x)
-        for (int y = 0; y <= 6; ++y)
-            if (stellung_.Feld[x][y] == henne) s += hennenfeldwert[x][y];
+    const int s = hennenwert(stellung_.Feld);
     switch (oeff_.einst.PC) {
     case 0:
         oeff_.score = wrap16(s);

@@ -3,32 +3,36 @@
 
 namespace fuh {
 
+bool Spiel::hennenZiehen() {
+    hennenspieler_.berechneHennen();
+    return endecheck(henne);
+}
+
+bool Spiel::fuechseZiehen() {
+    fuchsspieler_.berechneFuchs(false, stellung_.Feld);
+    return endecheck(fuchs);
+}
+
 void Spiel::Timer1_Timer() {
     if (pcZug_ == 1) {
         pcZug_ = 0;
-        hennenspieler_.berechneHennen();
-        endecheck(henne);
+        hennenZiehen();
     } else if (pcZug_ == 2) {
         pcZug_ = 0;
-        fuchsspieler_.berechneFuchs(false, stellung_.Feld);
-        endecheck(fuchs);
+        fuechseZiehen();
     }
 }
 
 void Spiel::spielBeginnen() {
     switch (oeff_.einst.PC) {
     case 1:
-        hennenspieler_.berechneHennen();
-        endecheck(henne);
+        hennenZiehen();
         break;
     case 2:
         // The computer plays itself until an end is announced, also one announced inside the hens'
         // turn by the penalty rule; the move limit always supplies one.
         while (partie_.spielzug < kZugbegrenzung) {
-            hennenspieler_.berechneHennen();
-            if (endecheck(henne) || endeGefunden_) break;
-            fuchsspieler_.berechneFuchs(false, stellung_.Feld);
-            if (endecheck(fuchs)) break;
+            if (hennenZiehen() || endeGefunden_ || fuechseZiehen()) break;
         }
         break;
     default:

@@ -18,18 +18,13 @@ void Partie::pstoSits(const Stellung& s) {
 }
 
 void Partie::sanktion(int16_t H, int16_t F, int16_t q) {
-    auto buche = [&](int i) {
+    // All records, or the last five without record 0.
+    const int letzter = std::min<int>(spielzug, kSituationen) - 1;
+    const int erster = q == 1 ? 0 : std::max(1, spielzug - 5);
+    for (int i = letzter; i >= erster; --i) {
         sits[i].hennenwert = sat16(sits[i].hennenwert + H);
         sits[i].fuchswert = sat16(sits[i].fuchswert + F);
-    };
-    const int letzter = std::min<int>(spielzug, kSituationen) - 1;
-    if (q == 1) {
-        for (int i = letzter; i >= 0; --i)
-            buche(i);
-        return;
     }
-    for (int i = letzter; i >= 1 && i >= spielzug - 5; --i)
-        buche(i);
 }
 
 } // namespace fuh

@@ -30,6 +30,12 @@ int fangbonus(int x, int y) {
         return 0;
     }
 }
+// Moves the fox on a board; a jump also takes the hen it passes over.
+void fuchsZiehen(Brettfeld& Feld, int vx, int vy, int nx, int ny) {
+    Feld[vx][vy] = leer;
+    Feld[nx][ny] = fuchs;
+    if (std::abs(nx - vx) == 2 || std::abs(ny - vy) == 2) Feld[vx + (nx - vx) / 2][vy + (ny - vy) / 2] = leer;
+}
 } // namespace
 
 void Fuchsspieler::eintrag(int i, int wert, int x, int y, int nx, int ny) {
@@ -72,8 +78,7 @@ int Fuchsspieler::scanpots(int stufe, const Brettfeld& Feld) {
                 if (Feld[x][y] != leer) continue;
                 for (int dx = -1; dx <= 1; ++dx)
                     for (int dy = -1; dy <= 1; ++dy)
-                        if (korrekt(x, y, 2 * dx, 2 * dy) && Feld[x + 2 * dx][y + 2 * dy] == leer &&
-                            Feld[x + dx][y + dy] == henne) {
+                        if (sprungMoeglich(x, y, dx, dy, Feld)) {
                             pots_[x][y] = wrap16(pots_[x][y] + fangwert[x + dx][y + dy]);
                             ergebnis = 1;
                             if (dy == 1) pots_[x][y] = wrap16(pots_[x][y] + kFangVorHennenreihe);
@@ -93,7 +98,7 @@ int Fuchsspieler::scanpots(int stufe, const Brettfeld& Feld) {
                         ergebnis = 1;
                     }
         }
-    kopiere(neu, pots_);
+    pots_ = neu;
     return ergebnis;
 }
 
@@ -121,30 +126,24 @@ void Fuchsspieler::zugLeer(int x, int y, int i, const Brettfeld& Feld) {
         }
 }
 
-void Fuchsspieler::trans() {
-    kopiere(tisch_.spielstellung().Feld, psffig_);
+Brettfeld Fuchsspieler::trans() const {
+    return tisch_.spielstellung().Feld;
 }
 
 void Fuchsspieler::psffigzug(int i) {
     const int v = zugwert_[5 * i];
     const int fx = zugwert_[5 * i + 1], fy = zugwert_[5 * i + 2];
     const int tx = zugwert_[5 * i + 3], ty = zugwert_[5 * i + 4];
-    if (!aufGitter(fx, fy) || !aufGitter(tx, ty)) return;
-    psffig_[fx][fy] = leer;
-    psffig_[tx][ty] = fuchs;
-    if (std::abs(tx - fx) > 1 || std::abs(ty - fy) > 1)
-        psffig_[fx + (tx - fx) / 2][fy + (ty - fy) / 2] = leer;
-    const int r = tisch_.erinnern(psffig_, fuchs);
+    Brettfeld psffig = trans();
+    fuchsZiehen(psffig, fx, fy, tx, ty);
+    const int r = tisch_.erinnern(psffig, fuchs);
     zugwert_[5 * i] = static_cast<int16_t>(std::clamp(v + r, 1, 32767));
 }
 
 bool Fuchsspieler::zugAuswahl(bool fiktiv) {
     int best = 0, anzahl = 0, gewaehlt = 0;
     for (int k = 0; k < kEintraege; ++k) {
-        if (zugwert_[5 * k] >= 1 && !fiktiv) {
-            trans();
-            psffigzug(k);
-        }
+        if (zugwert_[5 * k] >= 1 && !fiktiv) psffigzug(k);
         const int v = zugwert_[5 * k];
         if (v == best && v > 0) ++anzahl;
         if (v > best) {
@@ -178,10 +177,7 @@ void Fuchsspieler::spiele(bool fiktiv, Brettfeld& Feld) {
         tisch_.hinweis(Hinweis::f_zug, false);
         return;
     }
-    Feld[s.vonX][s.vonY] = leer;
-    Feld[s.nachX][s.nachY] = fuchs;
-    if (std::abs(s.nachX - s.vonX) == 2 || std::abs(s.nachY - s.vonY) == 2)
-        Feld[s.vonX + (s.nachX - s.vonX) / 2][s.vonY + (s.nachY - s.vonY) / 2] = leer;
+    fuchsZiehen(Feld, s.vonX, s.vonY, s.nachX, s.nachY);
 }
 
 void Fuchsspieler::berechneFuchs(bool fiktiv, Brettfeld& Feld) {

@@ -15,10 +15,6 @@ class Fuchsspieler {
     // prediction (`fiktiv`) directly on the working board passed as `Feld`.
     void berechneFuchs(bool fiktiv, Brettfeld& Feld);
 
-    // Candidate list: 16 entries of value, from x, from y, to x, to y; 0..7 the first fox, 8..15 the second.
-    const std::array<int16_t, 81>& zugwerte() const { return zugwert_; }
-    const Brettfeld& potentiale() const { return pots_; }
-
   private:
     void scanfuchs(const Brettfeld& Feld);
     void initzugwert() { zugwert_.fill(0); }
@@ -27,16 +23,16 @@ class Fuchsspieler {
     bool zugDa(int x, int y, int i);
     void zugLeer(int x, int y, int i, const Brettfeld& Feld);
     bool zugAuswahl(bool fiktiv);
-    void trans();
+    Brettfeld trans() const;
     void psffigzug(int i);
     void eintrag(int i, int wert, int x, int y, int nx, int ny);
     void spiele(bool fiktiv, Brettfeld& Feld);
 
     Spieltisch& tisch_;
+    // Candidate list: 16 entries of value, from x, from y, to x, to y; 0..7 the first fox, 8..15 the second.
     std::array<int16_t, 81> zugwert_{};
     std::array<int16_t, 4> fuchspos_{};
     Brettfeld pots_{};
-    Brettfeld psffig_{};
 };
 
 } // namespace fuh

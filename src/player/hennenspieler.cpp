@@ -32,37 +32,32 @@ struct Hoechstwert {
 } // namespace
 
 void Hennenspieler::psTopsfig() {
-    kopiere(tisch_.spielstellung().Feld, psfig_);
+    psfig_ = tisch_.spielstellung().Feld;
 }
 
-int Hennenspieler::hzugmoglich(int x, int y) const {
-    int ergebnis = 0;
+bool Hennenspieler::hzugmoglich(int x, int y) const {
     for (int dx = -1; dx <= 1; ++dx)
         for (int dy = 0; dy <= 1; ++dy)
-            if (korrekt(x, y, dx, dy) && psfig_[x + dx][y + dy] == henne) ergebnis = 1;
-    return ergebnis;
+            if (korrekt(x, y, dx, dy) && psfig_[x + dx][y + dy] == henne) return true;
+    return false;
 }
 
-int Hennenspieler::hbedroht(int x, int y) const {
-    int ergebnis = 0;
+bool Hennenspieler::hbedroht(int x, int y) const {
     for (int dx = -1; dx <= 1; ++dx)
         for (int dy = -1; dy <= 1; ++dy)
             if (korrekt(x, y, dx, dy) && psfig_[x + dx][y + dy] == fuchs && aufGitter(x - dx, y - dy) &&
                 psfig_[x - dx][y - dy] == leer)
-                ergebnis = 1;
-    return ergebnis;
+                return true;
+    return false;
 }
 
 void Hennenspieler::hstatusScan(int k) {
     const int m = tisch_.erinnern(psfig_, henne);
-    int s1 = 0, s3 = 0;
+    int s3 = 0;
     for (int x = 0; x <= 6; ++x)
-        for (int y = 0; y <= 6; ++y) {
-            if (psfig_[x][y] == henne) s1 += hennenfeldwert[x][y];
-            if (psfig_[x][y] == leer && hzugmoglich(x, y) == 1 && hbedroht(x, y) == 0)
-                s3 += hennenfeldwert[x][y];
-        }
-    hstatus_[k].lage = wrap16(kLernfaktor * m + s1);
+        for (int y = 0; y <= 6; ++y)
+            if (psfig_[x][y] == leer && hzugmoglich(x, y) && !hbedroht(x, y)) s3 += hennenfeldwert[x][y];
+    hstatus_[k].lage = wrap16(kLernfaktor * m + hennenwert(psfig_));
     hstatus_[k].raum = wrap16(kLernfaktor * m + s3);
 }
 
@@ -99,7 +94,7 @@ bool Hennenspieler::hzugauswahl(int n) {
 
 void Hennenspieler::berechneHennen() {
     tisch_.hinweis(Hinweis::h_zug, true);
-    strafregel(tisch_, psfig_);
+    strafregel(tisch_);
 
     psTopsfig();
     hstatusScan(0);

@@ -22,16 +22,14 @@ class Hennenspieler {
     // The penalty rule on the foxes' last move, then the hens' move on the real board.
     void berechneHennen();
 
-    const std::array<std::array<int16_t, 4>, kHennenzuege + 1>& kandidaten() const { return hzuege_; }
     const std::array<Hstatus, kHennenzuege + 1>& bewertungen() const { return hstatus_; }
-    Brettfeld& psfig() { return psfig_; }
 
   private:
     void psTopsfig();
     void hstatusScan(int k);
-    int hzugmoglich(int x, int y) const;
-    int hbedroht(int x, int y) const;
-    bool hzugauswahl(int n); // true when a candidate was chosen
+    bool hzugmoglich(int x, int y) const; // a hen could move onto (x, y)
+    bool hbedroht(int x, int y) const;    // a fox could jump a hen standing on (x, y)
+    bool hzugauswahl(int n);              // true when a candidate was chosen
 
     Spieltisch& tisch_;
     Fuchsspieler& fuchs_;

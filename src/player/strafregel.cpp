@@ -7,19 +7,10 @@ namespace fuh {
 
 namespace {
 bool geparkt(int x, int y) {
-    return x == 0 && y == 0;
-}
-} // namespace
-
-void strafregel(Spieltisch& tisch, Brettfeld& psfig) {
-    const Partie& partie = tisch.partieDaten();
-    if (partie.spielzug < 2 || partie.spielzug > kSituationen || tisch.einzelzug() != 0) return;
-    if (partie.sits[partie.spielzug - 1].sprung == 1)
-        rueckkehr(tisch);
-    else
-        sitsTopsfig(tisch, psfig);
+    return x == feldX(kParkfeld) && y == feldY(kParkfeld);
 }
 
+// After a fox jump: a parked fox returns to the first empty square of rows 2..6, column 0 first.
 void rueckkehr(Spieltisch& tisch) {
     const Partie& partie = tisch.partieDaten();
     const Fuchsplaetze f = fuchsplaetze(partie.sits[partie.spielzug - 1].code);
@@ -38,8 +29,10 @@ void rueckkehr(Spieltisch& tisch) {
             }
 }
 
-void sitsTopsfig(Spieltisch& tisch, Brettfeld& psfig) {
+// Rebuilds the position before the foxes' last move and parks a fox that could have jumped there.
+void sitsTopsfig(Spieltisch& tisch) {
     const Partie& partie = tisch.partieDaten();
+    Brettfeld psfig{};
     Stellung& s = tisch.spielstellung();
     for (int x = 0; x <= 6; ++x)
         for (int y = 0; y <= 6; ++y)
@@ -69,6 +62,16 @@ void sitsTopsfig(Spieltisch& tisch, Brettfeld& psfig) {
     }
     tisch.letzterFuchsAusgeschlossen();
     tisch.endecheck(fuchs);
+}
+} // namespace
+
+void strafregel(Spieltisch& tisch) {
+    const Partie& partie = tisch.partieDaten();
+    if (partie.spielzug < 2 || partie.spielzug > kSituationen || tisch.einzelzug() != 0) return;
+    if (partie.sits[partie.spielzug - 1].sprung == 1)
+        rueckkehr(tisch);
+    else
+        sitsTopsfig(tisch);
 }
 
 } // namespace fuh

@@ -16,14 +16,13 @@ TEST(Strafregel, BeideKonntenSpringenDerHoeherStehendeGeht) {
     };
     for (const Fall f : {Fall{4, 1, 2, 0}, Fall{2, 1, 3, 1}, Fall{2, 1, 2, 0}}) {
         test::TestTisch t;
-        Brettfeld psfig{};
         t.aufstellen({{0, 2, 2}, {2, 2, 3}, {1, 4, f.fuchs1Y}, {3, 4, 3}});
         t.aufzeichnen();
         t.s.vonX = 2, t.s.vonY = 2;
         t.s.nachX = static_cast<int16_t>(f.nachX), t.s.nachY = static_cast<int16_t>(f.nachY);
         t.zug(true);
         t.partie.pstoSits(t.s);
-        strafregel(t, psfig);
+        strafregel(t);
         EXPECT_EQ(t.s.figurplatz[f.entfernt], 0) << f.fuchs1Y << f.nachY;
         EXPECT_NE(t.s.figurplatz[1 - f.entfernt], 0);
         EXPECT_EQ(t.s.Feld[0][0], fuchs);
