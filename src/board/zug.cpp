@@ -43,11 +43,11 @@ void zug(Zugumgebung& u, int PC, bool normal) {
         gleiten(u.bilder, u.ansicht, k, platzLeft(t), platzTop(t));
     }
     s.figurplatz[k] = static_cast<int16_t>(t);
-    Feld[s.nachX][s.nachY] = Feld[s.vonX][s.vonY];
+    Feld[s.nachX][s.nachY] = figur;
     Feld[s.vonX][s.vonY] = leer;
     u.ansicht.zugAusgefuehrt(s.vonX, s.vonY, s.nachX, s.nachY, normal);
 
-    if (Feld[s.nachX][s.nachY] == henne && imZielfeld(s.nachX, s.nachY)) u.gutschrift.sanktion(1, -1, 0);
+    if (figur == henne && imZielfeld(s.nachX, s.nachY)) u.gutschrift.sanktion(1, -1, 0);
     if (!normal) return;
 
     const int dx = s.nachX - s.vonX;
