@@ -1,6 +1,5 @@
 #include <gtest/gtest.h>
 
-#include "board/gewichte.h"
 #include "board/regeln.h"
 #include "leeres_kreuz.h"
 
@@ -50,28 +49,6 @@ TEST(Regeln, ZuegeAnDenKanten) {
     EXPECT_FALSE(korrekterZug(t, 1, 3, 2, 3, 1)); // no step after a jump
     EXPECT_FALSE(korrekterZug(t, 1, 5, 2, 5, 3)); // nor a move of the other fox
     EXPECT_TRUE(korrekterZug(t, 1, 3, 2, 1, 2));
-}
-
-TEST(Stellung, GrundstellungUndFigurIndex) {
-    Stellung s;
-    s.grundstellung();
-    int summe = 0, ziel = 0;
-    for (int x = 0; x <= 6; ++x)
-        for (int y = 0; y <= 6; ++y) {
-            if (s.Feld[x][y] == henne) summe += hennenfeldwert[x][y];
-            if (imZielfeld(x, y)) ziel += hennenfeldwert[x][y];
-        }
-    EXPECT_EQ(summe, 217);
-    EXPECT_EQ(ziel, 538);
-    EXPECT_EQ(s.Feld[6][6], 0);
-
-    EXPECT_FALSE(figur_index(s, 17).has_value());
-    EXPECT_FALSE(figur_index(s, 0).has_value());
-    s.figurplatz[5] = 0;
-    s.figurplatz[9] = 0;
-    EXPECT_EQ(figur_index(s, 0), 5);
-    s.figurplatz[1] = 0; // a parked fox comes before captured hens
-    EXPECT_EQ(figur_index(s, 0), 1);
 }
 
 } // namespace
