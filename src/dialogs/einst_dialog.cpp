@@ -34,10 +34,10 @@ int eintrag(int wert) {
 
 } // namespace
 
-EinstDialog::EinstDialog(Oeffentlich& spiel, std::filesystem::path ordner,
+EinstDialog::EinstDialog(const Einstellungen& einst, std::filesystem::path ordner,
                          std::function<void(int panel, const QString& text)> statusSetzen,
                          std::function<void(const Einstellungen&)> uebernehmen, QWidget* parent)
-    : QDialog(parent), spiel_(spiel), ordner_(std::move(ordner)), statusSetzen_(std::move(statusSetzen)),
+    : QDialog(parent), ordner_(std::move(ordner)), statusSetzen_(std::move(statusSetzen)),
       uebernehmen_(std::move(uebernehmen)) {
     setAttribute(Qt::WA_DeleteOnClose);
     setModal(false);
@@ -108,11 +108,10 @@ EinstDialog::EinstDialog(Oeffentlich& spiel, std::filesystem::path ordner,
     ok_->setDefault(true);
 
     // Form_Load: the values are unchecked file contents, so anything outside the lists shows entry 0.
-    const Einstellungen& e = spiel_.einst;
-    pc_spielt_->setCurrentIndex(eintrag(e.PC));
-    Staerke_->setCurrentIndex(eintrag(e.Staerke));
-    Lernen_->setChecked(e.Lernmodus == 1);
-    Einzelzug_->setChecked(e.Einzelzug == 1);
+    pc_spielt_->setCurrentIndex(eintrag(einst.PC));
+    Staerke_->setCurrentIndex(eintrag(einst.Staerke));
+    Lernen_->setChecked(einst.Lernmodus == 1);
+    Einzelzug_->setChecked(einst.Einzelzug == 1);
     ausgleich();
 
     connect(pc_spielt_, &QComboBox::currentIndexChanged, this, [this] { ausgleich(); });

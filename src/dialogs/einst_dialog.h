@@ -15,8 +15,9 @@ namespace fuh {
 class EinstDialog : public QDialog {
     Q_OBJECT
   public:
-    // `statusSetzen` writes a status bar panel; `uebernehmen` lets the game take the new settings.
-    EinstDialog(Oeffentlich& spiel, std::filesystem::path ordner,
+    // Opens showing `einst`. `statusSetzen` writes a status bar panel; `uebernehmen` lets the game take
+    // the new settings.
+    EinstDialog(const Einstellungen& einst, std::filesystem::path ordner,
                 std::function<void(int panel, const QString& text)> statusSetzen,
                 std::function<void(const Einstellungen&)> uebernehmen, QWidget* parent = nullptr);
 
@@ -25,7 +26,6 @@ class EinstDialog : public QDialog {
     void ok_Click();
     void Abbruch_Click();
 
-    Oeffentlich& spiel_;
     std::filesystem::path ordner_;
     std::function<void(int, const QString&)> statusSetzen_;
     std::function<void(const Einstellungen&)> uebernehmen_;

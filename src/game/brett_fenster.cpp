@@ -102,12 +102,7 @@ BrettFenster::BrettFenster(std::filesystem::path ordner, uint32_t startzeit, QWi
     timer1_.start();
 }
 
-BrettFenster::~BrettFenster() {
-    timer1_.stop();
-    // Windows that refer to the game's public variables must go before the game does.
-    delete einst_.data();
-    qDeleteAll(findChildren<HighscoreFenster*>(Qt::FindDirectChildrenOnly));
-}
+BrettFenster::~BrettFenster() = default;
 
 void BrettFenster::anwendungEinrichten(QApplication& app) {
     QApplication::setApplicationName(QString::fromUtf8(kTitel));
@@ -250,7 +245,7 @@ void BrettFenster::oeffnen(Fenster f) {
 void BrettFenster::einstellungenZeigen() {
     einmalZeigen(einst_, [this] {
         return new EinstDialog(
-            spiel_->oeffentlich(), spiel_->ordner(),
+            spiel_->oeffentlich().einst, spiel_->ordner(),
             [this](int nummer, const QString& text) {
                 if (nummer >= 1 && nummer <= 3) panel(nummer)->setText(text);
             },

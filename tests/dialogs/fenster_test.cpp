@@ -92,7 +92,7 @@ class FensterTest : public QObject {
         Einst(const std::filesystem::path& ordner, Einstellungen e = {}) {
             spiel.einst = e;
             d = new EinstDialog(
-                spiel, ordner,
+                spiel.einst, ordner,
                 [this](int panel, const QString& t) {
                     status.append({panel, t});
                 },
