@@ -207,10 +207,6 @@ void BrettFenster::figurBewegt(int k, int left, int top) {
     brett_->figurSetzen(k, left, top);
 }
 
-void BrettFenster::figurGleitet(int k, int left, int top) {
-    brett_->figurSetzen(k, left, top); // painted at once: each step of a slide is seen
-}
-
 void BrettFenster::figurSichtbar(int k, bool sichtbar) {
     brett_->figurZeigen(k, sichtbar);
 }
@@ -246,9 +242,7 @@ void BrettFenster::einstellungenZeigen() {
     einmalZeigen(einst_, [this] {
         return new EinstDialog(
             spiel_->oeffentlich().einst, spiel_->ordner(),
-            [this](int nummer, const QString& text) {
-                if (nummer >= 1 && nummer <= 3) panel(nummer)->setText(text);
-            },
+            [this](int nummer, const QString& text) { status(nummer, text.toStdString()); },
             [this](const Einstellungen& e) { spiel_->einstellungenUebernehmen(e); }, this);
     });
 }

@@ -47,7 +47,6 @@ class BrettFenster : public QMainWindow, public Ansicht {
 
     // Ansicht
     void figurBewegt(int k, int left, int top) override;
-    void figurGleitet(int k, int left, int top) override;
     void figurSichtbar(int k, bool sichtbar) override;
     void figurenZiehbar(bool ziehbar) override;
     void hinweis(Hinweis h, bool sichtbar) override;
