@@ -40,7 +40,6 @@ EinstDialog::EinstDialog(const Einstellungen& einst, std::filesystem::path ordne
     : QDialog(parent), ordner_(std::move(ordner)), statusSetzen_(std::move(statusSetzen)),
       uebernehmen_(std::move(uebernehmen)) {
     setAttribute(Qt::WA_DeleteOnClose);
-    setModal(false);
     setWindowTitle(QStringLiteral("Einstellungen"));
     setAutoFillBackground(true);
     QPalette pal = palette();

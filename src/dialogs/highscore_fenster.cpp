@@ -49,7 +49,6 @@ HighscoreFenster::HighscoreFenster(Seite seite, Oeffentlich& spiel, std::filesys
                                    QWidget* parent)
     : QDialog(parent), liste_(seite), ordner_(std::move(ordner)) {
     setAttribute(Qt::WA_DeleteOnClose);
-    setModal(false);
     setWindowTitle(seite == Seite::Fuchs ? QStringLiteral("Highscores Fuchs")
                                          : QStringLiteral("Highscore Hennen"));
 

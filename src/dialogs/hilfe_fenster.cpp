@@ -14,6 +14,7 @@ const QUrl kStartseite(QStringLiteral("qrc:/hilfe/ratgeber.html"));
 } // namespace
 
 HilfeFenster::HilfeFenster(QWidget* parent) : QWidget(parent, Qt::Window) {
+    setAttribute(Qt::WA_DeleteOnClose);
     setWindowTitle(QStringLiteral("Fuchs und Hennen – Hilfe"));
 
     auto* haupt = new QVBoxLayout(this);

@@ -10,7 +10,7 @@
 namespace fuh {
 
 InfoWin::InfoWin(QWidget* parent) : QDialog(parent) {
-    setModal(false);
+    setAttribute(Qt::WA_DeleteOnClose);
     setWindowTitle(QStringLiteral("Info"));
 
     auto* haupt = new QHBoxLayout(this);

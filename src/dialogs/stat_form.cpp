@@ -46,7 +46,6 @@ QGridLayout* zeilen(std::initializer_list<std::pair<QString, QLabel*>> paare) {
 
 StatForm::StatForm(std::filesystem::path ordner, QWidget* parent) : QDialog(parent) {
     setAttribute(Qt::WA_DeleteOnClose);
-    setModal(false);
     setWindowTitle(QStringLiteral("Statistik"));
     const Statistik s = statistikLesen(ordner);
 

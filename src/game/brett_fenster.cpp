@@ -33,12 +33,6 @@ uint32_t sekundenSeitMitternacht() {
     return static_cast<uint32_t>(QTime::currentTime().msecsSinceStartOfDay() / 1000);
 }
 
-// The other windows are modeless and free themselves when closed.
-template <class W> W* alsFenster(W* w) {
-    w->setAttribute(Qt::WA_DeleteOnClose);
-    return w;
-}
-
 // Places the top-level window `w` to the right of `nachbar`, or to its left where the screen ends.
 void nebenStellen(QWidget* w, const QWidget* nachbar) {
     constexpr int kAbstand = 12;
@@ -61,14 +55,14 @@ void hervorholen(QWidget* w) {
 
 // Windows that exist only once: asking again brings the open one forward, else `neu` makes one.
 template <class W, class Neu> void einmalZeigen(QPointer<W>& offen, Neu neu) {
-    if (!offen) offen = alsFenster(neu());
+    if (!offen) offen = neu();
     hervorholen(offen);
 }
 
 // Windows that show the files as they are now: a fresh one from `neu` replaces the open one.
 template <class W, class Neu> void neuZeigen(QPointer<W>& offen, Neu neu) {
     if (offen) offen->close();
-    offen = alsFenster(neu());
+    offen = neu();
     hervorholen(offen);
 }
 
@@ -274,7 +268,7 @@ void BrettFenster::highscoreNachDemSpiel(Seite seite) {
     QPointer<HighscoreFenster>& offen = highscore_[seite == Seite::Fuchs ? 0 : 1];
     const std::vector<HighscoreFenster*> wartend = wartendeListen(seite);
     if (offen && std::find(wartend.begin(), wartend.end(), offen.data()) == wartend.end()) offen->close();
-    offen = alsFenster(new HighscoreFenster(seite, spiel_->oeffentlich(), spiel_->ordner(), this));
+    offen = new HighscoreFenster(seite, spiel_->oeffentlich(), spiel_->ordner(), this);
     // The entry of an earlier game still waits for its name: both stay open, side by side.
     if (!wartend.empty()) nebenStellen(offen, wartend.back());
     hervorholen(offen);

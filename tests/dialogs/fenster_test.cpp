@@ -263,7 +263,6 @@ class FensterTest : public QObject {
 
     void infoUndHilfeOeffnenUndSchliessen() {
         QPointer<InfoWin> info = new InfoWin;
-        info->setAttribute(Qt::WA_DeleteOnClose);
         info->show();
         QCOMPARE(text(info, "Label1"), QStringLiteral("Fuchs und Hennen 2026"));
         QVERIFY(text(info, "email").contains(QStringLiteral("mailto:fuchs-und-hennen@example.org")));
@@ -278,7 +277,6 @@ class FensterTest : public QObject {
         QVERIFY(info.isNull());
 
         QPointer<HilfeFenster> h = new HilfeFenster;
-        h->setAttribute(Qt::WA_DeleteOnClose);
         h->show();
         QCOMPARE(h->browser()->source(), QUrl(QStringLiteral("qrc:/hilfe/ratgeber.html")));
         QVERIFY(!h->browser()->document()->isEmpty());
