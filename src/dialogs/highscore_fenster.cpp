@@ -68,6 +68,7 @@ HighscoreFenster::HighscoreFenster(Seite seite, Oeffentlich& spiel, std::filesys
         tabelle->addWidget(k, 0, c);
     }
     const QFontMetrics fm(font());
+    QLineEdit* name = nullptr;
     for (int i = 0; i < kListenzeilen; ++i) {
         const Eintrag& e = liste_.eintraege()[static_cast<std::size_t>(i)];
         auto* datum = zelle(QStringLiteral("datum%1").arg(i), this);
@@ -85,15 +86,15 @@ HighscoreFenster::HighscoreFenster(Seite seite, Oeffentlich& spiel, std::filesys
         tabelle->addWidget(user, i + 1, 2);
         tabelle->addWidget(sieg, i + 1, 3);
 
-        // The edit lies over the name cell; only the new row's is shown.
-        auto* edit = new QLineEdit(this);
-        edit->setObjectName(QStringLiteral("name1_%1").arg(i));
-        edit->setMaxLength(kNamenlaenge);
-        edit->setVisible(i == neu);
-        tabelle->addWidget(edit, i + 1, 2);
-        connect(edit, &QLineEdit::textEdited, this,
-                [this](const QString& text) { liste_.nameSetzen(text.toStdString()); });
-        name1_[static_cast<std::size_t>(i)] = edit;
+        // The new row has an edit for the name; it lies over the name cell.
+        if (i == neu) {
+            name = new QLineEdit(this);
+            name->setObjectName(QStringLiteral("name1_%1").arg(i));
+            name->setMaxLength(kNamenlaenge);
+            tabelle->addWidget(name, i + 1, 2);
+            connect(name, &QLineEdit::textEdited, this,
+                    [this](const QString& text) { liste_.nameSetzen(text.toStdString()); });
+        }
     }
     haupt->addLayout(tabelle);
 
@@ -111,7 +112,7 @@ HighscoreFenster::HighscoreFenster(Seite seite, Oeffentlich& spiel, std::filesys
 
     connect(ok, &QPushButton::clicked, this, [this] { ok_Click(); });
     connect(abbruch, &QPushButton::clicked, this, &QDialog::close);
-    if (liste_.hatNeueZeile()) name1_[static_cast<std::size_t>(neu)]->setFocus();
+    if (name) name->setFocus();
 }
 
 void HighscoreFenster::ok_Click() {

@@ -2,13 +2,9 @@
 // A high-score list: enters the finished game and lets the player type a name for the new row.
 #include <QDialog>
 #include <QString>
-#include <array>
 #include <filesystem>
 
 #include "dialogs/bestenliste.h"
-
-class QLabel;
-class QLineEdit;
 
 namespace fuh {
 
@@ -30,7 +26,6 @@ class HighscoreFenster : public QDialog {
 
     Bestenliste liste_;
     std::filesystem::path ordner_;
-    std::array<QLineEdit*, kListenzeilen> name1_{};
 };
 
 } // namespace fuh
