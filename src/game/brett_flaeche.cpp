@@ -76,14 +76,6 @@ BrettFlaeche::BrettFlaeche(std::function<bool()> ziehbar, QWidget* parent)
     setAttribute(Qt::WA_OpaquePaintEvent);
     setMouseTracking(true); // for the hand cursor over draggable pieces
 
-    for (int t = 0; t < kFelder; ++t) {
-        auto* platz = new QWidget(this);
-        platz->setObjectName(QStringLiteral("platz%1").arg(t));
-        platz->setGeometry(pixel(platzLeft(t)), pixel(platzTop(t)), kBild.width(), kBild.height());
-        platz->setAttribute(Qt::WA_TransparentForMouseEvents);
-        plaetze_[t] = platz;
-    }
-
     // The prompts lie over empty corners of the board; the pieces are created later and so stay on top.
     QFont schrift = hinweisSchrift();
     // One size for all four, the largest with which every text fits its box.
@@ -144,7 +136,7 @@ int BrettFlaeche::figurAn(QPoint p) const {
 
 int BrettFlaeche::platzAn(QPoint p) const {
     for (int t = 0; t < kFelder; ++t)
-        if (plaetze_[t]->geometry().contains(p)) return t;
+        if (QRect(QPoint(pixel(platzLeft(t)), pixel(platzTop(t))), kBild).contains(p)) return t;
     return -1;
 }
 
@@ -201,7 +193,7 @@ void BrettFlaeche::mouseReleaseEvent(QMouseEvent* event) {
 
     // Only the drop targets accept a drop; a piece image lying over the point takes it instead. The
     // board holds the mouse during a drag, so a release over another window arrives here as well.
-    if (!rect().contains(p) || figurAn(p) >= 0) return;
+    if (figurAn(p) >= 0) return;
     if (QApplication::topLevelAt(event->globalPosition().toPoint()) != window()) return;
     const int t = platzAn(p);
     if (t >= 0) emit abgelegt(t, k);

@@ -21,7 +21,6 @@ class BrettFlaeche : public SvgBild {
     explicit BrettFlaeche(std::function<bool()> ziehbar, QWidget* parent = nullptr);
 
     SvgBild* figur(int k) const { return figuren_[k]; }
-    QWidget* platz(int t) const { return plaetze_[t]; }
     QLabel* hinweisLabel(Hinweis h) const { return hinweise_[static_cast<int>(h)]; }
 
     // Positions in twips. Both repaint the affected area at once, without processing events.
@@ -50,7 +49,6 @@ class BrettFlaeche : public SvgBild {
     void zeigerSetzen(QPoint p);
 
     std::function<bool()> ziehbar_;
-    std::array<QWidget*, kFelder> plaetze_{};
     std::array<SvgBild*, kFiguren> figuren_{};
     std::array<QLabel*, 4> hinweise_{};
     SvgBild* schwebend_ = nullptr; // the copy that follows the cursor during a drag
