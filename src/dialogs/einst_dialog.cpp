@@ -48,10 +48,10 @@ EinstDialog::EinstDialog(const Einstellungen& einst, std::filesystem::path ordne
 
     auto* staerkeText = new QLabel(QStringLiteral("Spielstärke:"), this);
     staerkeText->setObjectName(QStringLiteral("Spielstärke"));
-    ok_ = new QPushButton(QStringLiteral("Übernehmen"), this);
-    ok_->setObjectName(QStringLiteral("ok"));
-    Abbruch_ = new QPushButton(QStringLiteral("Abbrechen"), this);
-    Abbruch_->setObjectName(QStringLiteral("Abbruch"));
+    auto* ok = new QPushButton(QStringLiteral("Übernehmen"), this);
+    ok->setObjectName(QStringLiteral("ok"));
+    auto* abbruch = new QPushButton(QStringLiteral("Abbrechen"), this);
+    abbruch->setObjectName(QStringLiteral("Abbruch"));
     pc_spielt_ = new QComboBox(this);
     pc_spielt_->setObjectName(QStringLiteral("pc_spielt"));
     pc_spielt_->addItems(
@@ -80,8 +80,8 @@ EinstDialog::EinstDialog(const Einstellungen& einst, std::filesystem::path ordne
     const int haken = style()->pixelMetric(QStyle::PM_IndicatorWidth) + 12;
     const Lage lagen[] = {
         {staerkeText, 120, 600, 975, 255, fm.horizontalAdvance(staerkeText->text())},
-        {ok_, 240, 1920, 1335, 375, fm.horizontalAdvance(ok_->text()) + 16},
-        {Abbruch_, 1920, 1920, 1575, 375, fm.horizontalAdvance(Abbruch_->text()) + 16},
+        {ok, 240, 1920, 1335, 375, fm.horizontalAdvance(ok->text()) + 16},
+        {abbruch, 1920, 1920, 1575, 375, fm.horizontalAdvance(abbruch->text()) + 16},
         {pc_spielt_, 1560, 120, 2175, 315, comboBreite(pc_spielt_)},
         {Staerke_, 1560, 600, 2175, 315, comboBreite(Staerke_)},
         {Lernen_, 840, 1080, 2415, 255, fm.horizontalAdvance(Lernen_->text()) + haken},
@@ -99,12 +99,12 @@ EinstDialog::EinstDialog(const Einstellungen& einst, std::filesystem::path ordne
         l.w->setGeometry(px(l.links), px(l.oben), px(l.breite), px(l.hoehe));
     setFixedSize(px(kBreite), px(kHoehe));
 
-    setTabOrder(ok_, Abbruch_);
-    setTabOrder(Abbruch_, pc_spielt_);
+    setTabOrder(ok, abbruch);
+    setTabOrder(abbruch, pc_spielt_);
     setTabOrder(pc_spielt_, Staerke_);
     setTabOrder(Staerke_, Lernen_);
     setTabOrder(Lernen_, Einzelzug_);
-    ok_->setDefault(true);
+    ok->setDefault(true);
 
     // Form_Load: the values are unchecked file contents, so anything outside the lists shows entry 0.
     pc_spielt_->setCurrentIndex(eintrag(einst.PC));
@@ -113,21 +113,15 @@ EinstDialog::EinstDialog(const Einstellungen& einst, std::filesystem::path ordne
     Einzelzug_->setChecked(einst.Einzelzug == 1);
     ausgleich();
 
-    connect(pc_spielt_, &QComboBox::currentIndexChanged, this, [this] { ausgleich(); });
-    connect(Staerke_, &QComboBox::currentIndexChanged, this, [this] { ausgleich(); });
-    connect(Lernen_, &QCheckBox::toggled, this, [this] { ausgleich(); });
-    connect(ok_, &QPushButton::clicked, this, [this] { ok_Click(); });
-    connect(Abbruch_, &QPushButton::clicked, this, [this] { Abbruch_Click(); });
+    connect(Staerke_, &QComboBox::currentIndexChanged, this, &EinstDialog::ausgleich);
+    connect(ok, &QPushButton::clicked, this, &EinstDialog::ok_Click);
+    connect(abbruch, &QPushButton::clicked, this, &QDialog::close);
 }
 
 void EinstDialog::ausgleich() {
     // Learning needs a thinking opponent; the easiest strength plays without the learned moves.
-    if (Staerke_->currentIndex() == 0) {
-        Lernen_->setEnabled(false);
-        Lernen_->setChecked(false);
-    } else {
-        Lernen_->setEnabled(true);
-    }
+    Lernen_->setEnabled(Staerke_->currentIndex() != 0);
+    if (Staerke_->currentIndex() == 0) Lernen_->setChecked(false);
 }
 
 void EinstDialog::ok_Click() {
@@ -148,10 +142,6 @@ void EinstDialog::ok_Click() {
         if (const auto t = pcStatustext(e.PC)) statusSetzen_(1, QString::fromStdString(*t));
         if (const auto t = staerkeStatustextDialog(e.Staerke)) statusSetzen_(2, QString::fromStdString(*t));
     }
-    close();
-}
-
-void EinstDialog::Abbruch_Click() {
     close();
 }
 

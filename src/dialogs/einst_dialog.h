@@ -8,7 +8,6 @@
 
 class QCheckBox;
 class QComboBox;
-class QPushButton;
 
 namespace fuh {
 
@@ -24,7 +23,6 @@ class EinstDialog : public QDialog {
   private:
     void ausgleich();
     void ok_Click();
-    void Abbruch_Click();
 
     std::filesystem::path ordner_;
     std::function<void(int, const QString&)> statusSetzen_;
@@ -33,8 +31,6 @@ class EinstDialog : public QDialog {
     QComboBox* Staerke_;
     QCheckBox* Lernen_;
     QCheckBox* Einzelzug_;
-    QPushButton* ok_;
-    QPushButton* Abbruch_;
 };
 
 } // namespace fuh
