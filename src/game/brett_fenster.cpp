@@ -119,12 +119,15 @@ void BrettFenster::menueAnlegen() {
 
     QMenu* spielMenue = menuBar()->addMenu(QStringLiteral("&Spiel"));
     spielMenue->setObjectName(QStringLiteral("spiel"));
+    // A computer game does not return to the event loop until it is over, so the window is painted
+    // whole before it starts: the menu has already been taken off the screen, and its picture must
+    // not stay over the board.
     aktion(spielMenue, "start", QStringLiteral("&Start"), [this] {
-        menueSchliessen();
+        ganzMalen();
         spiel_->start_Click();
     });
     aktion(spielMenue, "Neu", QStringLiteral("&Neu"), [this] {
-        menueSchliessen();
+        ganzMalen();
         spiel_->Neu_Click();
     });
     spielMenue->addSeparator();
@@ -152,13 +155,6 @@ void BrettFenster::menueAnlegen() {
     });
     aktion(hilfe, "info", QStringLiteral("&Info"),
            [this] { einmalZeigen(info_, [this] { return new InfoWin(this); }); });
-}
-
-void BrettFenster::menueSchliessen() {
-    // A computer game does not return to the event loop until it is over, so the window is painted
-    // whole before it starts: the menu has already been taken off the screen, and its picture must
-    // not stay over the board.
-    ganzMalen();
 }
 
 void BrettFenster::ganzMalen() {

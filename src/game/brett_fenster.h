@@ -59,7 +59,6 @@ class BrettFenster : public QMainWindow, public Ansicht {
 
   private:
     void menueAnlegen();
-    void menueSchliessen();
     // Paints the whole window at once, e.g. where a closed menu or message box lay.
     void ganzMalen();
     void statusleisteAnlegen();
