@@ -32,18 +32,20 @@ QLabel* zelle(const QString& name, QWidget* eltern) {
     return l;
 }
 
-} // namespace
-
-double HighscoreFenster::oleDatumHeute() {
+// Today as an OLE Automation date (whole days since 30 December 1899).
+double oleDatumHeute() {
     return static_cast<double>(kNullDatum.daysTo(QDate::currentDate()));
 }
 
-QString HighscoreFenster::datumText(double oleDatum) {
+// The cell text of a stored date: the short system format, or empty for 0 and unusable values.
+QString datumText(double oleDatum) {
     // The range OLE dates can express (years 100 to 9999); anything else is a damaged file.
     if (!std::isfinite(oleDatum) || oleDatum == 0 || oleDatum < -657434.0 || oleDatum >= 2958466.0) return {};
     const QDate d = kNullDatum.addDays(static_cast<qint64>(std::trunc(oleDatum)));
     return d.isValid() ? QLocale::system().toString(d, QLocale::ShortFormat) : QString();
 }
+
+} // namespace
 
 HighscoreFenster::HighscoreFenster(Seite seite, Oeffentlich& spiel, std::filesystem::path ordner,
                                    QWidget* parent)

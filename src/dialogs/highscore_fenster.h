@@ -1,7 +1,6 @@
 #pragma once
 // A high-score list: enters the finished game and lets the player type a name for the new row.
 #include <QDialog>
-#include <QString>
 #include <filesystem>
 
 #include "dialogs/bestenliste.h"
@@ -15,11 +14,6 @@ class HighscoreFenster : public QDialog {
                      QWidget* parent = nullptr);
 
     const Bestenliste& liste() const { return liste_; }
-
-    // Today as an OLE Automation date (whole days since 30 December 1899).
-    static double oleDatumHeute();
-    // The cell text of a stored date: the short system format, or empty for 0 and unusable values.
-    static QString datumText(double oleDatum);
 
   private:
     void ok_Click();

@@ -2,12 +2,16 @@
 
 #include <QImage>
 #include <QPainter>
+#include <QPixmap>
 #include <QPixmapCache>
 #include <QSvgRenderer>
 #include <utility>
 
 namespace fuh {
 
+namespace {
+
+// The resource `datei` rendered to `groesse` logical pixels at `dpr`; cached, as slides repaint often.
 QPixmap svgPixmap(const QString& datei, QSize groesse, qreal dpr) {
     const QString schluessel =
         QStringLiteral("fuh:%1:%2x%3@%4").arg(datei).arg(groesse.width()).arg(groesse.height()).arg(dpr);
@@ -29,6 +33,8 @@ QPixmap svgPixmap(const QString& datei, QSize groesse, qreal dpr) {
     QPixmapCache::insert(schluessel, pixmap);
     return pixmap;
 }
+
+} // namespace
 
 SvgBild::SvgBild(QString datei, QSize groesse, QWidget* parent) : QWidget(parent), datei_(std::move(datei)) {
     setFixedSize(groesse);

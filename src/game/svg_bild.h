@@ -1,13 +1,9 @@
 #pragma once
 // A picture drawn from an SVG resource, rendered for the screen's device pixel ratio so it stays crisp.
-#include <QPixmap>
 #include <QString>
 #include <QWidget>
 
 namespace fuh {
-
-// The resource `datei` rendered to `groesse` logical pixels at `dpr`; cached, as slides repaint often.
-QPixmap svgPixmap(const QString& datei, QSize groesse, qreal dpr);
 
 class SvgBild : public QWidget {
     Q_OBJECT
