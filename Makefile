@@ -1,7 +1,6 @@
 # Thin wrapper around CMake; see README.md.
 BUILD ?= build
 JOBS ?= $(shell nproc 2>/dev/null || echo 2)
-DATA_DIR ?= $(or $(XDG_DATA_HOME),$(HOME)/.local/share)/fuchs-und-hennen
 
 .PHONY: run test build deps sanitize bench clean format
 
@@ -12,9 +11,9 @@ build: deps
 	cmake -S . -B $(BUILD) -DCMAKE_BUILD_TYPE=RelWithDebInfo $(CMAKE_FLAGS)
 	cmake --build $(BUILD) -j $(JOBS)
 
+# The game finds and creates its per-user data folder itself.
 run: build
-	@mkdir -p "$(DATA_DIR)"
-	cd "$(DATA_DIR)" && "$(CURDIR)/$(BUILD)/src/game/fuchs-und-hennen"
+	"$(BUILD)/src/game/fuchs-und-hennen"
 
 test: build
 	cd $(BUILD) && QT_QPA_PLATFORM=offscreen ctest --output-on-failure -j $(JOBS)

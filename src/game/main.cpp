@@ -1,10 +1,12 @@
-// Fuchs und Hennen: starts the main window in the player's data folder.
+// Fuchs und Hennen: starts the main window with the player's data folder.
 #include <QApplication>
 #include <QFile>
 #include <QMessageBox>
 #include <QStandardPaths>
+#include <cerrno>
 #include <filesystem>
 #include <system_error>
+#include <unistd.h>
 
 #include "game/brett_fenster.h"
 
@@ -23,11 +25,11 @@ int main(int argc, char* argv[]) {
     QApplication app(argc, argv);
     fuh::BrettFenster::anwendungEinrichten(app);
 
-    // The game keeps its files in the current directory.
+    // The game keeps its files in this folder; it must exist and be searchable.
     const std::filesystem::path ordner = datenordner();
     std::error_code fehler;
     std::filesystem::create_directories(ordner, fehler);
-    std::filesystem::current_path(ordner, fehler);
+    if (!fehler && ::access(ordner.c_str(), X_OK) != 0) fehler.assign(errno, std::generic_category());
     if (fehler) {
         QMessageBox::critical(nullptr, QString::fromUtf8(fuh::kTitel),
                               QStringLiteral("Der Datenordner %1 ist nicht nutzbar: %2")
@@ -36,7 +38,7 @@ int main(int argc, char* argv[]) {
         return 1;
     }
 
-    fuh::BrettFenster fenster(std::filesystem::current_path());
+    fuh::BrettFenster fenster(ordner);
     fenster.show();
     return app.exec();
 }
