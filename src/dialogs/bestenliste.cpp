@@ -1,7 +1,6 @@
 #include "dialogs/bestenliste.h"
 
 #include <bit>
-#include <cstring>
 
 #include "memory/satzdatei.h"
 
@@ -96,6 +95,7 @@ std::string feld(const Bytes& b, std::size_t pos, std::size_t n) {
     return s;
 }
 
+// `s` cut or padded with blanks to `n` bytes.
 std::string aufLaenge(std::string s, std::size_t n) {
     s.resize(n, ' ');
     return s;
@@ -198,7 +198,7 @@ int Bestenliste::einfuegen(int16_t score, const std::string& u_is_sieger, double
         // The name stays until the player types one; only date, score and result are new.
         tabelle_[i].datum = heute;
         tabelle_[i].score = score;
-        tabelle_[i].sieg = aufLaenge(u_is_sieger.substr(0, kSieg), kSieg);
+        tabelle_[i].sieg = aufLaenge(u_is_sieger, kSieg);
         neuePos_ = static_cast<int>(i);
         break;
     }
@@ -207,8 +207,7 @@ int Bestenliste::einfuegen(int16_t score, const std::string& u_is_sieger, double
 
 void Bestenliste::nameSetzen(const std::string& utf8) {
     if (!hatNeueZeile()) return;
-    tabelle_[static_cast<std::size_t>(neuePos_)].user =
-        aufLaenge(nachWindows1252(utf8).substr(0, kName), kName);
+    tabelle_[static_cast<std::size_t>(neuePos_)].user = aufLaenge(nachWindows1252(utf8), kName);
 }
 
 } // namespace fuh
