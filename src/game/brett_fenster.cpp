@@ -22,6 +22,7 @@
 #include "dialogs/hilfe_fenster.h"
 #include "dialogs/info_win.h"
 #include "dialogs/stat_form.h"
+#include "dialogs/titel.h"
 #include "game/brett_flaeche.h"
 #include "game/spiel.h"
 
@@ -75,7 +76,6 @@ BrettFenster::BrettFenster(std::filesystem::path ordner, uint32_t startzeit, QWi
     : QMainWindow(parent) {
     setObjectName(QStringLiteral("brett"));
     setWindowTitle(QString::fromUtf8(kTitel));
-    setWindowIcon(QIcon(QStringLiteral(":/bilder/app.svg")));
 
     brett_ = new BrettFlaeche([this] { return spiel_->ziehbar(); }, this);
     setCentralWidget(brett_);
@@ -114,7 +114,6 @@ void BrettFenster::menueAnlegen() {
         QAction* a = menue->addAction(text);
         a->setObjectName(QString::fromLatin1(name));
         connect(a, &QAction::triggered, this, slot);
-        return a;
     };
 
     QMenu* spielMenue = menuBar()->addMenu(QStringLiteral("&Spiel"));

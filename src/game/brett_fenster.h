@@ -13,7 +13,6 @@
 #include "board/ansicht.h"
 #include "board/zufall.h"
 #include "dialogs/bestenliste.h"
-#include "dialogs/titel.h"
 
 class QApplication;
 class QLabel;

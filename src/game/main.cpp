@@ -8,6 +8,7 @@
 #include <system_error>
 #include <unistd.h>
 
+#include "dialogs/titel.h"
 #include "game/brett_fenster.h"
 
 namespace {
