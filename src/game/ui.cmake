@@ -4,7 +4,7 @@ add_library(fuh_game_ui STATIC
   brett_flaeche.cpp brett_flaeche.h
   svg_bild.cpp svg_bild.h)
 set_target_properties(fuh_game_ui PROPERTIES AUTOMOC ON)
-target_link_libraries(fuh_game_ui PUBLIC fuh_game fuh_dialogs_ui Qt6::Widgets Qt6::Svg Qt6::SvgWidgets)
+target_link_libraries(fuh_game_ui PUBLIC fuh_game fuh_dialogs_ui Qt6::Widgets Qt6::Svg)
 
 add_executable(fuchs-und-hennen main.cpp)
 target_link_libraries(fuchs-und-hennen PRIVATE fuh_game_ui)
