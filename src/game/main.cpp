@@ -1,12 +1,10 @@
-// Fuchs und Hennen: starts the main window with the player's data folder.
+// Fuchs und Hennen: starts the main window in the player's data folder.
 #include <QApplication>
 #include <QFile>
 #include <QMessageBox>
 #include <QStandardPaths>
-#include <cerrno>
 #include <filesystem>
 #include <system_error>
-#include <unistd.h>
 
 #include "dialogs/titel.h"
 #include "game/brett_fenster.h"
@@ -26,11 +24,11 @@ int main(int argc, char* argv[]) {
     QApplication app(argc, argv);
     fuh::BrettFenster::anwendungEinrichten(app);
 
-    // The game keeps its files in this folder; it must exist and be searchable.
+    // The game runs in its data folder and keeps its files in the current directory.
     const std::filesystem::path ordner = datenordner();
     std::error_code fehler;
     std::filesystem::create_directories(ordner, fehler);
-    if (!fehler && ::access(ordner.c_str(), X_OK) != 0) fehler.assign(errno, std::generic_category());
+    if (!fehler) std::filesystem::current_path(ordner, fehler);
     if (fehler) {
         QMessageBox::critical(nullptr, QString::fromUtf8(fuh::kTitel),
                               QStringLiteral("Der Datenordner %1 ist nicht nutzbar: %2")
@@ -39,7 +37,7 @@ int main(int argc, char* argv[]) {
         return 1;
     }
 
-    fuh::BrettFenster fenster(ordner);
+    fuh::BrettFenster fenster(std::filesystem::current_path());
     fenster.show();
     return app.exec();
 }
