@@ -15,11 +15,10 @@ struct TestAnsicht : Ansicht {
     std::vector<Hinweis> gezeigt; // every label that was shown, in order
     std::vector<Fenster> fenster;
     int bewegungen = 0;
-    bool ziehbar = false;
 
     void figurBewegt(int, int, int) override { ++bewegungen; }
     void figurSichtbar(int, bool) override {}
-    void figurenZiehbar(bool z) override { ziehbar = z; }
+    void figurenZiehbar(bool) override {}
     void hinweis(Hinweis h, bool s) override {
         hinweise[h] = s;
         if (s) gezeigt.push_back(h);
