@@ -50,21 +50,6 @@ TEST(Einstellungsdatei, SchreibenErsetztNurDieErstenAchtBytes) {
     EXPECT_EQ(t.lies("QZ.INI"), (B{2, 0, 1, 0, 0, 0, 0, 0}));
 }
 
-TEST(Einstellungsdatei, NichtSchreibbarLaesstDateiUnberuehrt) {
-    TempOrdner t;
-    t.schreibe("keinOrdner", {1, 2, 3});
-    const auto ordner = t.pfad() / "keinOrdner";
-    Einstellungen e{1, 2, 1, 1};
-    einstellungenLesen(ordner, e); // no file can exist there: like a file without record
-    EXPECT_EQ(werte(e), std::make_tuple(0, 2, 0, 0));
-    EXPECT_FALSE(einstellungenSchreiben(ordner, Einstellungen{1, 1, 1, 1}));
-    EXPECT_EQ(t.lies("keinOrdner"), (B{1, 2, 3}));
-
-    std::filesystem::create_directory(t.pfad() / "QZ.INI");
-    EXPECT_FALSE(einstellungenSchreiben(t.pfad(), Einstellungen{1, 1, 1, 1}));
-    EXPECT_TRUE(std::filesystem::is_directory(t.pfad() / "QZ.INI"));
-}
-
 // A file of a terabyte (sparse, so it costs no disk) is neither read nor copied whole: the game reads and
 // updates its own first bytes in place, and what follows them stays.
 TEST(Datendateien, UebergrosseDateienWerdenNurAmAnfangGelesenUndGeschrieben) {
