@@ -1,0 +1,35 @@
+#pragma once
+// What a computer player returns: the move it chose, which the game then carries out.
+#include <array>
+#include <cstdint>
+
+namespace fuh {
+
+// One step or one jump, as the move register holds it.
+struct Teilzug {
+    int16_t vonX = 0, vonY = 0, nachX = 0, nachY = 0;
+    friend bool operator==(const Teilzug&, const Teilzug&) = default;
+};
+
+// A hen step, a fox step, or a fox's chain of jumps (each jump from where the one before landed).
+// No moves at all: the side to move found none.
+struct Zugwahl {
+    static constexpr int kHoechsteSpruenge = 20; // a chain can take at most every hen
+    std::array<Teilzug, kHoechsteSpruenge> zuege{};
+    int anzahl = 0;
+
+    bool keinZug() const { return anzahl == 0; }
+    void anhaengen(const Teilzug& z) {
+        if (anzahl < kHoechsteSpruenge) zuege[static_cast<std::size_t>(anzahl++)] = z;
+    }
+    const Teilzug* begin() const { return zuege.data(); }
+    const Teilzug* end() const { return zuege.data() + anzahl; }
+    friend bool operator==(const Zugwahl& a, const Zugwahl& b) {
+        if (a.anzahl != b.anzahl) return false;
+        for (int i = 0; i < a.anzahl; ++i)
+            if (!(a.zuege[static_cast<std::size_t>(i)] == b.zuege[static_cast<std::size_t>(i)])) return false;
+        return true;
+    }
+};
+
+} // namespace fuh
