@@ -32,6 +32,7 @@ void Spiel::init() {
     oeff_.sw_spielende = false;
     stellung_.grundstellung();
     partie_.spielzug = 0;
+    selbstspielLaeuft_ = false;
     statusTexte();
 }
 

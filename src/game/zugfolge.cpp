@@ -29,15 +29,26 @@ void Spiel::spielBeginnen() {
         hennenZiehen();
         break;
     case 2:
-        // The computer plays itself until an end is announced, also one announced inside the hens'
-        // turn by the penalty rule; the move limit always supplies one.
-        while (partie_.spielzug < kZugbegrenzung) {
-            if (hennenZiehen() || endeGefunden_ || fuechseZiehen()) break;
-        }
+        selbstspielLaeuft_ = true;
+        hennenAmZug_ = true;
+        if (!schrittweise_)
+            while (selbstspielZug()) {
+            }
         break;
     default:
         break; // the human's hens move first
     }
+}
+
+bool Spiel::selbstspielZug() {
+    if (!selbstspielLaeuft_) return false;
+    // The computer plays itself until an end is announced, also one announced inside the hens' turn by
+    // the penalty rule; the move limit always supplies one.
+    const bool ende = hennenAmZug_ ? partie_.spielzug >= kZugbegrenzung || hennenZiehen() || endeGefunden_
+                                   : fuechseZiehen();
+    hennenAmZug_ = !hennenAmZug_;
+    if (ende) selbstspielLaeuft_ = false;
+    return selbstspielLaeuft_;
 }
 
 } // namespace fuh

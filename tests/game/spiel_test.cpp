@@ -50,5 +50,52 @@ TEST_F(FuchsSpieltTest, NeuNachFangUndStrafeStelltAllesAuf) {
     EXPECT_EQ(statistik(14), 2);
 }
 
+// Computer against computer, shown move by move or played at once: the same moves, messages and files.
+TEST(Selbstspiel, SchrittweiseGleichtDemSpielInEinemZug) {
+    struct Mitschrift : test::TestAnsicht {
+        std::string zuege;
+        void zugAusgefuehrt(int vx, int vy, int nx, int ny, bool normal) override {
+            zuege += std::to_string(vx) + std::to_string(vy) + std::to_string(nx) + std::to_string(ny) +
+                     (normal ? ' ' : '!');
+        }
+    };
+    struct Lauf {
+        test::TempOrdner ordner;
+        Mitschrift ansicht;
+        Zufall zufall{4242};
+        Spiel spiel{ansicht, zufall, ordner.pfad()};
+        explicit Lauf(bool schrittweise) {
+            spiel.einstellungenFestlegen({2, 2, 1, 0});
+            spiel.schrittweise(schrittweise);
+            for (int n = 0; n < 3; ++n) {
+                spiel.Neu_Click();
+                while (spiel.selbstspielZug()) {
+                }
+            }
+        }
+    };
+    const Lauf ganz(false), schritte(true);
+    EXPECT_FALSE(ganz.ansicht.zuege.empty());
+    EXPECT_EQ(ganz.ansicht.zuege, schritte.ansicht.zuege);
+    EXPECT_EQ(ganz.ansicht.meldungen, schritte.ansicht.meldungen);
+    EXPECT_EQ(ganz.ordner.lies("QZ3.DAT"), schritte.ordner.lies("QZ3.DAT"));
+    EXPECT_EQ(ganz.ordner.lies("QZ.sta"), schritte.ordner.lies("QZ.sta"));
+}
+
+// A game watched move by move and stopped by "Neu" is abandoned: started, never finished or learned.
+TEST_F(SpielTest, AbgebrochenesSelbstspielWirdNichtAbgelegt) {
+    ini(2, 2, 1);
+    spiel.schrittweise(true);
+    spiel.Form_Load(1);
+    spiel.Neu_Click();
+    for (int i = 0; i < 10; ++i)
+        ASSERT_TRUE(spiel.selbstspielZug());
+    spiel.Neu_Click();
+    EXPECT_FALSE(spiel.selbstspielLaeuft() && spiel.spielzug() != 0);
+    EXPECT_EQ(statistik(14), 2); // started twice
+    EXPECT_EQ(statistik(0), 0);  // finished never
+    EXPECT_EQ(ordner.lies("QZ3.DAT").size(), 0u);
+}
+
 } // namespace
 } // namespace fuh

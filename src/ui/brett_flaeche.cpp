@@ -1,4 +1,4 @@
-#include "game/brett_flaeche.h"
+#include "ui/brett_flaeche.h"
 
 #include <QApplication>
 #include <QFont>

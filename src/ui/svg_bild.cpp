@@ -1,4 +1,4 @@
-#include "game/svg_bild.h"
+#include "ui/svg_bild.h"
 
 #include <QImage>
 #include <QPainter>

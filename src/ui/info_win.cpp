@@ -1,4 +1,4 @@
-#include "dialogs/info_win.h"
+#include "ui/info_win.h"
 
 #include <QFont>
 #include <QHBoxLayout>

@@ -6,8 +6,8 @@
 #include <filesystem>
 #include <system_error>
 
-#include "dialogs/titel.h"
-#include "game/brett_fenster.h"
+#include "ui/titel.h"
+#include "ui/brett_fenster.h"
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include "dialogs/stat_form.h"
+#include "ui/stat_form.h"
 
 #include <QFrame>
 #include <QGridLayout>

@@ -1,5 +1,5 @@
-#include "dialogs/highscore_fenster.h"
-#include "dialogs/titel.h"
+#include "ui/highscore_fenster.h"
+#include "ui/titel.h"
 
 #include <QDate>
 #include <QGridLayout>

@@ -1,4 +1,4 @@
-#include "dialogs/hilfe_fenster.h"
+#include "ui/hilfe_fenster.h"
 
 #include <QHBoxLayout>
 #include <QPushButton>

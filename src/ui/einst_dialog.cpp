@@ -1,5 +1,5 @@
-#include "dialogs/einst_dialog.h"
-#include "dialogs/titel.h"
+#include "ui/einst_dialog.h"
+#include "ui/titel.h"
 
 #include <QCheckBox>
 #include <QComboBox>

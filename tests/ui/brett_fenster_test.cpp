@@ -17,13 +17,13 @@
 #include <vector>
 
 #include "board/bildlage.h"
-#include "dialogs/einst_dialog.h"
-#include "dialogs/highscore_fenster.h"
-#include "dialogs/hilfe_fenster.h"
-#include "dialogs/info_win.h"
-#include "dialogs/stat_form.h"
-#include "game/brett_fenster.h"
-#include "game/brett_flaeche.h"
+#include "ui/einst_dialog.h"
+#include "ui/highscore_fenster.h"
+#include "ui/hilfe_fenster.h"
+#include "ui/info_win.h"
+#include "ui/stat_form.h"
+#include "ui/brett_fenster.h"
+#include "ui/brett_flaeche.h"
 #include "game/spiel.h"
 
 using namespace fuh;

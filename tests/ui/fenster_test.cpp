@@ -16,11 +16,11 @@
 #include <QtTest>
 #include <cmath>
 
-#include "dialogs/einst_dialog.h"
-#include "dialogs/highscore_fenster.h"
-#include "dialogs/hilfe_fenster.h"
-#include "dialogs/info_win.h"
-#include "dialogs/stat_form.h"
+#include "ui/einst_dialog.h"
+#include "ui/highscore_fenster.h"
+#include "ui/hilfe_fenster.h"
+#include "ui/info_win.h"
+#include "ui/stat_form.h"
 #include "testdateien.h"
 
 using namespace fuh;

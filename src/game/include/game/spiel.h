@@ -32,6 +32,14 @@ class Spiel : private Spieltisch, private Gutschrift {
     void figur_MouseDown(int k, int button); // button 1 left, 2 right
     void Timer1_Timer();
 
+    // Computer against computer. By default "Neu" plays the whole game at once. A window that shows
+    // the moves one by one sets `schrittweise` and then calls selbstspielZug() for each computer move
+    // until it returns false (the game ended); the moves, random draws and files are the same.
+    // A new game abandons a game still running this way.
+    void schrittweise(bool ja) { schrittweise_ = ja; }
+    bool selbstspielZug();
+    bool selbstspielLaeuft() const { return selbstspielLaeuft_; }
+
     // The settings dialog confirmed: the settings take effect at once (no new game).
     void einstellungenUebernehmen(const Einstellungen& e);
 
@@ -98,6 +106,9 @@ class Spiel : private Spieltisch, private Gutschrift {
     int16_t neueZuege_ = 0;
     std::optional<Einstellungen> festeEinstellungen_;
     bool endeGefunden_ = false;
+    bool schrittweise_ = false;
+    bool selbstspielLaeuft_ = false;
+    bool hennenAmZug_ = true;
     int16_t letztesErgebnis_ = 0;
 };
 

@@ -8,7 +8,7 @@
 
 #include "board/ansicht.h"
 #include "board/stellung.h"
-#include "game/svg_bild.h"
+#include "ui/svg_bild.h"
 
 namespace fuh {
 
