@@ -22,7 +22,7 @@ struct TestAnsicht : Ansicht {
         hinweise[h] = s;
         if (s) gezeigt.push_back(h);
     }
-    void status(int panel, const std::string& text) override { panels[panel] = text; }
+    void status(Statusfeld feld, const std::string& text) override { panels[static_cast<int>(feld)] = text; }
     void meldung(const std::string& text) override { meldungen.push_back(text); }
     void oeffnen(Fenster f) override { fenster.push_back(f); }
 };

@@ -9,12 +9,14 @@ void Spiel::beende() {
     if (ergebnis_ == 2) partie_.sanktion(-3, 3, 1);
     if (ergebnis_ == 3) oeff_.sw_spielende = false;
     ansicht_.hinweis(Hinweis::speichern_msg, true);
+    std::vector<std::string> fehler;
     if (oeff_.einst.Lernmodus == 1) {
         const auto merge = lerndatei_.speichern(partie_, oeff_.einst.Staerke);
         neueZuege_ = merge.neueZuege;
-        meldeSchreibfehler(merge.geschrieben, lerndateiName(oeff_.einst.Staerke));
+        if (!merge.geschrieben) fehler.emplace_back(lerndateiName(oeff_.einst.Staerke));
     }
-    meldeSchreibfehler(statistik(ordner_, ergebnis_, oeff_.einst, neueZuege_), kStatistikdatei);
+    if (!statistik(ordner_, ergebnis_, oeff_.einst, neueZuege_)) fehler.emplace_back(kStatistikdatei);
+    meldeSchreibfehler(fehler);
     ansicht_.hinweis(Hinweis::speichern_msg, false);
     if (oeff_.einst.PC == 0) ansicht_.oeffnen(Fenster::highh);
     if (oeff_.einst.PC == 1) ansicht_.oeffnen(Fenster::highf);

@@ -24,8 +24,8 @@ void Spiel::platz_DragDrop(int t, int k) {
         pcZug_ = 2;
 }
 
-void Spiel::figur_MouseDown(int /*k*/, int button) {
-    if (button != 2 || !stellung_.imSprung) return;
+void Spiel::figur_MouseDown(int /*k*/, Maustaste button) {
+    if (button != Maustaste::rechts || !stellung_.imSprung) return;
     stellung_.imSprung = false;
     ansicht_.hinweis(Hinweis::spr_msg, false);
     pcZug_ = 1;

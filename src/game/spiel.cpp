@@ -37,13 +37,13 @@ void Spiel::init() {
 }
 
 void Spiel::statusTexte() {
-    if (const auto text = pcStatustext(oeff_.einst.PC)) ansicht_.status(1, *text);
-    if (const auto text = staerkeStatustext(oeff_.einst.Staerke)) ansicht_.status(2, *text);
+    if (const auto text = pcStatustext(oeff_.einst.PC)) ansicht_.status(Statusfeld::seite, *text);
+    if (const auto text = staerkeStatustext(oeff_.einst.Staerke)) ansicht_.status(Statusfeld::staerke, *text);
 }
 
 void Spiel::Neu_Click() {
     init();
-    meldeSchreibfehler(spielGestartet(ordner_), kStatistikdatei);
+    if (!spielGestartet(ordner_)) meldeSchreibfehler({kStatistikdatei});
     bilder_.aufstellen(stellung_);
     for (int k = 0; k < kFiguren; ++k) {
         ansicht_.figurBewegt(k, bilder_.left[k], bilder_.top[k]);
@@ -71,8 +71,17 @@ void Spiel::einstellungenFestlegen(const Einstellungen& e) {
     oeff_.einst = e;
 }
 
-void Spiel::meldeSchreibfehler(bool ok, const char* datei) {
-    if (!ok) ansicht_.meldung(schreibfehler(datei));
+void Spiel::meldeSchreibfehler(const std::vector<std::string>& dateien) {
+    if (dateien.empty()) return;
+    if (dateien.size() == 1) {
+        ansicht_.speicherfehler(schreibfehler(dateien.front()));
+        return;
+    }
+    std::string namen;
+    for (std::size_t i = 0; i < dateien.size(); ++i)
+        namen += (i == 0 ? "" : i + 1 == dateien.size() ? " und " : ", ") + ("„" + dateien[i] + "“");
+    ansicht_.speicherfehler("Die Dateien " + namen +
+                            " konnten nicht gespeichert werden. Das Spiel geht ohne diese Daten weiter.");
 }
 
 int16_t Spiel::erinnern(const Brettfeld& feld, int16_t figur) {

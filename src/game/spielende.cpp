@@ -16,6 +16,7 @@ bool Spiel::endecheck(int16_t figur) {
     if (partie_.spielzug == kZugbegrenzung) {
         ergebnis_ = 3;
         sperren(false); // no move may be recorded past the position table
+        ansicht_.zugbegrenzungErreicht();
     }
     if (ergebnis_ > 0) {
         oeff_.sw_spielende = true;
@@ -29,7 +30,7 @@ bool Spiel::endecheck(int16_t figur) {
         }
     }
     const auto p = punkte();
-    ansicht_.status(3, "Punkte: " + (p ? std::to_string(*p) : std::string()));
+    ansicht_.status(Statusfeld::punkte, "Punkte: " + (p ? std::to_string(*p) : std::string()));
     if (oeff_.sw_spielende) beende();
     return ergebnis;
 }

@@ -36,7 +36,7 @@ bool menschSpielt(Spiel& spiel, Zufall& zufall) {
         if (liste.empty()) return false;
         const Kandidat c = liste[static_cast<std::size_t>(zufall.ziehe(static_cast<int>(liste.size())) - 1)];
         if (c.t < 0)
-            spiel.figur_MouseDown(c.k, 2);
+            spiel.figur_MouseDown(c.k, Maustaste::rechts);
         else
             spiel.platz_DragDrop(c.t, c.k);
         if (!spiel.endeGefunden()) spiel.Timer1_Timer();

@@ -17,14 +17,14 @@
 #include <utility>
 #include <vector>
 
+#include "game/spiel.h"
+#include "ui/brett_flaeche.h"
 #include "ui/einst_dialog.h"
 #include "ui/highscore_fenster.h"
 #include "ui/hilfe_fenster.h"
 #include "ui/info_win.h"
 #include "ui/stat_form.h"
 #include "ui/titel.h"
-#include "ui/brett_flaeche.h"
-#include "game/spiel.h"
 
 namespace fuh {
 
@@ -85,7 +85,7 @@ BrettFenster::BrettFenster(std::filesystem::path ordner, uint32_t startzeit, QWi
 
     spiel_ = std::make_unique<Spiel>(*this, zufall_, std::move(ordner));
     connect(brett_, &BrettFlaeche::figurGedrueckt, this,
-            [this](int k, int button) { spiel_->figur_MouseDown(k, button); });
+            [this](int k, Maustaste taste) { spiel_->figur_MouseDown(k, taste); });
     connect(brett_, &BrettFlaeche::abgelegt, this, [this](int t, int k) { spiel_->platz_DragDrop(t, k); });
 
     spiel_->Form_Load(startzeit);
@@ -208,8 +208,8 @@ void BrettFenster::hinweis(Hinweis h, bool sichtbar) {
     brett_->hinweisZeigen(h, sichtbar);
 }
 
-void BrettFenster::status(int nummer, const std::string& text) {
-    if (nummer >= 1 && nummer <= 3) panel(nummer)->setText(QString::fromStdString(text));
+void BrettFenster::status(Statusfeld feld, const std::string& text) {
+    panel(static_cast<int>(feld))->setText(QString::fromStdString(text));
 }
 
 void BrettFenster::meldung(const std::string& text) {
@@ -231,7 +231,7 @@ void BrettFenster::einstellungenZeigen() {
     einmalZeigen(einst_, [this] {
         return new EinstDialog(
             spiel_->oeffentlich().einst, spiel_->ordner(),
-            [this](int nummer, const QString& text) { status(nummer, text.toStdString()); },
+            [this](Statusfeld feld, const QString& text) { status(feld, text.toStdString()); },
             [this](const Einstellungen& e) { spiel_->einstellungenUebernehmen(e); }, this);
     });
 }

@@ -157,11 +157,11 @@ void BrettFlaeche::mousePressEvent(QMouseEvent* event) {
     const int k = figurAn(p);
     if (k < 0) return;
     if (event->button() == Qt::RightButton) {
-        emit figurGedrueckt(k, 2);
+        emit figurGedrueckt(k, Maustaste::rechts);
         return;
     }
     if (event->button() != Qt::LeftButton) return;
-    emit figurGedrueckt(k, 1);
+    emit figurGedrueckt(k, Maustaste::links);
     if (!ziehbar_()) return;
 
     // The original image stays where it is until the game makes the move; a copy follows the cursor.

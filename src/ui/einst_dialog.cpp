@@ -35,7 +35,7 @@ int eintrag(int wert) {
 } // namespace
 
 EinstDialog::EinstDialog(const Einstellungen& einst, std::filesystem::path ordner,
-                         std::function<void(int panel, const QString& text)> statusSetzen,
+                         std::function<void(Statusfeld feld, const QString& text)> statusSetzen,
                          std::function<void(const Einstellungen&)> uebernehmen, QWidget* parent)
     : QDialog(parent), ordner_(std::move(ordner)), statusSetzen_(std::move(statusSetzen)),
       uebernehmen_(std::move(uebernehmen)) {
@@ -139,8 +139,9 @@ void EinstDialog::ok_Click() {
                                  .arg(QString::fromUtf8(kEinstellungsdatei)));
     }
     if (statusSetzen_) {
-        if (const auto t = pcStatustext(e.PC)) statusSetzen_(1, QString::fromStdString(*t));
-        if (const auto t = staerkeStatustextDialog(e.Staerke)) statusSetzen_(2, QString::fromStdString(*t));
+        if (const auto t = pcStatustext(e.PC)) statusSetzen_(Statusfeld::seite, QString::fromStdString(*t));
+        if (const auto t = staerkeStatustextDialog(e.Staerke))
+            statusSetzen_(Statusfeld::staerke, QString::fromStdString(*t));
     }
     close();
 }

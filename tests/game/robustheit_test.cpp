@@ -29,7 +29,7 @@ TEST_F(SpielTest, BeliebigeDateiinhalteFuehrenNieZumAbsturz) {
         for (int t = 0; t < kFelder; ++t)
             for (int k = 0; k < kFiguren; ++k)
                 spiel.platz_DragDrop(t, k);
-        spiel.figur_MouseDown(0, 2);
+        spiel.figur_MouseDown(0, Maustaste::rechts);
         spiel.Timer1_Timer();
         EXPECT_LE(spiel.spielzug(), kSituationen);
     }
@@ -42,6 +42,17 @@ TEST_F(SpielTest, BeliebigeDateiinhalteFuehrenNieZumAbsturz) {
     ASSERT_FALSE(ansicht.meldungen.empty());
     EXPECT_NE(ansicht.meldungen.front().find("QZ.sta"), std::string::npos);
     EXPECT_TRUE(spiel.endeGefunden());
+
+    // Everything that failed when the game was filed is named in one message.
+    std::filesystem::remove(ordner / "QZ3.DAT");
+    std::filesystem::create_directory(ordner / "QZ3.DAT");
+    ini(2, 2, 1, 0);
+    ansicht.meldungen.clear();
+    spiel.Neu_Click();
+    ASSERT_TRUE(spiel.endeGefunden());
+    EXPECT_EQ(ansicht.meldungen.back(),
+              "Die Dateien „QZ3.DAT“ und „QZ.sta“ konnten nicht gespeichert werden. "
+              "Das Spiel geht ohne diese Daten weiter.");
 }
 
 } // namespace

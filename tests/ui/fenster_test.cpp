@@ -16,12 +16,12 @@
 #include <QtTest>
 #include <cmath>
 
+#include "testdateien.h"
 #include "ui/einst_dialog.h"
 #include "ui/highscore_fenster.h"
 #include "ui/hilfe_fenster.h"
 #include "ui/info_win.h"
 #include "ui/stat_form.h"
-#include "testdateien.h"
 
 using namespace fuh;
 
@@ -93,8 +93,8 @@ class FensterTest : public QObject {
             spiel.einst = e;
             d = new EinstDialog(
                 spiel.einst, ordner,
-                [this](int panel, const QString& t) {
-                    status.append({panel, t});
+                [this](Statusfeld feld, const QString& t) {
+                    status.append({static_cast<int>(feld), t});
                 },
                 [this](const Einstellungen& neu) {
                     ++uebernommen;

@@ -10,6 +10,12 @@ enum class Hinweis { f_zug, h_zug, speichern_msg, spr_msg };
 // Windows that the game opens by itself.
 enum class Fenster { highf, highh };
 
+// The three panels of the status bar.
+enum class Statusfeld { seite = 1, staerke = 2, punkte = 3 };
+
+// The mouse button pressed on a piece.
+enum class Maustaste { links = 1, rechts = 2 };
+
 class Ansicht {
   public:
     virtual ~Ansicht() = default;
@@ -22,10 +28,13 @@ class Ansicht {
     virtual void figurenZiehbar(bool ziehbar) = 0;
     // Shows or hides a prompt label and repaints it at once.
     virtual void hinweis(Hinweis h, bool sichtbar) = 0;
-    // Panel 1..3 of the status bar.
-    virtual void status(int panel, const std::string& text) = 0;
+    virtual void status(Statusfeld feld, const std::string& text) = 0;
     // A modal message with OK and the application's title; returns when it is closed.
     virtual void meldung(const std::string& text) = 0;
+    // Files that could not be saved at one moment, named in one message; a screen may mark it as a warning.
+    virtual void speicherfehler(const std::string& text) { meldung(text); }
+    // The game was drawn because the move limit was reached; it announces nothing else.
+    virtual void zugbegrenzungErreicht() {}
     virtual void oeffnen(Fenster f) = 0;
     // Every executed move, for logs; the screen has already been told through figurBewegt.
     virtual void zugAusgefuehrt(int /*vonX*/, int /*vonY*/, int /*nachX*/, int /*nachY*/, bool /*normal*/) {}

@@ -4,6 +4,8 @@
 #include <cstdint>
 #include <filesystem>
 #include <optional>
+#include <string>
+#include <vector>
 
 #include "board/ansicht.h"
 #include "board/bildlage.h"
@@ -28,8 +30,8 @@ class Spiel : private Spieltisch, private Gutschrift {
     void Form_Load(uint32_t sekundenSeitMitternacht); // initialise, seed the random source, lock pieces
     void Neu_Click();
     void start_Click() { Neu_Click(); }
-    void platz_DragDrop(int t, int k);       // piece k dropped on the target of square t
-    void figur_MouseDown(int k, int button); // button 1 left, 2 right
+    void platz_DragDrop(int t, int k); // piece k dropped on the target of square t
+    void figur_MouseDown(int k, Maustaste button);
     void Timer1_Timer();
 
     // Computer against computer. By default "Neu" plays the whole game at once. A window that shows
@@ -77,7 +79,8 @@ class Spiel : private Spieltisch, private Gutschrift {
     void spielende(int16_t figur);
     std::optional<int16_t> punkte();
     void beende();
-    void meldeSchreibfehler(bool ok, const char* datei);
+    // One message names every file that could not be saved at this moment.
+    void meldeSchreibfehler(const std::vector<std::string>& dateien);
 
     // What the players and the move executor need of the game.
     Stellung& spielstellung() override { return stellung_; }

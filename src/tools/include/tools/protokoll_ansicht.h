@@ -16,7 +16,7 @@ class ProtokollAnsicht : public Ansicht {
     void figurSichtbar(int, bool) override {}
     void figurenZiehbar(bool) override {}
     void hinweis(Hinweis, bool) override {}
-    void status(int, const std::string&) override {}
+    void status(Statusfeld, const std::string&) override {}
     void meldung(const std::string& text) override;
     void oeffnen(Fenster f) override;
     void zugAusgefuehrt(int vonX, int vonY, int nachX, int nachY, bool normal) override;

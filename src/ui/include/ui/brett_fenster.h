@@ -49,7 +49,7 @@ class BrettFenster : public QMainWindow, public Ansicht {
     void figurSichtbar(int k, bool sichtbar) override;
     void figurenZiehbar(bool ziehbar) override;
     void hinweis(Hinweis h, bool sichtbar) override;
-    void status(int panel, const std::string& text) override;
+    void status(Statusfeld feld, const std::string& text) override;
     void meldung(const std::string& text) override;
     void oeffnen(Fenster f) override;
 

@@ -37,8 +37,8 @@ class BrettFlaeche : public SvgBild {
     void ziehenAbbrechen();
 
   signals:
-    void figurGedrueckt(int k, int button); // button 1 left, 2 right
-    void abgelegt(int t, int k);            // piece k dropped on the target of square t
+    void figurGedrueckt(int k, Maustaste taste);
+    void abgelegt(int t, int k); // piece k dropped on the target of square t
 
   protected:
     void mousePressEvent(QMouseEvent* event) override;

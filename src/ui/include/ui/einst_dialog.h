@@ -4,6 +4,8 @@
 #include <filesystem>
 #include <functional>
 
+#include "board/ansicht.h"
+
 #include "dialogs/oeffentlich.h"
 
 class QCheckBox;
@@ -17,7 +19,7 @@ class EinstDialog : public QDialog {
     // Opens showing `einst`. `statusSetzen` writes a status bar panel; `uebernehmen` lets the game take
     // the new settings.
     EinstDialog(const Einstellungen& einst, std::filesystem::path ordner,
-                std::function<void(int panel, const QString& text)> statusSetzen,
+                std::function<void(Statusfeld feld, const QString& text)> statusSetzen,
                 std::function<void(const Einstellungen&)> uebernehmen, QWidget* parent = nullptr);
 
   private:
@@ -25,7 +27,7 @@ class EinstDialog : public QDialog {
     void ok_Click();
 
     std::filesystem::path ordner_;
-    std::function<void(int, const QString&)> statusSetzen_;
+    std::function<void(Statusfeld, const QString&)> statusSetzen_;
     std::function<void(const Einstellungen&)> uebernehmen_;
     QComboBox* pc_spielt_;
     QComboBox* Staerke_;
