@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "board/ansicht.h"
+#include "game/ansicht.h"
 
 namespace fuh::test {
 
@@ -24,6 +24,8 @@ struct TestAnsicht : Ansicht {
     }
     void status(Statusfeld feld, const std::string& text) override { panels[static_cast<int>(feld)] = text; }
     void meldung(const std::string& text) override { meldungen.push_back(text); }
+    int zugbegrenzungen = 0;
+    void zugbegrenzungErreicht() override { ++zugbegrenzungen; }
     void oeffnen(Fenster f) override { fenster.push_back(f); }
 };
 

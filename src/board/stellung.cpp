@@ -17,7 +17,6 @@ void Stellung::grundstellung() {
     figurplatz.fill(0);
     for (int k = 0; k < kFiguren; ++k)
         figurplatz[k] = kStartplaetze[k];
-    imSprung = false;
 }
 
 std::optional<int> figur_index(const Stellung& s, int wert) {

@@ -5,9 +5,9 @@
 namespace fuh {
 
 void Spiel::beende() {
-    if (ergebnis_ == 1) partie_.sanktion(3, -3, 1);
-    if (ergebnis_ == 2) partie_.sanktion(-3, 3, 1);
-    if (ergebnis_ == 3) oeff_.sw_spielende = false;
+    if (ergebnis_ == Ergebnis::hennen) partie_.sanktion(3, -3, 1);
+    if (ergebnis_ == Ergebnis::fuchs) partie_.sanktion(-3, 3, 1);
+    if (ergebnis_ == Ergebnis::remis) oeff_.sw_spielende = false;
     ansicht_.hinweis(Hinweis::speichern_msg, true);
     std::vector<std::string> fehler;
     if (oeff_.einst.Lernmodus == 1) {
@@ -15,11 +15,12 @@ void Spiel::beende() {
         neueZuege_ = merge.neueZuege;
         if (!merge.geschrieben) fehler.emplace_back(lerndateiName(oeff_.einst.Staerke));
     }
-    if (!statistik(ordner_, ergebnis_, oeff_.einst, neueZuege_)) fehler.emplace_back(kStatistikdatei);
+    if (!statistik(ordner_, static_cast<int>(ergebnis_), oeff_.einst, neueZuege_))
+        fehler.emplace_back(kStatistikdatei);
     meldeSchreibfehler(fehler);
     ansicht_.hinweis(Hinweis::speichern_msg, false);
-    if (oeff_.einst.PC == 0) ansicht_.oeffnen(Fenster::highh);
-    if (oeff_.einst.PC == 1) ansicht_.oeffnen(Fenster::highf);
+    if (oeff_.einst.computer() == Computer::fuchs) ansicht_.oeffnen(Fenster::highh);
+    if (oeff_.einst.computer() == Computer::hennen) ansicht_.oeffnen(Fenster::highf);
 }
 
 } // namespace fuh

@@ -6,29 +6,27 @@ namespace fuh {
 
 void Spiel::platz_DragDrop(int t, int k) {
     if (!bilder_.ziehbar || t < 0 || t >= kFelder || k < 0 || k >= kFiguren) return;
-    Stellung& s = stellung_;
-    const int von = s.figurplatz[k];
-    s.vonX = static_cast<int16_t>(feldX(von));
-    s.vonY = static_cast<int16_t>(feldY(von));
-    s.nachX = static_cast<int16_t>(feldX(t));
-    s.nachY = static_cast<int16_t>(feldY(t));
-    const int PC = oeff_.einst.PC;
-    if (!korrekterZug(s, PC, s.vonX, s.vonY, s.nachX, s.nachY)) return;
+    const int von = stellung_.figurplatz[k];
+    Teilzug& r = zugregister_;
+    r = {static_cast<int16_t>(feldX(von)), static_cast<int16_t>(feldY(von)), static_cast<int16_t>(feldX(t)),
+         static_cast<int16_t>(feldY(t))};
+    const Computer PC = oeff_.einst.computer();
+    if (!korrekterZug(stellung_.Feld, PC, sprungfolge_, r.vonX, r.vonY, r.nachX, r.nachY)) return;
     zug(true);
-    if (endecheck(s.Feld[s.nachX][s.nachY])) return;
+    if (endecheck(stellung_.Feld[r.nachX][r.nachY])) return;
     if (oeff_.einst.Einzelzug != 0) return;
-    if (s.nachX == s.vonX && s.nachY == s.vonY) return;
-    if (PC == 1 && !s.imSprung)
-        pcZug_ = 1;
-    else if (PC == 0)
-        pcZug_ = 2;
+    if (r.nachX == r.vonX && r.nachY == r.vonY) return;
+    if (PC == Computer::hennen && !sprungfolge_.imSprung)
+        pcZug_ = Anforderung::hennen;
+    else if (PC == Computer::fuchs)
+        pcZug_ = Anforderung::fuchs;
 }
 
 void Spiel::figur_MouseDown(int /*k*/, Maustaste button) {
-    if (button != Maustaste::rechts || !stellung_.imSprung) return;
-    stellung_.imSprung = false;
+    if (button != Maustaste::rechts || !sprungfolge_.imSprung) return;
+    sprungfolge_.imSprung = false;
     ansicht_.hinweis(Hinweis::spr_msg, false);
-    pcZug_ = 1;
+    pcZug_ = Anforderung::hennen;
 }
 
 } // namespace fuh

@@ -3,13 +3,13 @@
 #include "dialogs/einstellungsdatei.h"
 #include "dialogs/statistikdatei.h"
 #include "dialogs/statustexte.h"
+#include "game/zug.h"
 #include "memory/satzdatei.h"
 
 namespace fuh {
 
 Spiel::Spiel(Ansicht& ansicht, Zufall& zufall, std::filesystem::path ordner)
-    : ansicht_(ansicht), zufall_(zufall), ordner_(std::move(ordner)), lerndatei_(ordner_),
-      fuchsspieler_(*this), hennenspieler_(*this, fuchsspieler_) {
+    : ansicht_(ansicht), zufall_(zufall), ordner_(std::move(ordner)), lerndatei_(ordner_) {
     stellung_.grundstellung();
     bilder_.aufstellen(stellung_);
 }
@@ -17,6 +17,7 @@ Spiel::Spiel(Ansicht& ansicht, Zufall& zufall, std::filesystem::path ordner)
 void Spiel::Form_Load(uint32_t sekundenSeitMitternacht) {
     init();
     zufall_.setzen(sekundenSeitMitternacht);
+    tippZufall_.setzen(sekundenSeitMitternacht);
     sperren(false);
 }
 
@@ -28,9 +29,10 @@ void Spiel::init() {
     oeff_.score = 0;
     oeff_.u_is_sieger = "    ";
     oeff_.fuchs_null = false;
-    stellung_.vonX = stellung_.vonY = stellung_.nachX = stellung_.nachY = 0;
+    zugregister_ = {};
     oeff_.sw_spielende = false;
     stellung_.grundstellung();
+    sprungfolge_.imSprung = false;
     partie_.spielzug = 0;
     selbstspielLaeuft_ = false;
     statusTexte();
@@ -51,7 +53,7 @@ void Spiel::Neu_Click() {
     }
     sperren(true);
     endeGefunden_ = false;
-    letztesErgebnis_ = 0;
+    letztesErgebnis_ = Ergebnis::offen;
     // A jump sequence of the last game is over; its prompt must not linger.
     ansicht_.hinweis(Hinweis::spr_msg, false);
     spielBeginnen();
@@ -84,13 +86,9 @@ void Spiel::meldeSchreibfehler(const std::vector<std::string>& dateien) {
                             " konnten nicht gespeichert werden. Das Spiel geht ohne diese Daten weiter.");
 }
 
-int16_t Spiel::erinnern(const Brettfeld& feld, int16_t figur) {
-    return lerndatei_.erinnern(feld, figur, oeff_.einst.Staerke, partie_);
-}
-
 void Spiel::zug(bool normal) {
-    Zugumgebung u{stellung_, bilder_, ansicht_, *this};
-    fuh::zug(u, oeff_.einst.PC, normal);
+    Zugumgebung u{stellung_, zugregister_, sprungfolge_, bilder_, ansicht_, partie_};
+    fuh::zug(u, oeff_.einst.computer(), normal);
 }
 
 } // namespace fuh

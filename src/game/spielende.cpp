@@ -11,21 +11,21 @@ constexpr int kHoechstpunkte = 640; // the foxes' points are this minus the hens
 
 bool Spiel::endecheck(int16_t figur) {
     bool ergebnis = false;
-    partie_.pstoSits(stellung_);
+    partie_.pstoSits(stellung_.Feld, zugregister_);
     spielende(figur);
     if (partie_.spielzug == kZugbegrenzung) {
-        ergebnis_ = 3;
+        ergebnis_ = Ergebnis::remis;
         sperren(false); // no move may be recorded past the position table
         ansicht_.zugbegrenzungErreicht();
     }
-    if (ergebnis_ > 0) {
+    if (ergebnis_ != Ergebnis::offen) {
         oeff_.sw_spielende = true;
         ergebnis = true;
         endeGefunden_ = true;
         letztesErgebnis_ = ergebnis_;
         // A jump sequence cannot go on after the end; its prompt would only invite a reply.
-        if (stellung_.imSprung) {
-            stellung_.imSprung = false;
+        if (sprungfolge_.imSprung) {
+            sprungfolge_.imSprung = false;
             ansicht_.hinweis(Hinweis::spr_msg, false);
         }
     }
@@ -43,30 +43,31 @@ void Spiel::spielende(int16_t figur) {
                 ++n;
                 if (imZielfeld(x, y)) ++z;
             }
-    const int PC = oeff_.einst.PC;
-    ergebnis_ = 0;
-    auto ende = [&](int16_t e, const char* text, bool menschGewinnt) {
+    const Computer PC = oeff_.einst.computer();
+    ergebnis_ = Ergebnis::offen;
+    auto ende = [&](Ergebnis e, const char* text, bool menschGewinnt) {
         ergebnis_ = e;
         ansicht_.meldung(text);
         sperren(false);
         oeff_.u_is_sieger = menschGewinnt ? "Ja" : "Nein";
     };
-    if (z == 9) ende(1, "Die Hennen haben gewonnen!", PC == 0);
-    if (n < 9) ende(2, "Der Fuchs hat gewonnen!", PC == 1);
-    if (stellung_.nachX == 0 && stellung_.nachY == 0) {
+    if (z == 9) ende(Ergebnis::hennen, "Die Hennen haben gewonnen!", PC == Computer::fuchs);
+    if (n < 9) ende(Ergebnis::fuchs, "Der Fuchs hat gewonnen!", PC == Computer::hennen);
+    if (zugregister_.nachX == 0 && zugregister_.nachY == 0) {
         // The side to move found no move (or the last fox would have been parked).
-        if (figur == henne) ende(2, "Der Fuchs hat gewonnen", PC == 1);
-        if (figur == fuchs) ende(3, "Remis: Die Hennen können ihr Ziel nicht erreichen.", false);
+        if (figur == henne) ende(Ergebnis::fuchs, "Der Fuchs hat gewonnen", PC == Computer::hennen);
+        if (figur == fuchs)
+            ende(Ergebnis::remis, "Remis: Die Hennen können ihr Ziel nicht erreichen.", false);
     }
 }
 
 std::optional<int16_t> Spiel::punkte() {
     const int s = hennenwert(stellung_.Feld);
-    switch (oeff_.einst.PC) {
-    case 0:
+    switch (oeff_.einst.computer()) {
+    case Computer::fuchs:
         oeff_.score = wrap16(s);
         return oeff_.score;
-    case 1:
+    case Computer::hennen:
         oeff_.score = wrap16(kHoechstpunkte - s);
         return oeff_.score;
     default:

@@ -1,34 +1,60 @@
-// Who moves when: the timer serves a requested computer reply; a new game starts play.
+// Who moves when: the timer serves a requested computer reply; a new game starts play. A computer side
+// chooses its move, and the game carries the choice out here.
 #include "game/spiel.h"
+#include "player/fuchsspieler.h"
+#include "player/hennenspieler.h"
 
 namespace fuh {
 
+void Spiel::strafeAnwenden(const Strafe& strafe) {
+    if (strafe.art == Strafe::Art::keine) return;
+    zugregister_ = strafe.zug;
+    ansicht_.meldung(strafe.art == Strafe::Art::einsetzen ? kFuchsEingesetzt : kFuchsAusgeschlossen);
+    if (strafe.art != Strafe::Art::letzterFuchs) {
+        zug(false);
+        return;
+    }
+    // The last fox would leave the board: no fox moves, and the check finds the game drawn.
+    oeff_.fuchs_null = true;
+    endecheck(fuchs);
+}
+
 bool Spiel::hennenZiehen() {
-    hennenspieler_.berechneHennen();
+    ansicht_.hinweis(Hinweis::h_zug, true);
+    strafeAnwenden(strafregel(stellung_.Feld, partie_, oeff_.einst.Einzelzug));
+    const Zugwahl wahl = berechneHennen(stellung_.Feld, erinnerung(), zufall_);
+    zugregister_ = wahl.keinZug() ? Teilzug{} : *wahl.begin();
+    if (!wahl.keinZug()) zug(true);
+    ansicht_.hinweis(Hinweis::h_zug, false);
     return endecheck(henne);
 }
 
 bool Spiel::fuechseZiehen() {
-    fuchsspieler_.berechneFuchs(false, stellung_.Feld);
+    ansicht_.hinweis(Hinweis::f_zug, true);
+    // Without a move the target stays (0, 0), which the end-of-move check reads as "no move".
+    zugregister_.nachX = 0;
+    zugregister_.nachY = 0;
+    for (const Teilzug& sprung : berechneFuchs(stellung_.Feld, erinnerung(), zufall_)) {
+        zugregister_ = sprung;
+        zug(true);
+        ansicht_.hinweis(Hinweis::f_zug, false);
+    }
     return endecheck(fuchs);
 }
 
 void Spiel::Timer1_Timer() {
-    if (pcZug_ == 1) {
-        pcZug_ = 0;
-        hennenZiehen();
-    } else if (pcZug_ == 2) {
-        pcZug_ = 0;
-        fuechseZiehen();
-    }
+    const Anforderung a = pcZug_;
+    pcZug_ = Anforderung::keine;
+    if (a == Anforderung::hennen) hennenZiehen();
+    if (a == Anforderung::fuchs) fuechseZiehen();
 }
 
 void Spiel::spielBeginnen() {
-    switch (oeff_.einst.PC) {
-    case 1:
+    switch (oeff_.einst.computer()) {
+    case Computer::hennen:
         hennenZiehen();
         break;
-    case 2:
+    case Computer::beide:
         selbstspielLaeuft_ = true;
         hennenAmZug_ = true;
         if (!schrittweise_)

@@ -7,13 +7,13 @@
 
 namespace fuh {
 
-void Partie::pstoSits(const Stellung& s) {
+void Partie::pstoSits(const Brettfeld& Feld, const Teilzug& zug) {
     if (spielzug < 0 || spielzug >= kSituationen) return;
     Situation& neu = sits[spielzug];
-    neu.code = positionscode(s.Feld);
+    neu.code = positionscode(Feld);
     neu.fuchswert = 0;
     neu.hennenwert = 0;
-    neu.sprung = (std::abs(s.vonX - s.nachX) == 2 || std::abs(s.vonY - s.nachY) == 2) ? 1 : 0;
+    neu.sprung = zug.sprung() ? 1 : 0;
     ++spielzug;
 }
 

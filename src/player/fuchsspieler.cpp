@@ -1,7 +1,9 @@
 #include "player/fuchsspieler.h"
 
 #include <algorithm>
+#include <array>
 #include <cstdlib>
+#include <optional>
 
 #include "board/gewichte.h"
 #include "board/regeln.h"
@@ -30,15 +32,48 @@ int fangbonus(int x, int y) {
         return 0;
     }
 }
-// Moves the fox on a board; a jump also takes the hen it passes over.
-void fuchsZiehen(Brettfeld& Feld, int vx, int vy, int nx, int ny) {
-    Feld[vx][vy] = leer;
-    Feld[nx][ny] = fuchs;
-    if (std::abs(nx - vx) == 2 || std::abs(ny - vy) == 2) Feld[vx + (nx - vx) / 2][vy + (ny - vy) / 2] = leer;
-}
-} // namespace
 
-void Fuchsspieler::eintrag(int i, int wert, int x, int y, int nx, int ny) {
+// Moves the fox on a board; a jump also takes the hen it passes over.
+void fuchsZiehen(Brettfeld& Feld, const Teilzug& z) {
+    Feld[z.vonX][z.vonY] = leer;
+    Feld[z.nachX][z.nachY] = fuchs;
+    if (z.sprung()) Feld[z.vonX + (z.nachX - z.vonX) / 2][z.vonY + (z.nachY - z.vonY) / 2] = leer;
+}
+
+// One turn of the fox player. It plays its choice on `Feld`, its own board: the live board's copy in
+// real play, the hen player's working board in a prediction (where `erinnerung` is null).
+class Fuchsrechnung {
+  public:
+    Fuchsrechnung(Brettfeld& Feld, const Erinnerung* erinnerung, Zufall& zufall)
+        : Feld_(Feld), erinnerung_(erinnerung), zufall_(zufall) {}
+
+    Zugwahl berechneFuchs();
+
+  private:
+    void scanfuchs();
+    void initzugwert() { zugwert_.fill(0); }
+    void scan(int x, int y, int i);
+    int scanpots(int stufe);
+    bool zugDa(int x, int y, int i);
+    void zugLeer(int x, int y, int i);
+    std::optional<Teilzug> zugAuswahl();
+    void psffigzug(int i);
+    void eintrag(int i, int wert, int x, int y, int nx, int ny);
+    Teilzug eintragZug(int i) const {
+        return {zugwert_[5 * i + 1], zugwert_[5 * i + 2], zugwert_[5 * i + 3], zugwert_[5 * i + 4]};
+    }
+    bool spiele(std::optional<Teilzug> z, Zugwahl& wahl);
+
+    Brettfeld& Feld_;
+    const Erinnerung* erinnerung_;
+    Zufall& zufall_;
+    // Candidate list: 16 entries of value, from x, from y, to x, to y; 0..7 the first fox, 8..15 the second.
+    std::array<int16_t, 81> zugwert_{};
+    std::array<int16_t, 4> fuchspos_{};
+    Brettfeld pots_{};
+};
+
+void Fuchsrechnung::eintrag(int i, int wert, int x, int y, int nx, int ny) {
     zugwert_[5 * i] = wrap16(wert);
     zugwert_[5 * i + 1] = static_cast<int16_t>(x);
     zugwert_[5 * i + 2] = static_cast<int16_t>(y);
@@ -46,39 +81,38 @@ void Fuchsspieler::eintrag(int i, int wert, int x, int y, int nx, int ny) {
     zugwert_[5 * i + 4] = static_cast<int16_t>(ny);
 }
 
-void Fuchsspieler::scanfuchs(const Brettfeld& Feld) {
+void Fuchsrechnung::scanfuchs() {
     int gefunden = 0;
     for (int x = 0; x <= 6 && gefunden < 2; ++x)
         for (int y = 0; y <= 6 && gefunden < 2; ++y)
-            if (Feld[x][y] == fuchs) {
+            if (Feld_[x][y] == fuchs) {
                 fuchspos_[2 * gefunden] = static_cast<int16_t>(x);
                 fuchspos_[2 * gefunden + 1] = static_cast<int16_t>(y);
                 ++gefunden;
             }
 }
 
-void Fuchsspieler::scan(int x, int y, const Brettfeld& Feld, int i) {
+void Fuchsrechnung::scan(int x, int y, int i) {
     for (int dx = -1; dx <= 1; ++dx)
         for (int dy = -1; dy <= 1; ++dy) {
             if (dx == 0 && dy == 0) continue;
-            int wert = issprung(x, y, dx, dy, Feld);
-            eintrag(i, wert, x, y, x + 2 * dx, y + 2 * dy);
+            eintrag(i, issprung(x, y, dx, dy, Feld_), x, y, x + 2 * dx, y + 2 * dy);
             if (zugwert_[5 * i] > 0) zugwert_[5 * i] = wrap16(zugwert_[5 * i] + fangbonus(x + dx, y + dy));
             ++i;
         }
 }
 
-int Fuchsspieler::scanpots(int stufe, const Brettfeld& Feld) {
+int Fuchsrechnung::scanpots(int stufe) {
     int ergebnis = 0;
     if (stufe == 0) {
         for (auto& spalte : pots_)
             spalte.fill(0);
         for (int x = 0; x <= 6; ++x)
             for (int y = 0; y <= 6; ++y) {
-                if (Feld[x][y] != leer) continue;
+                if (Feld_[x][y] != leer) continue;
                 for (int dx = -1; dx <= 1; ++dx)
                     for (int dy = -1; dy <= 1; ++dy)
-                        if (sprungMoeglich(x, y, dx, dy, Feld)) {
+                        if (sprungMoeglich(x, y, dx, dy, Feld_)) {
                             pots_[x][y] = wrap16(pots_[x][y] + fangwert[x + dx][y + dy]);
                             ergebnis = 1;
                             if (dy == 1) pots_[x][y] = wrap16(pots_[x][y] + kFangVorHennenreihe);
@@ -93,7 +127,7 @@ int Fuchsspieler::scanpots(int stufe, const Brettfeld& Feld) {
             if (pots_[x][y] <= 0) continue;
             for (int dx = -1; dx <= 1; ++dx)
                 for (int dy = -1; dy <= 1; ++dy)
-                    if (korrekt(x, y, dx, dy) && Feld[x + dx][y + dy] == leer) {
+                    if (korrekt(x, y, dx, dy) && Feld_[x + dx][y + dy] == leer) {
                         neu[x + dx][y + dy] = wrap16(neu[x + dx][y + dy] + pots_[x][y]);
                         ergebnis = 1;
                     }
@@ -102,7 +136,7 @@ int Fuchsspieler::scanpots(int stufe, const Brettfeld& Feld) {
     return ergebnis;
 }
 
-bool Fuchsspieler::zugDa(int x, int y, int i) {
+bool Fuchsrechnung::zugDa(int x, int y, int i) {
     bool ergebnis = false;
     for (int dx = -1; dx <= 1; ++dx)
         for (int dy = -1; dy <= 1; ++dy) {
@@ -116,34 +150,29 @@ bool Fuchsspieler::zugDa(int x, int y, int i) {
     return ergebnis;
 }
 
-void Fuchsspieler::zugLeer(int x, int y, int i, const Brettfeld& Feld) {
+void Fuchsrechnung::zugLeer(int x, int y, int i) {
     for (int dx = -1; dx <= 1; ++dx)
         for (int dy = -1; dy <= 1; ++dy) {
-            if (korrekt(x, y, dx, dy) && Feld[x + dx][y + dy] == leer)
+            if (korrekt(x, y, dx, dy) && Feld_[x + dx][y + dy] == leer)
                 eintrag(i, fuchsfeldwert[x + dx][y + dy] - fuchsfeldwert[x][y] + kLeerzugBonus, x, y, x + dx,
                         y + dy);
             if (dx != 0 || dy != 0) ++i;
         }
 }
 
-Brettfeld Fuchsspieler::trans() const {
-    return tisch_.spielstellung().Feld;
-}
-
-void Fuchsspieler::psffigzug(int i) {
+// Corrects candidate i by the learned value of the position it leads to (on the trial board psffig).
+void Fuchsrechnung::psffigzug(int i) {
     const int v = zugwert_[5 * i];
-    const int fx = zugwert_[5 * i + 1], fy = zugwert_[5 * i + 2];
-    const int tx = zugwert_[5 * i + 3], ty = zugwert_[5 * i + 4];
-    Brettfeld psffig = trans();
-    fuchsZiehen(psffig, fx, fy, tx, ty);
-    const int r = tisch_.erinnern(psffig, fuchs);
+    Brettfeld psffig = Feld_;
+    fuchsZiehen(psffig, eintragZug(i));
+    const int r = (*erinnerung_)(psffig, fuchs);
     zugwert_[5 * i] = static_cast<int16_t>(std::clamp(v + r, 1, 32767));
 }
 
-bool Fuchsspieler::zugAuswahl(bool fiktiv) {
+std::optional<Teilzug> Fuchsrechnung::zugAuswahl() {
     int best = 0, anzahl = 0, gewaehlt = 0;
     for (int k = 0; k < kEintraege; ++k) {
-        if (zugwert_[5 * k] >= 1 && !fiktiv) psffigzug(k);
+        if (zugwert_[5 * k] >= 1 && erinnerung_) psffigzug(k);
         const int v = zugwert_[5 * k];
         if (v == best && v > 0) ++anzahl;
         if (v > best) {
@@ -152,78 +181,75 @@ bool Fuchsspieler::zugAuswahl(bool fiktiv) {
             gewaehlt = k;
         }
     }
-    if (best <= 0) return false;
+    if (best <= 0) return std::nullopt;
     if (anzahl > 1) {
-        const int r = tisch_.ziehe(anzahl);
+        const int r = zufall_.ziehe(anzahl);
         for (int k = 0, n = 0; k < kEintraege; ++k)
             if (zugwert_[5 * k] == best && ++n == r) {
                 gewaehlt = k;
                 break;
             }
     }
-    Stellung& s = tisch_.spielstellung();
-    s.vonX = zugwert_[5 * gewaehlt + 1];
-    s.vonY = zugwert_[5 * gewaehlt + 2];
-    s.nachX = zugwert_[5 * gewaehlt + 3];
-    s.nachY = zugwert_[5 * gewaehlt + 4];
+    return eintragZug(gewaehlt);
+}
+
+// Plays a chosen move on the board and notes it in the choice; false when nothing was chosen.
+bool Fuchsrechnung::spiele(std::optional<Teilzug> z, Zugwahl& wahl) {
+    if (!z) return false;
+    fuchsZiehen(Feld_, *z);
+    wahl.anhaengen(*z);
     return true;
 }
 
-// Plays the move in the register: for real through zug, in a prediction on the working board.
-void Fuchsspieler::spiele(bool fiktiv, Brettfeld& Feld) {
-    const Stellung& s = tisch_.spielstellung();
-    if (!fiktiv) {
-        tisch_.zug(true);
-        tisch_.hinweis(Hinweis::f_zug, false);
-        return;
-    }
-    fuchsZiehen(Feld, s.vonX, s.vonY, s.nachX, s.nachY);
-}
-
-void Fuchsspieler::berechneFuchs(bool fiktiv, Brettfeld& Feld) {
-    if (!fiktiv) tisch_.hinweis(Hinweis::f_zug, true);
-    Stellung& s = tisch_.spielstellung();
-    s.nachX = 0;
-    s.nachY = 0;
-    scanfuchs(Feld);
+Zugwahl Fuchsrechnung::berechneFuchs() {
+    Zugwahl wahl;
+    scanfuchs();
     initzugwert();
 
     // Jumps: the best one, then further jumps of the same fox as long as it has one.
-    scan(fuchspos_[0], fuchspos_[1], Feld, 0);
-    scan(fuchspos_[2], fuchspos_[3], Feld, 8);
-    if (zugAuswahl(fiktiv)) {
+    scan(fuchspos_[0], fuchspos_[1], 0);
+    scan(fuchspos_[2], fuchspos_[3], 8);
+    if (spiele(zugAuswahl(), wahl)) {
         do {
-            spiele(fiktiv, Feld);
             initzugwert();
-            fuchspos_ = {s.nachX, s.nachY, 0, 0};
-            scan(fuchspos_[0], fuchspos_[1], Feld, 0);
-        } while (zugAuswahl(fiktiv));
-        return;
+            const Teilzug& letzter = wahl.zuege[static_cast<std::size_t>(wahl.anzahl - 1)];
+            fuchspos_ = {letzter.nachX, letzter.nachY, 0, 0};
+            scan(fuchspos_[0], fuchspos_[1], 0);
+        } while (spiele(zugAuswahl(), wahl));
+        return wahl;
     }
 
     // Approach: move next to a square from which a hen could be jumped, spreading the potential
     // outwards while no fox stands next to it.
-    if (scanpots(0, Feld) == 1) {
+    if (scanpots(0) == 1) {
         for (int durchgang = 1; durchgang <= kPotentialSchritte; ++durchgang) {
             initzugwert();
             const bool erster = zugDa(fuchspos_[0], fuchspos_[1], 0);
             const bool zweiter = zugDa(fuchspos_[2], fuchspos_[3], 8);
             if (erster || zweiter) {
-                if (zugAuswahl(fiktiv)) {
-                    spiele(fiktiv, Feld);
-                    return;
-                }
+                if (spiele(zugAuswahl(), wahl)) return wahl;
             } else {
-                scanpots(1, Feld);
+                scanpots(1);
             }
         }
     }
 
     // Plain moves.
     initzugwert();
-    zugLeer(fuchspos_[0], fuchspos_[1], 0, Feld);
-    zugLeer(fuchspos_[2], fuchspos_[3], 8, Feld);
-    if (zugAuswahl(fiktiv)) spiele(fiktiv, Feld);
+    zugLeer(fuchspos_[0], fuchspos_[1], 0);
+    zugLeer(fuchspos_[2], fuchspos_[3], 8);
+    spiele(zugAuswahl(), wahl);
+    return wahl;
+}
+} // namespace
+
+Zugwahl berechneFuchs(const Brettfeld& Feld, const Erinnerung& erinnerung, Zufall& zufall) {
+    Brettfeld arbeit = Feld;
+    return Fuchsrechnung(arbeit, &erinnerung, zufall).berechneFuchs();
+}
+
+void fuchsVorhersage(Brettfeld& Feld, Zufall& zufall) {
+    Fuchsrechnung(Feld, nullptr, zufall).berechneFuchs();
 }
 
 } // namespace fuh

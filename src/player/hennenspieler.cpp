@@ -1,9 +1,11 @@
 #include "player/hennenspieler.h"
 
+#include <array>
+
 #include "board/gewichte.h"
 #include "board/regeln.h"
 #include "board/zahlen.h"
-#include "player/strafregel.h"
+#include "player/fuchsspieler.h"
 
 namespace fuh {
 
@@ -29,94 +31,91 @@ struct Hoechstwert {
     }
 };
 
-} // namespace
-
-void Hennenspieler::psTopsfig() {
-    psfig_ = tisch_.spielstellung().Feld;
-}
-
-bool Hennenspieler::hzugmoglich(int x, int y) const {
+// A hen could move onto (x, y).
+bool hzugmoglich(const Brettfeld& psfig, int x, int y) {
     for (int dx = -1; dx <= 1; ++dx)
         for (int dy = 0; dy <= 1; ++dy)
-            if (korrekt(x, y, dx, dy) && psfig_[x + dx][y + dy] == henne) return true;
+            if (korrekt(x, y, dx, dy) && psfig[x + dx][y + dy] == henne) return true;
     return false;
 }
 
-bool Hennenspieler::hbedroht(int x, int y) const {
+// A fox could jump a hen standing on (x, y).
+bool hbedroht(const Brettfeld& psfig, int x, int y) {
     for (int dx = -1; dx <= 1; ++dx)
         for (int dy = -1; dy <= 1; ++dy)
-            if (korrekt(x, y, dx, dy) && psfig_[x + dx][y + dy] == fuchs && aufGitter(x - dx, y - dy) &&
-                psfig_[x - dx][y - dy] == leer)
+            if (korrekt(x, y, dx, dy) && psfig[x + dx][y + dy] == fuchs && aufGitter(x - dx, y - dy) &&
+                psfig[x - dx][y - dy] == leer)
                 return true;
     return false;
 }
 
-void Hennenspieler::hstatusScan(int k) {
-    const int m = tisch_.erinnern(psfig_, henne);
-    int s3 = 0;
-    for (int x = 0; x <= 6; ++x)
-        for (int y = 0; y <= 6; ++y)
-            if (psfig_[x][y] == leer && hzugmoglich(x, y) && !hbedroht(x, y)) s3 += hennenfeldwert[x][y];
-    hstatus_[k].lage = wrap16(kLernfaktor * m + hennenwert(psfig_));
-    hstatus_[k].raum = wrap16(kLernfaktor * m + s3);
-}
+// Row 0 is the position as it stands; rows 1.. the hen moves, each after the predicted fox reply.
+struct Kandidaten {
+    std::array<Teilzug, kHennenzuege + 1> hzuege{};
+    std::array<Hstatus, kHennenzuege + 1> hstatus{};
+    int n = 1;
+};
 
-bool Hennenspieler::hzugauswahl(int n) {
-    // Stage 1: keep at least the present position's worth.
-    Hoechstwert lage{hstatus_[0].lage};
-    for (int j = 1; j < n; ++j)
-        lage.pruefe(hstatus_[j].lage, j);
+// The row to play: the best position, then the most safe room among the tied rows (or among all rows
+// when none beats the present position), then chance. Row 0: no move.
+int hzugauswahl(const Kandidaten& k, Zufall& zufall) {
+    const auto& hstatus = k.hstatus;
+    Hoechstwert lage{hstatus[0].lage};
+    for (int j = 1; j < k.n; ++j)
+        lage.pruefe(hstatus[j].lage, j);
     int w = lage.zeile;
-    // Stages 2 and 3: the most safe room, among the tied rows or, failing those, among all rows.
     if (lage.anzahl != 1) {
         const bool unterGleichen = lage.anzahl > 1;
-        auto zaehlt = [&](int j) { return !unterGleichen || hstatus_[j].lage == lage.wert; };
+        auto zaehlt = [&](int j) { return !unterGleichen || hstatus[j].lage == lage.wert; };
         Hoechstwert raum{0};
-        for (int j = 1; j < n; ++j)
-            if (zaehlt(j)) raum.pruefe(hstatus_[j].raum, j);
+        for (int j = 1; j < k.n; ++j)
+            if (zaehlt(j)) raum.pruefe(hstatus[j].raum, j);
         if (raum.anzahl > 0) w = raum.zeile;
         if (raum.anzahl > 1) {
-            const int r = tisch_.ziehe(raum.anzahl);
-            for (int j = 1, gezaehlt = 0; j < n; ++j)
-                if (zaehlt(j) && hstatus_[j].raum == raum.wert && ++gezaehlt == r) {
+            const int r = zufall.ziehe(raum.anzahl);
+            for (int j = 1, gezaehlt = 0; j < k.n; ++j)
+                if (zaehlt(j) && hstatus[j].raum == raum.wert && ++gezaehlt == r) {
                     w = j;
                     break;
                 }
         }
     }
-    Stellung& s = tisch_.spielstellung();
-    s.vonX = hzuege_[w][0];
-    s.vonY = hzuege_[w][1];
-    s.nachX = hzuege_[w][2];
-    s.nachY = hzuege_[w][3];
-    return w != 0;
+    return w;
 }
 
-void Hennenspieler::berechneHennen() {
-    tisch_.hinweis(Hinweis::h_zug, true);
-    strafregel(tisch_);
+} // namespace
 
-    psTopsfig();
-    hstatusScan(0);
-    const Brettfeld& Feld = tisch_.spielstellung().Feld;
-    int k = 1;
+Hstatus hstatusScan(const Brettfeld& psfig, const Erinnerung& erinnerung) {
+    const int m = erinnerung(psfig, henne);
+    int s3 = 0;
+    for (int x = 0; x <= 6; ++x)
+        for (int y = 0; y <= 6; ++y)
+            if (psfig[x][y] == leer && hzugmoglich(psfig, x, y) && !hbedroht(psfig, x, y))
+                s3 += hennenfeldwert[x][y];
+    return {wrap16(kLernfaktor * m + hennenwert(psfig)), wrap16(kLernfaktor * m + s3)};
+}
+
+Zugwahl berechneHennen(const Brettfeld& Feld, const Erinnerung& erinnerung, Zufall& zufall) {
+    Kandidaten k;
+    k.hstatus[0] = hstatusScan(Feld, erinnerung);
     for (int x = 0; x <= 6; ++x)
         for (int y = 0; y <= 6; ++y)
             for (int dx = -1; dx <= 1; ++dx)
                 for (int dy = -1; dy <= 0; ++dy)
-                    if (k <= kHennenzuege && korrekt(x, y, dx, dy) && Feld[x + dx][y + dy] == leer &&
+                    if (k.n <= kHennenzuege && korrekt(x, y, dx, dy) && Feld[x + dx][y + dy] == leer &&
                         Feld[x][y] == henne) {
-                        psTopsfig();
-                        psfig_[x][y] = leer;
-                        psfig_[x + dx][y + dy] = henne;
-                        fuchs_.berechneFuchs(true, psfig_);
-                        hstatusScan(k);
-                        hzuege_[k] = {static_cast<int16_t>(x), static_cast<int16_t>(y),
-                                      static_cast<int16_t>(x + dx), static_cast<int16_t>(y + dy)};
-                        ++k;
+                        Brettfeld psfig = Feld;
+                        psfig[x][y] = leer;
+                        psfig[x + dx][y + dy] = henne;
+                        fuchsVorhersage(psfig, zufall);
+                        k.hstatus[k.n] = hstatusScan(psfig, erinnerung);
+                        k.hzuege[k.n] = {static_cast<int16_t>(x), static_cast<int16_t>(y),
+                                         static_cast<int16_t>(x + dx), static_cast<int16_t>(y + dy)};
+                        ++k.n;
                     }
-    if (hzugauswahl(k)) tisch_.zug(true);
-    tisch_.hinweis(Hinweis::h_zug, false);
+    Zugwahl wahl;
+    if (const int w = hzugauswahl(k, zufall); w != 0) wahl.anhaengen(k.hzuege[static_cast<std::size_t>(w)]);
+    return wahl;
 }
 
 } // namespace fuh

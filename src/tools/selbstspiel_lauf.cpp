@@ -18,14 +18,15 @@ struct Kandidat {
 std::vector<Kandidat> kandidaten(const Spiel& spiel) {
     std::vector<Kandidat> liste;
     const Stellung& s = spiel.stellung();
-    const int PC = spiel.oeffentlich().einst.PC;
+    const Computer PC = spiel.oeffentlich().einst.computer();
     for (int k = 0; k < kFiguren; ++k) {
         const int von = s.figurplatz[k];
         if (von == 0) continue;
         for (int t = 0; t < kFelder; ++t)
-            if (korrekterZug(s, PC, feldX(von), feldY(von), feldX(t), feldY(t))) liste.push_back({k, t});
+            if (korrekterZug(s.Feld, PC, spiel.sprungfolge(), feldX(von), feldY(von), feldX(t), feldY(t)))
+                liste.push_back({k, t});
     }
-    if (s.imSprung) liste.push_back({0, -1});
+    if (spiel.sprungfolge().imSprung) liste.push_back({0, -1});
     return liste;
 }
 
@@ -62,7 +63,7 @@ Summe selbstspiel(const Optionen& o, uint32_t seed, const std::filesystem::path&
         spiel.Neu_Click();
         bool beendet = spiel.endeGefunden();
         if (!beendet && o.pc != 2) beendet = menschSpielt(spiel, zufall);
-        const int16_t ergebnis = beendet ? spiel.letztesErgebnis() : int16_t{0};
+        const int ergebnis = beendet ? static_cast<int>(spiel.letztesErgebnis()) : 0;
         if (o.protokoll) aus << "ende " << ergebnis << ' ' << spiel.spielzug() << '\n';
         ++summe.spiele;
         ++summe.nachErgebnis[ergebnis >= 0 && ergebnis <= 3 ? ergebnis : 0];

@@ -24,31 +24,30 @@ TEST(Regeln, KorrektPrueftVektorGitterUndDiagonalen) {
 // Hens never move down and only along drawn lines; foxes step or jump straight; an open jump sequence
 // allows only further jumps of the same fox.
 TEST(Regeln, ZuegeAnDenKanten) {
+    const Sprungfolge keine;
     Stellung s = leeresKreuz();
     s.Feld[3][3] = henne;
     std::vector<std::pair<int, int>> ziele;
     for (int x = 0; x <= 6; ++x)
         for (int y = 0; y <= 6; ++y)
-            if (korrekterZug(s, 0, 3, 3, x, y)) ziele.emplace_back(x, y);
+            if (korrekterZug(s.Feld, Computer::fuchs, keine, 3, 3, x, y)) ziele.emplace_back(x, y);
     EXPECT_EQ(ziele, (std::vector<std::pair<int, int>>{{2, 2}, {2, 3}, {3, 2}, {4, 2}, {4, 3}}));
-    EXPECT_FALSE(korrekterZug(s, 1, 3, 3, 3, 2)); // the computer plays the hens
+    EXPECT_FALSE(korrekterZug(s.Feld, Computer::hennen, keine, 3, 3, 3, 2)); // the computer plays the hens
 
     Stellung t = leeresKreuz();
     t.Feld[3][2] = fuchs; // x + y odd: no diagonals
     t.Feld[4][3] = henne;
     t.Feld[2][2] = henne;
-    EXPECT_FALSE(korrekterZug(t, 1, 3, 2, 5, 4));
-    EXPECT_TRUE(korrekterZug(t, 1, 3, 2, 1, 2));  // straight jump
-    EXPECT_FALSE(korrekterZug(t, 1, 3, 2, 2, 2)); // occupied
-    EXPECT_FALSE(korrekterZug(t, 0, 3, 2, 1, 2)); // the computer plays the foxes
+    EXPECT_FALSE(korrekterZug(t.Feld, Computer::hennen, keine, 3, 2, 5, 4));
+    EXPECT_TRUE(korrekterZug(t.Feld, Computer::hennen, keine, 3, 2, 1, 2));  // straight jump
+    EXPECT_FALSE(korrekterZug(t.Feld, Computer::hennen, keine, 3, 2, 2, 2)); // occupied
+    EXPECT_FALSE(korrekterZug(t.Feld, Computer::fuchs, keine, 3, 2, 1, 2));  // the computer plays the foxes
 
     t.Feld[5][2] = fuchs;
-    t.imSprung = true;
-    t.sprungX = 3;
-    t.sprungY = 2;
-    EXPECT_FALSE(korrekterZug(t, 1, 3, 2, 3, 1)); // no step after a jump
-    EXPECT_FALSE(korrekterZug(t, 1, 5, 2, 5, 3)); // nor a move of the other fox
-    EXPECT_TRUE(korrekterZug(t, 1, 3, 2, 1, 2));
+    const Sprungfolge offen{true, 3, 2};
+    EXPECT_FALSE(korrekterZug(t.Feld, Computer::hennen, offen, 3, 2, 3, 1)); // no step after a jump
+    EXPECT_FALSE(korrekterZug(t.Feld, Computer::hennen, offen, 5, 2, 5, 3)); // nor a move of the other fox
+    EXPECT_TRUE(korrekterZug(t.Feld, Computer::hennen, offen, 3, 2, 1, 2));
 }
 
 } // namespace

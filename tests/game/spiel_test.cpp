@@ -11,7 +11,7 @@ TEST_F(SpielTest, EinzelzugmodusFordertKeineAntwort) {
     spiel.Form_Load(1);
     spiel.Neu_Click();
     ziehe(24, 17);
-    EXPECT_EQ(spiel.pcZug(), 0);
+    EXPECT_EQ(spiel.pcZug(), Anforderung::keine);
     ziehe(22, 15); // another hen of the human's side
     EXPECT_EQ(spiel.spielzug(), 2);
 }

@@ -42,7 +42,8 @@ TEST_F(SpielTest, ZugbegrenzungIstRemisOhneMeldung) {
             ziehe(2, 1, 2, 2);
     }
     EXPECT_EQ(spiel.spielzug(), 149);
-    EXPECT_EQ(spiel.ergebnis(), 3);
+    EXPECT_EQ(spiel.ergebnis(), Ergebnis::remis);
+    EXPECT_EQ(ansicht.zugbegrenzungen, 1);
     EXPECT_TRUE(ansicht.meldungen.empty()) << ansicht.meldungen.front();
     EXPECT_FALSE(spiel.oeffentlich().sw_spielende);
     EXPECT_EQ(spiel.oeffentlich().u_is_sieger, "    ");

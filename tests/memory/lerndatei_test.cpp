@@ -19,7 +19,7 @@ struct LerndateiTest : ::testing::Test {
 
     void SetUp() override { s.grundstellung(); }
     void nehmeAuf(int16_t fw, int16_t hw) {
-        partie.pstoSits(s);
+        partie.pstoSits(s.Feld, {});
         partie.sits[partie.spielzug - 1].fuchswert = fw;
         partie.sits[partie.spielzug - 1].hennenwert = hw;
     }

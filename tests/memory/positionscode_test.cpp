@@ -18,7 +18,7 @@ TEST(Partie, SchreibtNieUeberDenLetztenSatz) {
     s.grundstellung();
     Partie p;
     for (int i = 0; i < 200; ++i)
-        p.pstoSits(s);
+        p.pstoSits(s.Feld, {});
     EXPECT_EQ(p.spielzug, kSituationen);
     p.sanktion(1, 1, 1);
     p.sanktion(1, 1, 0);

@@ -1,32 +1,55 @@
-#include <gtest/gtest.h>
-
 #include "player/strafregel.h"
-#include "test_tisch.h"
+
+#include "spieler_fixture.h"
 
 namespace fuh {
 namespace {
 
-TEST(Strafregel, BeideKonntenSpringenDerHoeherStehendeGeht) {
-    // Both foxes had a jump before fox 0 stepped; the fox standing higher now is removed, the first
-    // one on equal rows. Foxes are matched by their place in the scan order.
+using Strafregeltest = test::SpielerTest;
+
+// Records the present board as the position after a move.
+void aufzeichnen(Partie& partie, const Brettfeld& Feld, Teilzug zug = {0, 0, 1, 1}) {
+    partie.pstoSits(Feld, zug);
+}
+
+TEST_F(Strafregeltest, BeideKonntenSpringenDerHoeherStehendeGeht) {
+    // Both foxes had a jump before fox 0 stepped from (2, 2); the fox standing higher now is parked,
+    // the first one on equal rows. Foxes are matched by their place in the scan order.
     struct Fall {
-        int fuchs1Y;      // fox 1 on (4, y) with a hen below it
-        int nachX, nachY; // fox 0 steps from (2, 2) to here
-        int entfernt;     // piece that is parked
+        int fuchs1Y;      // the other fox on (4, y) with a hen below it
+        int nachX, nachY; // the fox on (2, 2) steps to here
+        Teilzug geparkt;
     };
-    for (const Fall f : {Fall{4, 1, 2, 0}, Fall{2, 1, 3, 1}, Fall{2, 1, 2, 0}}) {
-        test::TestTisch t;
-        t.aufstellen({{0, 2, 2}, {2, 2, 3}, {1, 4, f.fuchs1Y}, {3, 4, 3}});
-        t.aufzeichnen();
-        t.s.vonX = 2, t.s.vonY = 2;
-        t.s.nachX = static_cast<int16_t>(f.nachX), t.s.nachY = static_cast<int16_t>(f.nachY);
-        t.zug(true);
-        t.partie.pstoSits(t.s);
-        strafregel(t);
-        EXPECT_EQ(t.s.figurplatz[f.entfernt], 0) << f.fuchs1Y << f.nachY;
-        EXPECT_NE(t.s.figurplatz[1 - f.entfernt], 0);
-        EXPECT_EQ(t.s.Feld[0][0], fuchs);
+    for (const Fall f :
+         {Fall{4, 1, 2, {1, 2, 0, 0}}, Fall{2, 1, 3, {4, 2, 0, 0}}, Fall{2, 1, 2, {1, 2, 0, 0}}}) {
+        Partie p;
+        aufstellen({{fuchs, 2, 2}, {henne, 2, 3}, {fuchs, 4, f.fuchs1Y}, {henne, 4, f.fuchs1Y + 1}});
+        aufzeichnen(p, s.Feld);
+        s.Feld[2][2] = leer;
+        s.Feld[f.nachX][f.nachY] = fuchs;
+        aufzeichnen(p, s.Feld, {2, 2, static_cast<int16_t>(f.nachX), static_cast<int16_t>(f.nachY)});
+        const Strafe strafe = strafregel(s.Feld, p, 0);
+        EXPECT_EQ(strafe.art, Strafe::Art::parken);
+        EXPECT_EQ(strafe.zug, f.geparkt) << f.fuchs1Y << f.nachY;
+        EXPECT_EQ(strafregel(s.Feld, p, 1).art, Strafe::Art::keine); // single-move mode
     }
+}
+
+TEST_F(Strafregeltest, LetzterFuchsUndRueckkehr) {
+    // One fox already parked; the other steps away from a jump: the game must end drawn.
+    Partie p;
+    aufstellen({{fuchs, 0, 0}, {fuchs, 3, 2}, {henne, 3, 3}});
+    aufzeichnen(p, s.Feld);
+    s.Feld[3][2] = leer;
+    s.Feld[2][2] = fuchs;
+    aufzeichnen(p, s.Feld, {3, 2, 2, 2});
+    EXPECT_EQ(strafregel(s.Feld, p, 0).art, Strafe::Art::letzterFuchs);
+
+    // After a fox jump the parked fox returns to the first empty square of rows 2..6, column 0 first.
+    aufzeichnen(p, s.Feld, {2, 2, 4, 4});
+    const Strafe zurueck = strafregel(s.Feld, p, 0);
+    EXPECT_EQ(zurueck.art, Strafe::Art::einsetzen);
+    EXPECT_EQ(zurueck.zug, (Teilzug{0, 0, 0, 2}));
 }
 
 } // namespace

@@ -15,7 +15,18 @@ constexpr bool korrekt(int x, int y, int a, int b) {
            (a == 0 || b == 0 || geradeZahl(x) == geradeZahl(y));
 }
 
+// Which side the computer plays (the setting PC). Read from a file, so it may hold any other value too,
+// which then matches none of these.
+enum class Computer : int16_t { fuchs = 0, hennen = 1, beide = 2 };
+
+// A human fox's open jump sequence: after a jump only that fox may jump on, until the right button.
+struct Sprungfolge {
+    bool imSprung = false;
+    int16_t sprungX = 0, sprungY = 0;
+};
+
 // True when the human may move the piece on (x, y) to (x1, y1) now. `PC` is the side the computer plays.
-bool korrekterZug(const Stellung& s, int PC, int x, int y, int x1, int y1);
+bool korrekterZug(const Brettfeld& Feld, Computer PC, const Sprungfolge& sprung, int x, int y, int x1,
+                  int y1);
 
 } // namespace fuh

@@ -1,5 +1,5 @@
 #pragma once
-// The position: board codes, the board array, where each piece stands, and the move register.
+// The position: board codes, the board array and where each piece stands. A plain value.
 #include <array>
 #include <cstdint>
 #include <optional>
@@ -39,13 +39,11 @@ constexpr bool aufKreuz(int x, int y) {
 
 struct Stellung {
     Brettfeld Feld{};
-    std::array<int16_t, kFiguren + 1> figurplatz{}; // element 22 is never used
-    int16_t vonX = 0, vonY = 0, nachX = 0, nachY = 0;
-    bool imSprung = false;
-    int16_t sprungX = 0, sprungY = 0;
+    std::array<int16_t, kFiguren + 1> figurplatz{}; // element 22 is never used; 0 for a piece off the board
 
-    // Starting position: foxes on (2, 2) and (4, 2), hens on rows 3 to 6. Leaves sprungX/Y alone.
+    // Starting position: foxes on (2, 2) and (4, 2), hens on rows 3 to 6.
     void grundstellung();
+    friend bool operator==(const Stellung&, const Stellung&) = default;
 };
 
 // The first piece whose square is `wert`; foxes come first, so square 0 yields a parked fox.

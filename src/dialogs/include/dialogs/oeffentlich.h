@@ -3,6 +3,8 @@
 #include <cstdint>
 #include <string>
 
+#include "board/regeln.h"
+
 namespace fuh {
 
 // The four settings; kept as read from the settings file, so any value must be handled safely.
@@ -11,6 +13,8 @@ struct Einstellungen {
     int16_t Staerke = 0;   // 0, 1, 2 for strength 1, 2, 3
     int16_t Lernmodus = 0; // 1 learning mode
     int16_t Einzelzug = 0; // 1 single-move mode
+
+    Computer computer() const { return static_cast<Computer>(PC); }
 };
 
 struct Oeffentlich {

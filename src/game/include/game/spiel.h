@@ -7,21 +7,28 @@
 #include <string>
 #include <vector>
 
-#include "board/ansicht.h"
 #include "board/bildlage.h"
+#include "board/regeln.h"
 #include "board/stellung.h"
+#include "board/teilzug.h"
 #include "board/zufall.h"
-#include "board/zug.h"
 #include "dialogs/oeffentlich.h"
+#include "game/ansicht.h"
 #include "memory/lerndatei.h"
 #include "memory/partie.h"
-#include "player/fuchsspieler.h"
-#include "player/hennenspieler.h"
-#include "player/spieltisch.h"
+#include "player/erinnerung.h"
+#include "player/strafregel.h"
+#include "player/zugwahl.h"
 
 namespace fuh {
 
-class Spiel : private Spieltisch, private Gutschrift {
+// The computer move the timer is to make next (pcZug).
+enum class Anforderung : int16_t { keine = 0, hennen = 1, fuchs = 2 };
+
+// How the game ended (ergebnis); `offen` while it runs.
+enum class Ergebnis : int16_t { offen = 0, hennen = 1, fuchs = 2, remis = 3 };
+
+class Spiel {
   public:
     // `ordner` is where the data files live; `zufall` is the game's one random source.
     Spiel(Ansicht& ansicht, Zufall& zufall, std::filesystem::path ordner);
@@ -42,28 +49,32 @@ class Spiel : private Spieltisch, private Gutschrift {
     bool selbstspielZug();
     bool selbstspielLaeuft() const { return selbstspielLaeuft_; }
 
+    // The move the computer would make now for the human's side, without making it; its own random
+    // source, so asking never changes the game. Empty when there is nothing to advise (see tippMoeglich).
+    Zugwahl tipp();
+    bool tippMoeglich() const;
+
     // The settings dialog confirmed: the settings take effect at once (no new game).
     void einstellungenUebernehmen(const Einstellungen& e);
+    // Headless drivers play with fixed settings: the settings file is then neither read nor written.
+    void einstellungenFestlegen(const Einstellungen& e);
 
     // What the window shows and the other windows read.
     const Stellung& stellung() const { return stellung_; }
+    const Sprungfolge& sprungfolge() const { return sprungfolge_; }
     const Figurbilder& bilder() const { return bilder_; }
     bool ziehbar() const { return bilder_.ziehbar; }
     Oeffentlich& oeffentlich() { return oeff_; }
     const Oeffentlich& oeffentlich() const { return oeff_; }
     const std::filesystem::path& ordner() const { return ordner_; }
-    int16_t pcZug() const { return pcZug_; }
-    int16_t ergebnis() const { return ergebnis_; }
+    Anforderung pcZug() const { return pcZug_; }
+    Ergebnis ergebnis() const { return ergebnis_; }
     int16_t spielzug() const { return partie_.spielzug; }
     const Partie& partie() const { return partie_; }
     int16_t neueZuege() const { return neueZuege_; }
-
-    // Headless drivers play with fixed settings: the settings file is then neither read nor written.
-    void einstellungenFestlegen(const Einstellungen& e);
-
     // An end was announced in the current game, and the last result an end-of-move check found.
     bool endeGefunden() const { return endeGefunden_; }
-    int16_t letztesErgebnis() const { return letztesErgebnis_; }
+    Ergebnis letztesErgebnis() const { return letztesErgebnis_; }
 
   private:
     // Start-up and new game.
@@ -71,48 +82,42 @@ class Spiel : private Spieltisch, private Gutschrift {
     void sperren(bool ziehbar);
     void statusTexte();
     void spielBeginnen();
+
+    // The turn driver: a computer side chooses, the game carries the choice out.
     bool hennenZiehen();  // the computer hens' move and its end-of-move check; true at an end
     bool fuechseZiehen(); // the same for the computer foxes
+    void strafeAnwenden(const Strafe& strafe);
+    void zug(bool normal);
+    Erinnerung erinnerung() const { return {lerndatei_, oeff_.einst.Staerke, partie_}; }
 
     // End of a move, end of a game, and filing.
-    bool endecheck(int16_t figur) override;
+    bool endecheck(int16_t figur);
     void spielende(int16_t figur);
     std::optional<int16_t> punkte();
     void beende();
     // One message names every file that could not be saved at this moment.
     void meldeSchreibfehler(const std::vector<std::string>& dateien);
 
-    // What the players and the move executor need of the game.
-    Stellung& spielstellung() override { return stellung_; }
-    const Partie& partieDaten() const override { return partie_; }
-    int16_t erinnern(const Brettfeld& feld, int16_t figur) override;
-    int ziehe(int n) override { return zufall_.ziehe(n); }
-    void zug(bool normal) override;
-    void meldung(const std::string& text) override { ansicht_.meldung(text); }
-    void hinweis(Hinweis h, bool sichtbar) override { ansicht_.hinweis(h, sichtbar); }
-    int16_t einzelzug() const override { return oeff_.einst.Einzelzug; }
-    void letzterFuchsAusgeschlossen() override { oeff_.fuchs_null = true; }
-    void sanktion(int16_t H, int16_t F, int16_t q) override { partie_.sanktion(H, F, q); }
-
     Ansicht& ansicht_;
     Zufall& zufall_;
+    Zufall tippZufall_;
     std::filesystem::path ordner_;
     Stellung stellung_;
+    Teilzug zugregister_;     // vonX, vonY, nachX, nachY: the move being made
+    Sprungfolge sprungfolge_; // a human fox's open jump sequence
     Figurbilder bilder_;
     Partie partie_;
     Lerndatei lerndatei_;
     Oeffentlich oeff_;
-    Fuchsspieler fuchsspieler_;
-    Hennenspieler hennenspieler_;
-    int16_t pcZug_ = 0;
-    int16_t ergebnis_ = 0;
+    Anforderung pcZug_ = Anforderung::keine;
+    Ergebnis ergebnis_ = Ergebnis::offen;
     int16_t neueZuege_ = 0;
     std::optional<Einstellungen> festeEinstellungen_;
     bool endeGefunden_ = false;
+    Ergebnis letztesErgebnis_ = Ergebnis::offen;
     bool schrittweise_ = false;
     bool selbstspielLaeuft_ = false;
     bool hennenAmZug_ = true;
-    int16_t letztesErgebnis_ = 0;
 };
 
 } // namespace fuh

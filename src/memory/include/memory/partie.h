@@ -4,6 +4,7 @@
 #include <cstdint>
 
 #include "board/stellung.h"
+#include "board/teilzug.h"
 #include "memory/positionscode.h"
 
 namespace fuh {
@@ -23,7 +24,7 @@ struct Partie {
     int16_t spielzug = 0; // positions recorded so far; the index of the next free record
 
     // Records the position after the move in the register; never writes past the last record.
-    void pstoSits(const Stellung& s);
+    void pstoSits(const Brettfeld& Feld, const Teilzug& zug);
     // Adds H to the hen values and F to the fox values: q = 1 every record, otherwise the last five
     // (record 0 excepted). Sums stop at the 16-bit limits.
     void sanktion(int16_t H, int16_t F, int16_t q);

@@ -1,38 +1,18 @@
 #pragma once
 // The computer fox: jumps first, then approach moves guided by spreading potentials, then plain moves.
-#include <array>
-#include <cstdint>
-
-#include "player/spieltisch.h"
+#include "board/stellung.h"
+#include "board/zufall.h"
+#include "player/erinnerung.h"
+#include "player/zugwahl.h"
 
 namespace fuh {
 
-class Fuchsspieler {
-  public:
-    explicit Fuchsspieler(Spieltisch& tisch) : tisch_(tisch) {}
+// The foxes' move on `Feld`: the best jump and, as long as the same fox can jump on, the chain after it;
+// else an approach move; else a plain move. Every candidate worth at least 1 is first corrected by the
+// learned value of the position it leads to. Ties are broken by `zufall`. No move: an empty choice.
+Zugwahl berechneFuchs(const Brettfeld& Feld, const Erinnerung& erinnerung, Zufall& zufall);
 
-    // Chooses the foxes' move on `Feld` and plays it: on the real board through zug, or in a
-    // prediction (`fiktiv`) directly on the working board passed as `Feld`.
-    void berechneFuchs(bool fiktiv, Brettfeld& Feld);
-
-  private:
-    void scanfuchs(const Brettfeld& Feld);
-    void initzugwert() { zugwert_.fill(0); }
-    void scan(int x, int y, const Brettfeld& Feld, int i);
-    int scanpots(int stufe, const Brettfeld& Feld);
-    bool zugDa(int x, int y, int i);
-    void zugLeer(int x, int y, int i, const Brettfeld& Feld);
-    bool zugAuswahl(bool fiktiv);
-    Brettfeld trans() const;
-    void psffigzug(int i);
-    void eintrag(int i, int wert, int x, int y, int nx, int ny);
-    void spiele(bool fiktiv, Brettfeld& Feld);
-
-    Spieltisch& tisch_;
-    // Candidate list: 16 entries of value, from x, from y, to x, to y; 0..7 the first fox, 8..15 the second.
-    std::array<int16_t, 81> zugwert_{};
-    std::array<int16_t, 4> fuchspos_{};
-    Brettfeld pots_{};
-};
+// The foxes' reply as the hen player predicts it: the same choice without learned values, played on `Feld`.
+void fuchsVorhersage(Brettfeld& Feld, Zufall& zufall);
 
 } // namespace fuh

@@ -1,15 +1,10 @@
 #pragma once
 // What a computer player returns: the move it chose, which the game then carries out.
 #include <array>
-#include <cstdint>
+
+#include "board/teilzug.h"
 
 namespace fuh {
-
-// One step or one jump, as the move register holds it.
-struct Teilzug {
-    int16_t vonX = 0, vonY = 0, nachX = 0, nachY = 0;
-    friend bool operator==(const Teilzug&, const Teilzug&) = default;
-};
 
 // A hen step, a fox step, or a fox's chain of jumps (each jump from where the one before landed).
 // No moves at all: the side to move found none.

@@ -2,8 +2,8 @@
 // A view without a window: it writes the game's events to a log.
 #include <ostream>
 
-#include "board/ansicht.h"
 #include "dialogs/oeffentlich.h"
+#include "game/ansicht.h"
 
 namespace fuh {
 

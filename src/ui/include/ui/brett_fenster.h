@@ -10,9 +10,9 @@
 #include <memory>
 #include <vector>
 
-#include "board/ansicht.h"
 #include "board/zufall.h"
 #include "dialogs/bestenliste.h"
+#include "game/ansicht.h"
 
 class QApplication;
 class QLabel;

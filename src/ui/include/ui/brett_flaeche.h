@@ -6,8 +6,8 @@
 #include <array>
 #include <functional>
 
-#include "board/ansicht.h"
 #include "board/stellung.h"
+#include "game/ansicht.h"
 #include "ui/svg_bild.h"
 
 namespace fuh {

@@ -4,7 +4,7 @@
 #include <filesystem>
 #include <functional>
 
-#include "board/ansicht.h"
+#include "game/ansicht.h"
 
 #include "dialogs/oeffentlich.h"
 

@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "board/zug.h"
+#include "game/zug.h"
 #include "test_ansicht.h"
 
 namespace fuh {

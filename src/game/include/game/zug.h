@@ -1,30 +1,27 @@
 #pragma once
 // The one procedure that changes the real board.
-#include <cstdint>
-
-#include "board/ansicht.h"
 #include "board/bildlage.h"
+#include "board/regeln.h"
 #include "board/stellung.h"
+#include "board/teilzug.h"
+#include "game/ansicht.h"
+#include "memory/partie.h"
 
 namespace fuh {
 
-// Receives the learning credits that moves earn (hen value H, fox value F, range q).
-class Gutschrift {
-  public:
-    virtual ~Gutschrift() = default;
-    virtual void sanktion(int16_t H, int16_t F, int16_t q) = 0;
-};
-
+// What a move changes: the position, the open jump sequence, the images, and the credits it earns.
 struct Zugumgebung {
     Stellung& stellung;
+    const Teilzug& zugregister;
+    Sprungfolge& sprungfolge;
     Figurbilder& bilder;
     Ansicht& ansicht;
-    Gutschrift& gutschrift;
+    Partie& partie;
 };
 
 // Executes the move in the move register. `normal` false: a penalty move, without jump handling.
 // `PC` decides which side's pieces slide (the computer's) and which snap (the human's).
-void zug(Zugumgebung& u, int PC, bool normal);
+void zug(Zugumgebung& u, Computer PC, bool normal);
 
 // One slide in 100 equal steps, each reported to the view; ends where the rounding puts it.
 void gleiten(Figurbilder& bilder, Ansicht& ansicht, int k, int zielLeft, int zielTop);

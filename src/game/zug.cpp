@@ -1,4 +1,4 @@
-#include "board/zug.h"
+#include "game/zug.h"
 
 #include <cstdlib>
 
@@ -24,17 +24,19 @@ void gleiten(Figurbilder& bilder, Ansicht& ansicht, int k, int zielLeft, int zie
     }
 }
 
-void zug(Zugumgebung& u, int PC, bool normal) {
+void zug(Zugumgebung& u, Computer PC, bool normal) {
     Stellung& s = u.stellung;
+    const Teilzug& r = u.zugregister;
     auto& Feld = s.Feld;
-    if (!aufGitter(s.vonX, s.vonY) || !aufGitter(s.nachX, s.nachY)) return;
-    const int von = feldNummer(s.vonX, s.vonY);
+    if (!aufGitter(r.vonX, r.vonY) || !aufGitter(r.nachX, r.nachY)) return;
+    const int von = feldNummer(r.vonX, r.vonY);
     const int k = figur_index(s, von).value_or(0);
-    const int t = feldNummer(s.nachX, s.nachY);
+    const int t = feldNummer(r.nachX, r.nachY);
 
     // The human's own pieces snap into place; the computer's slide.
-    const int16_t figur = Feld[s.vonX][s.vonY];
-    const bool sofort = (figur == fuchs && PC == 1) || (figur == henne && PC == 0);
+    const int16_t figur = Feld[r.vonX][r.vonY];
+    const bool sofort =
+        (figur == fuchs && PC == Computer::hennen) || (figur == henne && PC == Computer::fuchs);
     if (sofort) {
         u.bilder.left[k] = platzLeft(t);
         u.bilder.top[k] = platzTop(t);
@@ -43,34 +45,32 @@ void zug(Zugumgebung& u, int PC, bool normal) {
         gleiten(u.bilder, u.ansicht, k, platzLeft(t), platzTop(t));
     }
     s.figurplatz[k] = static_cast<int16_t>(t);
-    Feld[s.nachX][s.nachY] = figur;
-    Feld[s.vonX][s.vonY] = leer;
-    u.ansicht.zugAusgefuehrt(s.vonX, s.vonY, s.nachX, s.nachY, normal);
+    Feld[r.nachX][r.nachY] = figur;
+    Feld[r.vonX][r.vonY] = leer;
+    u.ansicht.zugAusgefuehrt(r.vonX, r.vonY, r.nachX, r.nachY, normal);
 
-    if (figur == henne && imZielfeld(s.nachX, s.nachY)) u.gutschrift.sanktion(1, -1, 0);
+    if (figur == henne && imZielfeld(r.nachX, r.nachY)) u.partie.sanktion(1, -1, 0);
     if (!normal) return;
 
-    const int dx = s.nachX - s.vonX;
-    const int dy = s.nachY - s.vonY;
+    const int dx = r.nachX - r.vonX;
+    const int dy = r.nachY - r.vonY;
     if (std::abs(dx) != 2 && std::abs(dy) != 2) {
-        s.imSprung = false;
+        u.sprungfolge.imSprung = false;
         return;
     }
-    if (PC == 1) {
-        s.imSprung = true;
-        s.sprungX = s.nachX;
-        s.sprungY = s.nachY;
+    if (PC == Computer::hennen) {
+        u.sprungfolge = {true, r.nachX, r.nachY};
         u.ansicht.hinweis(Hinweis::spr_msg, true);
     }
-    const int mx = s.vonX + dx / 2;
-    const int my = s.vonY + dy / 2;
+    const int mx = r.vonX + dx / 2;
+    const int my = r.vonY + dy / 2;
     Feld[mx][my] = leer;
     if (const auto h = figur_index(s, feldNummer(mx, my))) {
         u.bilder.sichtbar[*h] = false;
         u.ansicht.figurSichtbar(*h, false);
         s.figurplatz[*h] = 0;
     }
-    u.gutschrift.sanktion(-1, 1, 0);
+    u.partie.sanktion(-1, 1, 0);
 }
 
 } // namespace fuh

@@ -1,0 +1,31 @@
+// A hint: what the computer would play now for the human's side.
+#include <system_error>
+
+#include "game/spiel.h"
+#include "memory/satzdatei.h"
+#include "player/fuchsspieler.h"
+#include "player/hennenspieler.h"
+
+namespace fuh {
+
+bool Spiel::tippMoeglich() const {
+    const Computer PC = oeff_.einst.computer();
+    return bilder_.ziehbar && (PC == Computer::fuchs || PC == Computer::hennen) &&
+           pcZug_ == Anforderung::keine && !sprungfolge_.imSprung;
+}
+
+Zugwahl Spiel::tipp() {
+    if (!tippMoeglich()) return {};
+    // A recall creates a missing learned file; a hint must change nothing, and a missing file has
+    // nothing learned, so it then asks as strength 1 does (the repetition guard still counts).
+    int Staerke = oeff_.einst.Staerke;
+    std::error_code fehler;
+    if (Staerke >= 1 && !std::filesystem::exists(datenpfad(ordner_, lerndateiName(Staerke)), fehler))
+        Staerke = 0;
+    const Erinnerung erinnerung{lerndatei_, Staerke, partie_};
+    if (oeff_.einst.computer() == Computer::fuchs)
+        return berechneHennen(stellung_.Feld, erinnerung, tippZufall_);
+    return berechneFuchs(stellung_.Feld, erinnerung, tippZufall_);
+}
+
+} // namespace fuh

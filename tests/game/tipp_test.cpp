@@ -1,0 +1,70 @@
+#include "player/hennenspieler.h"
+#include "spiel_fixture.h"
+
+namespace fuh {
+namespace {
+
+// The human plays the hens against the foxes at strength 3 with learning. In one game the human asks
+// for hints three times before every move and plays the first; the other game makes the same moves
+// without asking. Both games, their messages and every file are the same.
+TEST(Tipp, FragenAendertNichts) {
+    struct Lauf {
+        test::TempOrdner ordner;
+        test::TestAnsicht ansicht;
+        Zufall zufall{99};
+        Spiel spiel{ansicht, zufall, ordner.pfad()};
+        Lauf() {
+            spiel.einstellungenFestlegen({0, 2, 1, 0});
+            spiel.Form_Load(5);
+            spiel.Neu_Click();
+        }
+        void zieh(const Teilzug& z) {
+            spiel.platz_DragDrop(feldNummer(z.nachX, z.nachY),
+                                 *figur_index(spiel.stellung(), feldNummer(z.vonX, z.vonY)));
+            spiel.Timer1_Timer();
+        }
+    };
+    Lauf fragend, still;
+    std::vector<Teilzug> zuege;
+    while (fragend.spiel.tippMoeglich() && zuege.size() < 200) {
+        const Zugwahl t = fragend.spiel.tipp();
+        fragend.spiel.tipp();
+        fragend.spiel.tipp();
+        ASSERT_EQ(t.anzahl, 1);
+        zuege.push_back(t.zuege[0]);
+        fragend.zieh(t.zuege[0]);
+    }
+    ASSERT_TRUE(fragend.spiel.endeGefunden());
+    for (const Teilzug& z : zuege)
+        still.zieh(z);
+    EXPECT_EQ(still.spiel.partie().spielzug, fragend.spiel.partie().spielzug);
+    EXPECT_EQ(still.ansicht.meldungen, fragend.ansicht.meldungen);
+    EXPECT_EQ(still.ordner.namen(), fragend.ordner.namen());
+    for (const std::string& name : still.ordner.namen())
+        EXPECT_EQ(still.ordner.lies(name), fragend.ordner.lies(name)) << name;
+}
+
+// The hint is what the computer hen player chooses in that position, and there is none while the
+// computer is to move, in computer-against-computer play, or before a game runs.
+using test::SpielTest;
+
+TEST_F(SpielTest, TippIstDerZugDesComputers) {
+    ini(0);
+    spiel.Form_Load(17);
+    EXPECT_FALSE(spiel.tippMoeglich());
+    spiel.Neu_Click();
+    Zufall gleich{17};
+    const Zugwahl erwartet = berechneHennen(spiel.stellung().Feld,
+                                            Erinnerung(Lerndatei(ordner.pfad()), 0, spiel.partie()), gleich);
+    EXPECT_EQ(spiel.tipp(), erwartet);
+    ziehe(3, 3, 3, 2);
+    EXPECT_FALSE(spiel.tippMoeglich()); // the fox replies first
+    EXPECT_TRUE(spiel.tipp().keinZug());
+    spiel.Timer1_Timer();
+    EXPECT_TRUE(spiel.tippMoeglich());
+    einstellen(2, 0);
+    EXPECT_FALSE(spiel.tippMoeglich());
+}
+
+} // namespace
+} // namespace fuh
