@@ -22,7 +22,7 @@ void Spiel::strafeAnwenden(const Strafe& strafe) {
 bool Spiel::hennenZiehen() {
     ansicht_.hinweis(Hinweis::h_zug, true);
     strafeAnwenden(strafregel(stellung_.Feld, partie_, oeff_.einst.Einzelzug));
-    const Zugwahl wahl = berechneHennen(stellung_.Feld, erinnerung(), zufall_);
+    const Zugwahl wahl = berechneHennen(stellung_.Feld, erinnerung(spielerwahl_.hennen), zufall_);
     zugregister_ = wahl.keinZug() ? Teilzug{} : *wahl.begin();
     if (!wahl.keinZug()) zug(true);
     ansicht_.hinweis(Hinweis::h_zug, false);
@@ -34,7 +34,7 @@ bool Spiel::fuechseZiehen() {
     // Without a move the target stays (0, 0), which the end-of-move check reads as "no move".
     zugregister_.nachX = 0;
     zugregister_.nachY = 0;
-    for (const Teilzug& sprung : berechneFuchs(stellung_.Feld, erinnerung(), zufall_)) {
+    for (const Teilzug& sprung : berechneFuchs(stellung_.Feld, erinnerung(spielerwahl_.fuchs), zufall_)) {
         zugregister_ = sprung;
         zug(true);
         ansicht_.hinweis(Hinweis::f_zug, false);

@@ -5,6 +5,8 @@
 namespace fuh {
 
 namespace {
+constexpr uint32_t kHoechsteBedenkzeit = 500; // never longer than the window's turn tick
+
 bool nurZiffern(const std::string& s) {
     if (s.empty()) return false;
     for (char c : s)
@@ -21,6 +23,13 @@ std::optional<uint64_t> zahl(const std::string& s, uint32_t hoechstens) {
         if (v > hoechstens) return std::nullopt;
     }
     return v;
+}
+
+// A side's player: strength 1, 2 or 3.
+std::optional<Spieler> spielerWert(const std::string& s) {
+    const auto v = zahl(s, 3);
+    if (!v || *v < 1) return std::nullopt;
+    return Spieler{static_cast<int16_t>(*v - 1), false};
 }
 
 // Any non-negative integer, however long, reduced modulo 2^24.
@@ -45,7 +54,8 @@ std::optional<Optionen> optionenLesen(const std::vector<std::string>& args, std:
             o.protokoll = true;
             continue;
         }
-        if (a != "--spiele" && a != "--pc" && a != "--staerke" && a != "--seed") {
+        if (a != "--spiele" && a != "--pc" && a != "--staerke" && a != "--seed" && a != "--fuchs" &&
+            a != "--hennen" && a != "--bedenkzeit") {
             fehler = "unbekanntes Argument: " + a;
             return std::nullopt;
         }
@@ -67,6 +77,14 @@ std::optional<Optionen> optionenLesen(const std::vector<std::string>& args, std:
             const auto v = zahl(wert, 3);
             gut = v.has_value() && *v >= 1;
             if (gut) o.staerke = static_cast<int>(*v);
+        } else if (a == "--fuchs" || a == "--hennen") {
+            const auto v = spielerWert(wert);
+            gut = v.has_value();
+            (a == "--fuchs" ? o.spieler.fuchs : o.spieler.hennen) = v;
+        } else if (a == "--bedenkzeit") {
+            const auto v = zahl(wert, kHoechsteBedenkzeit);
+            gut = v.has_value() && *v >= 1;
+            if (gut) o.spieler.bedenkzeit = std::chrono::milliseconds(*v);
         } else {
             const auto v = seedWert(wert);
             gut = v.has_value();

@@ -75,6 +75,21 @@ TEST(Selbstspiel, LernlaufSpeichertJedePositionNurEinmal) {
     EXPECT_EQ(sta[30] | (sta[31] << 8), static_cast<int>(b.size() / 15)); // records learned in all
 }
 
+// Each side can play at its own strength; naming the settings' strength for both changes nothing, and a
+// strength-1 fox ignores what strength 3 has learned.
+TEST(Selbstspiel, JedeSeiteMitEigenerStaerke) {
+    auto lauf = [](const std::string& args) {
+        test::TempOrdner ordner;
+        std::ostringstream log;
+        selbstspiel(optionen("--spiele 6 --staerke 3 --lernen --protokoll " + args), 5, ordner.pfad(), log);
+        const auto gelernt = ordner.lies("QZ3.DAT");
+        return log.str() + std::string(gelernt.begin(), gelernt.end());
+    };
+    const std::string gewohnt = lauf("");
+    EXPECT_EQ(lauf("--fuchs 3 --hennen 3"), gewohnt);
+    EXPECT_NE(lauf("--fuchs 1"), gewohnt);
+}
+
 TEST(Selbstspiel, NullSpieleBeruehrenKeineDatei) {
     test::TempOrdner ordner;
     std::ostringstream log;
@@ -89,9 +104,16 @@ TEST(Selbstspiel, Argumente) {
     EXPECT_EQ(o.seed, 1u);
     EXPECT_EQ(o.spiele, 7u);
     EXPECT_EQ(o.staerke, 3);
+    const Optionen seiten = optionen("--fuchs 1 --hennen 3 --bedenkzeit 250");
+    ASSERT_TRUE(seiten.spieler.fuchs && seiten.spieler.hennen);
+    EXPECT_EQ(seiten.spieler.fuchs->Staerke, 0);
+    EXPECT_EQ(seiten.spieler.hennen->Staerke, 2);
+    EXPECT_EQ(seiten.spieler.bedenkzeit.count(), 250);
     EXPECT_EQ(optionen("--seed 99999999999999999999999").seed, 8388607u); // any length, modulo 2^24
-    for (const char* schlecht : {"--pc 3", "--pc -1", "--pc +1", "--staerke 0", "--staerke 4", "--spiele",
-                                 "--spiele x", "--seed -5", "--lernen extra", "--unbekannt", "--pc 1.0"}) {
+    for (const char* schlecht :
+         {"--pc 3", "--pc -1", "--pc +1", "--staerke 0", "--staerke 4", "--spiele", "--spiele x", "--seed -5",
+          "--lernen extra", "--unbekannt", "--pc 1.0", "--fuchs 0", "--hennen 4", "--fuchs", "--bedenkzeit 0",
+          "--bedenkzeit 501"}) {
         std::string fehler;
         EXPECT_FALSE(optionenLesen(worte(schlecht), fehler).has_value()) << schlecht;
         EXPECT_FALSE(fehler.empty());

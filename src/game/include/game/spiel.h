@@ -14,6 +14,7 @@
 #include "board/zufall.h"
 #include "dialogs/oeffentlich.h"
 #include "game/ansicht.h"
+#include "game/spielerwahl.h"
 #include "memory/lerndatei.h"
 #include "memory/partie.h"
 #include "player/erinnerung.h"
@@ -58,6 +59,8 @@ class Spiel {
     void einstellungenUebernehmen(const Einstellungen& e);
     // Headless drivers play with fixed settings: the settings file is then neither read nor written.
     void einstellungenFestlegen(const Einstellungen& e);
+    // Each computer side may play at its own strength; files and statistics follow the settings.
+    void spielerFestlegen(const Spielerwahl& w) { spielerwahl_ = w; }
 
     // What the window shows and the other windows read.
     const Stellung& stellung() const { return stellung_; }
@@ -88,7 +91,10 @@ class Spiel {
     bool fuechseZiehen(); // the same for the computer foxes
     void strafeAnwenden(const Strafe& strafe);
     void zug(bool normal);
-    Erinnerung erinnerung() const { return {lerndatei_, oeff_.einst.Staerke, partie_}; }
+    // The learned values a computer side may ask: of its own strength, or of the settings'.
+    Erinnerung erinnerung(const std::optional<Spieler>& seite) const {
+        return {lerndatei_, seite ? seite->Staerke : oeff_.einst.Staerke, partie_};
+    }
 
     // End of a move, end of a game, and filing.
     bool endecheck(int16_t figur);
@@ -113,6 +119,7 @@ class Spiel {
     Ergebnis ergebnis_ = Ergebnis::offen;
     int16_t neueZuege_ = 0;
     std::optional<Einstellungen> festeEinstellungen_;
+    Spielerwahl spielerwahl_;
     bool endeGefunden_ = false;
     Ergebnis letztesErgebnis_ = Ergebnis::offen;
     bool schrittweise_ = false;

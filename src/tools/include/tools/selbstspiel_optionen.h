@@ -5,6 +5,8 @@
 #include <string>
 #include <vector>
 
+#include "game/spielerwahl.h"
+
 namespace fuh {
 
 struct Optionen {
@@ -14,6 +16,7 @@ struct Optionen {
     bool lernen = false;
     std::optional<uint32_t> seed; // already reduced to 24 bits
     bool protokoll = false;
+    Spielerwahl spieler; // --fuchs, --hennen, --bedenkzeit: each side at its own strength
 };
 
 // Parses the arguments (without the program name). On a bad argument returns nullopt and sets `fehler`.

@@ -1,0 +1,19 @@
+#pragma once
+// Who plays each computer side. Without a choice a side plays at the strength of the settings.
+#include <chrono>
+#include <cstdint>
+#include <optional>
+
+namespace fuh {
+
+struct Spieler {
+    int16_t Staerke = 0;  // 0, 1, 2 for strength 1, 2, 3: which learned-move file the side asks
+    bool meister = false; // the searching player instead
+};
+
+struct Spielerwahl {
+    std::optional<Spieler> fuchs, hennen;
+    std::chrono::milliseconds bedenkzeit{400}; // the Meister's time per move
+};
+
+} // namespace fuh
