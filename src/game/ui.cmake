@@ -16,12 +16,3 @@ qt_add_resources(fuh_game_ui "fuh_spielbilder"
 
 add_executable(fuchs-und-hennen main.cpp)
 target_link_libraries(fuchs-und-hennen PRIVATE fuh_game_ui)
-
-# `cmake --install build` puts the game into the desktop menu; it then keeps its files in the per-user
-# data folder, as when started by `make run`.
-include(GNUInstallDirs)
-install(TARGETS fuchs-und-hennen RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
-install(FILES ${PROJECT_SOURCE_DIR}/assets/desktop/fuchs-und-hennen.desktop
-        DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
-install(FILES ${PROJECT_SOURCE_DIR}/assets/bilder/app.svg
-        DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps RENAME fuchs-und-hennen.svg)
