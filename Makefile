@@ -2,7 +2,7 @@
 BUILD ?= build
 JOBS ?= $(shell nproc 2>/dev/null || echo 2)
 
-.PHONY: run test build deps sanitize bench clean format
+.PHONY: run test build deps sanitize bench clean format package
 
 deps:
 	@scripts/install-deps
@@ -23,6 +23,12 @@ sanitize: deps
 	cmake -S . -B build-asan -DCMAKE_BUILD_TYPE=Debug -DFUH_SANITIZE=ON $(CMAKE_FLAGS)
 	cmake --build build-asan -j $(JOBS)
 	cd build-asan && QT_QPA_PLATFORM=offscreen ASAN_OPTIONS=detect_leaks=0 UBSAN_OPTIONS=halt_on_error=1:print_stacktrace=1 ctest --output-on-failure -j $(JOBS)
+
+# A Debian package in $(BUILD)/ (CPack), then checked against the expected file list.
+package: build
+	@scripts/install-deps dpkg-dev file
+	cd $(BUILD) && rm -f fuchs-und-hennen_*.deb && cpack
+	tests/paket/pruefen $(BUILD)/fuchs-und-hennen_*.deb
 
 bench: build
 	$(BUILD)/src/tools/benchmarks

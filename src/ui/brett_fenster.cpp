@@ -101,6 +101,7 @@ BrettFenster::~BrettFenster() = default;
 void BrettFenster::anwendungEinrichten(QApplication& app) {
     QApplication::setApplicationName(QString::fromUtf8(kTitel));
     QApplication::setApplicationDisplayName(QString::fromUtf8(kTitel));
+    QGuiApplication::setDesktopFileName(QStringLiteral("org.example.FuchsUndHennen"));
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/bilder/app.svg")));
     auto* uebersetzung = new QTranslator(&app);
     if (uebersetzung->load(QStringLiteral("qtbase_de"), QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
