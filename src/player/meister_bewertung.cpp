@@ -1,10 +1,13 @@
 #include "player/meister_bewertung.h"
 
+#include <algorithm>
 #include <bit>
 
 namespace fuh::meister {
 
 namespace {
+
+constexpr int kZugende = 149; // the move limit
 
 // Row by row from the top; squares off the cross hold 0. The target area is worth most, the upper
 // rows most of all because they are filled last and can only be reached through the lower ones.
@@ -42,12 +45,14 @@ Fuchslage fuchslage(const Suchbrett& b) {
     return lage;
 }
 
-int bewerte(const Suchbrett& b, const Gewichte& g) {
+int bewerte(const Suchbrett& b, const Gewichte& g, int spielzug) {
     const Linien& l = linien();
     int platz = 0;
     for (int s = 0; s < kQuadrate; ++s)
         if (b.f[s] == henne) platz += kPlatz[s];
-    int wert = (b.hennen - g.hennenMitte) * g.henne + platz * g.platz / 100;
+    const int kern = std::min<int>(b.hennen, g.satt), reserve = std::max(0, b.hennen - g.satt);
+    const int eile = 100 + g.eile * std::clamp(spielzug, 0, kZugende) / kZugende;
+    int wert = (kern - g.hennenMitte) * g.henne + reserve * g.reserve + platz * g.platz / 100 * eile / 100;
     // Target squares that no hen can step onto next are the ones the foxes keep open.
     for (int s = 0; s < kQuadrate; ++s) {
         if (!l.ziel[s] || b.f[s] == henne) continue;

@@ -7,8 +7,11 @@
 namespace fuh::meister {
 
 struct Gewichte {
-    int henne = 100;        // every hen on the board
-    int hennenMitte = 13;   // hens at which neither side is ahead on material
+    int henne = 100;        // every hen up to `satt`
+    int satt = 13;          // hens beyond this many are a reserve the hens may give up for progress
+    int reserve = 40;       // every hen beyond `satt`
+    int hennenMitte = 17;   // where the material term is zero, so that the opening is about even
+    int eile = 100;         // percent more worth of progress at the move limit than at the start
     int platz = 100;        // percent of the square table below
     int beweglich = 3;      // every step a fox has
     int fuchsImZiel = 25;   // a fox blocking a square of the target area
@@ -21,7 +24,8 @@ struct Gewichte {
 // Worth of one hen on each square, before scaling by Gewichte::platz.
 const std::array<int, kQuadrate>& hennenplatz();
 
-int bewerte(const Suchbrett& b, const Gewichte& g);
+// `spielzug`: positions recorded so far; progress counts for more as the move limit nears.
+int bewerte(const Suchbrett& b, const Gewichte& g, int spielzug);
 
 // Hens a fox could jump at once (each counted once), and the fox steps there are.
 struct Fuchslage {

@@ -234,7 +234,7 @@ Folge Suchbrett::ziehe(const Suchzug& z, bool strafregel) {
         fuchsFeld[fuchsFeld[0] == z.von ? 0 : 1] = ende;
         if (z.spruenge == 0) {
             folge = strafe(vorher, a, b);
-        } else if (strafregel && geparkt() && hennen >= 9) {
+        } else if (strafregel && geparkt()) {
             // Back onto the first empty square of rows 2..6, column by column.
             for (int x = 0; x <= 6 && folge == Folge::nichts; ++x)
                 for (int y = 2; y <= 6 && folge == Folge::nichts; ++y)

@@ -27,8 +27,8 @@ bool Suche::zeitUm() {
     return std::chrono::steady_clock::now() - auftrag_.start >= auftrag_.hart;
 }
 
-int Suche::statisch(const Suchbrett& b) const {
-    const int w = bewerte(b, gewichte);
+int Suche::statisch(const Suchbrett& b, int spielzug) const {
+    const int w = bewerte(b, gewichte, spielzug);
     return b.fuchsAmZug ? -w : w;
 }
 
@@ -49,7 +49,7 @@ bool Suche::nachZug(const Suchbrett& kind, Folge folge, int spielzug, int ply, i
 // Fox jumps only, so that the horizon does not hide a capture; the hens' side is judged as it stands.
 int Suche::ruhe(const Suchbrett& b, int alpha, int beta, int ply, int spielzug) {
     ++knoten_;
-    const int stehen = statisch(b);
+    const int stehen = statisch(b, spielzug);
     if (!b.fuchsAmZug || ply >= kPlies - 1) return stehen;
     Suchzug* zuege = zuege_[ply].data();
     const int n = b.fuchszuege(zuege);
@@ -62,7 +62,7 @@ int Suche::ruhe(const Suchbrett& b, int alpha, int beta, int ply, int spielzug) 
         Suchbrett kind = b;
         const Folge folge = kind.ziehe(zuege[i], auftrag_.strafregel);
         int wert = 0;
-        if (!nachZug(kind, folge, spielzug + 1, ply, wert)) wert = -statisch(kind);
+        if (!nachZug(kind, folge, spielzug + 1, ply, wert)) wert = -statisch(kind, spielzug + 1);
         if (wert > best) best = wert;
         if (best > alpha) alpha = best;
         if (alpha >= beta) break;

@@ -16,7 +16,7 @@ inline constexpr int kMatt = 30000;
 inline constexpr int kEntschieden = kMatt - 200; // values beyond this are a won or lost game
 inline constexpr int kPlies = 64;
 inline constexpr int kZugbegrenzung = 149; // the game is drawn when a move records this many positions
-inline constexpr int kKontempt = 300;      // a draw is worth this little to the side the search plays
+inline constexpr int kKontempt = 1000;     // a draw is worth this little to the side the search plays
 
 struct Auftrag {
     Suchbrett brett;
@@ -50,7 +50,7 @@ class Suche {
     int iteration(int tiefe, int n, int alpha, int beta);
     bool nachZug(const Suchbrett& kind, Folge folge, int spielzug, int ply, int& wert) const;
     int remis(bool fuchsAmZug) const { return fuchsAmZug == wurzelFuchs_ ? -kKontempt : kKontempt; }
-    int statisch(const Suchbrett& b) const;
+    int statisch(const Suchbrett& b, int spielzug) const;
     void ordne(const Suchbrett& b, int ply, int n, const Eintrag* e);
     int waehle(int ply, int von, int n);
     void merke(const Suchbrett& b, int ply, const Suchzug& z, int tiefe);
