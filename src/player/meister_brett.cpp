@@ -172,7 +172,7 @@ void Suchbrett::kette(int pos, Suchzug& z, Suchzug* aus, int& n) {
     }
 }
 
-int Suchbrett::fuchszuege(Suchzug* aus) const {
+int Suchbrett::fuchszuege(Suchzug* aus, bool nurSpruenge) const {
     const Linien& l = linien();
     int n = 0;
     Suchbrett arbeit = *this;
@@ -184,6 +184,7 @@ int Suchbrett::fuchszuege(Suchzug* aus) const {
         arbeit.kette(s, z, aus, n);
         arbeit.f[s] = fuchs;
     }
+    if (nurSpruenge) return n;
     for (int8_t s : fuchsFeld) {
         if (s < 0 || !l.kreuz[s]) continue;
         for (int8_t t : l.schritt[s])

@@ -56,7 +56,7 @@ struct Suchbrett {
     bool geparkt() const { return fuchsFeld[0] == kPark || fuchsFeld[1] == kPark; }
 
     int hennenzuege(Suchzug* aus) const;
-    int fuchszuege(Suchzug* aus) const;
+    int fuchszuege(Suchzug* aus, bool nurSpruenge = false) const; // chains first, then steps
     bool kannSpringen(int feld) const;
     // Plays the move and hands the turn over; with `strafregel` a fox that missed a jump is parked and a
     // parked fox returns after a jump, as the game does at the start of the hens' next turn.

@@ -52,13 +52,13 @@ int Suche::ruhe(const Suchbrett& b, int alpha, int beta, int ply, int spielzug) 
     const int stehen = statisch(b, spielzug);
     if (!b.fuchsAmZug || ply >= kPlies - 1) return stehen;
     Suchzug* zuege = zuege_[ply].data();
-    const int n = b.fuchszuege(zuege);
-    if (n == 0 || zuege[0].spruenge == 0) return stehen;
+    const int n = b.fuchszuege(zuege, true);
+    if (n == 0) return stehen;
     // Passing up a jump costs the fox under the penalty rule, so standing pat is no option there.
     int best = auftrag_.strafregel ? -kUnendlich : stehen;
     if (best >= beta) return best;
     alpha = std::max(alpha, best);
-    for (int i = 0; i < n && zuege[i].spruenge > 0; ++i) {
+    for (int i = 0; i < n; ++i) {
         Suchbrett kind = b;
         const Folge folge = kind.ziehe(zuege[i], auftrag_.strafregel);
         int wert = 0;

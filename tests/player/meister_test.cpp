@@ -132,6 +132,49 @@ TEST(Meister, KnotengrenzeHaeltDieSucheAn) {
     EXPECT_GE(m.bericht().tiefe, 1);
 }
 
+// Plays the move as a human would have to: every part must pass the legality test first.
+bool spiele(TestTisch& t, const Zugwahl& w, int PC) {
+    t.PC = PC;
+    t.s.imSprung = false;
+    t.s.nachX = t.s.nachY = 0;
+    for (const Teilzug& z : w) {
+        if (!korrekterZug(t.s, PC, z.vonX, z.vonY, z.nachX, z.nachY)) return false;
+        t.s.vonX = z.vonX, t.s.vonY = z.vonY, t.s.nachX = z.nachX, t.s.nachY = z.nachY;
+        t.zug(true);
+    }
+    t.partie.pstoSits(t.s);
+    return true;
+}
+
+bool vorbei(const Brettfeld& Feld) {
+    int imZiel = 0;
+    for (int x = 2; x <= 4; ++x)
+        for (int y = 0; y <= 2; ++y)
+            imZiel += Feld[x][y] == henne;
+    return imZiel == 9 || anzahl(Feld, henne) < 9;
+}
+
+TEST(Meister, GanzePartieNurMitErlaubtenZuegen) {
+    // Meister against Meister under the penalty rule, with small searches: every move is legal, a fox
+    // chain is played jump by jump, and the game ends by the move limit at the latest.
+    TestTisch t;
+    Meister hennen(1), fuechse(2);
+    hennen.grenzen(1500, 0);
+    fuechse.grenzen(1500, 0);
+    bool ende = false;
+    while (!ende && t.partie.spielzug < kZugbegrenzung) {
+        if (t.partie.spielzug >= 2) strafregel(t);
+        const Zugwahl h = hennen.berechne({t.s.Feld, henne, t.partie.spielzug, true, kViel});
+        ASSERT_TRUE(spiele(t, h, 0)) << t.partie.spielzug;
+        ende = h.keinZug() || vorbei(t.s.Feld) || t.partie.spielzug == kZugbegrenzung;
+        if (ende) break;
+        const Zugwahl f = fuechse.berechne({t.s.Feld, fuchs, t.partie.spielzug, true, kViel});
+        ASSERT_TRUE(spiele(t, f, 1)) << t.partie.spielzug;
+        ende = f.keinZug() || vorbei(t.s.Feld);
+    }
+    EXPECT_LE(t.partie.spielzug, kZugbegrenzung);
+}
+
 // The search's model of the penalty rule against the game's own rule, on the same moves.
 struct Strafe {
     std::initializer_list<Platz> figuren;
