@@ -47,18 +47,19 @@ void Meister::gewichte(const meister::Gewichte& g) {
 }
 
 Zugwahl Meister::berechne(const MeisterLage& lage) {
+    const auto start = std::chrono::steady_clock::now();
     bericht_ = Bericht{};
     if (lage.seite != henne && lage.seite != fuchs) return Zugwahl{};
     const bool fuchsAmZug = lage.seite == fuchs;
     // Draws are valued for the side searched for, so the table is only good for that side.
-    if (!letzteSeite_ || *letzteSeite_ != fuchsAmZug) suche_->vergessen();
+    if (letzteSeite_ && *letzteSeite_ != fuchsAmZug) suche_->vergessen();
     letzteSeite_ = fuchsAmZug;
 
     meister::Auftrag a;
     a.brett = meister::Suchbrett::aus(lage.Feld, fuchsAmZug);
     a.spielzug = std::clamp(lage.spielzug, 0, meister::kZugbegrenzung);
     a.strafregel = lage.strafregel;
-    a.start = std::chrono::steady_clock::now();
+    a.start = start;
     const auto budget = std::clamp(lage.bedenkzeit, std::chrono::milliseconds{1}, kHoechsteBedenkzeit);
     const auto budgetUs = std::chrono::duration_cast<std::chrono::microseconds>(budget);
     a.hart = budgetUs * kHarterAnteilProzent / 100;
