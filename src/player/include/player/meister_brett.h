@@ -1,0 +1,74 @@
+#pragma once
+// The search's own board: the 49 squares in one row (square y * 7 + x), the pieces counted, the foxes'
+// squares and a hash kept up to date, so that a move is a copy and a few writes.
+#include <array>
+#include <cstdint>
+
+#include "board/stellung.h"
+
+namespace fuh::meister {
+
+inline constexpr int kQuadrate = 49;
+inline constexpr int kKeiner = -1;
+inline constexpr int kKette = 20;         // jumps in one chain, at most
+inline constexpr int kHoechstZuege = 160; // moves of one side in one position, at most kept
+inline constexpr int8_t kPark = 0;        // the square where a penalised fox waits
+
+// Lines of the cross for every square, directions dx -1..1 outer, dy -1..1 inner, without the null one:
+// the neighbour, and the middle and landing square of a jump; kKeiner where no line leads.
+struct Linien {
+    std::array<std::array<int8_t, 8>, kQuadrate> schritt{};
+    std::array<std::array<int8_t, 8>, kQuadrate> mitte{};
+    std::array<std::array<int8_t, 8>, kQuadrate> sprung{};
+    std::array<std::array<int8_t, 5>, kQuadrate> hennenschritt{}; // up or sideways, kKeiner filled
+    std::array<bool, kQuadrate> kreuz{};
+    std::array<bool, kQuadrate> ziel{};
+};
+const Linien& linien();
+
+// A hen step, a fox step (spruenge 0, target nach[0]) or a fox's chain of jumps (landing squares).
+struct Suchzug {
+    int8_t von = 0;
+    int8_t spruenge = 0;
+    std::array<int8_t, kKette> nach{};
+    int8_t ende() const { return nach[spruenge > 0 ? spruenge - 1 : 0]; }
+    bool gleich(const Suchzug& z) const;
+};
+
+// What a move did beyond moving pieces.
+enum class Folge : uint8_t {
+    nichts,
+    geparkt,      // a fox that missed a jump was taken off
+    zurueck,      // a parked fox came back after a jump
+    letzterFuchs, // the last fox on the cross missed a jump: the game is drawn
+};
+
+struct Suchbrett {
+    std::array<int8_t, kQuadrate> f{}; // codes as in Brettfeld
+    std::array<int8_t, 2> fuchsFeld{kKeiner, kKeiner};
+    int8_t hennen = 0;
+    int8_t imZiel = 0;
+    bool fuchsAmZug = false;
+    uint64_t schluessel = 0;
+
+    static Suchbrett aus(const Brettfeld& Feld, bool fuchsAmZug);
+    Brettfeld feld() const;
+    bool geparkt() const { return fuchsFeld[0] == kPark || fuchsFeld[1] == kPark; }
+
+    int hennenzuege(Suchzug* aus) const;
+    int fuchszuege(Suchzug* aus, bool nurSpruenge = false) const; // chains first, then steps
+    bool kannSpringen(int feld) const;
+    // Plays the move and hands the turn over; with `strafregel` a fox that missed a jump is parked and a
+    // parked fox returns after a jump, as the game does at the start of the hens' next turn.
+    Folge ziehe(const Suchzug& z, bool strafregel);
+
+  private:
+    void setze(int feld, int8_t code);
+    void fuchsSpringt(const Suchzug& z);
+    Folge strafe(const std::array<int8_t, 2>& vorher, bool a, bool b);
+    void kette(int pos, Suchzug& z, Suchzug* aus, int& n);
+};
+
+uint64_t seitenschluessel();
+
+} // namespace fuh::meister

@@ -1,0 +1,70 @@
+#pragma once
+// The search behind Meister: negamax alpha-beta with a principal-variation window, a transposition
+// table, killer and history move ordering, and a capture search for the foxes' jumps at the horizon.
+#include <array>
+#include <chrono>
+#include <cstdint>
+
+#include "board/zufall.h"
+#include "player/meister_bewertung.h"
+#include "player/meister_brett.h"
+#include "player/transposition.h"
+
+namespace fuh::meister {
+
+inline constexpr int kMatt = 30000;
+inline constexpr int kEntschieden = kMatt - 200; // values beyond this are a won or lost game
+inline constexpr int kPlies = 64;
+inline constexpr int kZugbegrenzung = 149; // the game is drawn when a move records this many positions
+inline constexpr int kKontempt = 1000;     // a draw is worth this little to the side the search plays
+
+struct Auftrag {
+    Suchbrett brett;
+    int spielzug = 0;
+    bool strafregel = true;
+    std::chrono::steady_clock::time_point start;
+    std::chrono::microseconds weich{0}; // no new depth is begun after this
+    std::chrono::microseconds hart{0};  // the search stops at once after this
+    uint64_t knotenGrenze = 0;
+    int tiefenGrenze = 0;
+};
+
+struct Ergebnis {
+    Suchzug zug;
+    bool gefunden = false;
+    int tiefe = 0;
+    int wert = 0;
+    uint64_t knoten = 0;
+};
+
+class Suche {
+  public:
+    Suche() = default;
+    Ergebnis wurzel(const Auftrag& a, Zufall& zufall);
+    Gewichte gewichte;
+    void vergessen() { tt_.leeren(); }
+
+  private:
+    int ab(const Suchbrett& b, int tiefe, int alpha, int beta, int ply, int spielzug);
+    int ruhe(const Suchbrett& b, int alpha, int beta, int ply, int spielzug);
+    int iteration(int tiefe, int n, int alpha, int beta);
+    bool nachZug(const Suchbrett& kind, Folge folge, int spielzug, int ply, int& wert) const;
+    int remis(bool fuchsAmZug) const { return fuchsAmZug == wurzelFuchs_ ? -kKontempt : kKontempt; }
+    int statisch(const Suchbrett& b, int spielzug) const;
+    void ordne(const Suchbrett& b, int ply, int n, const Eintrag* e);
+    int waehle(int ply, int von, int n);
+    void merke(const Suchbrett& b, int ply, const Suchzug& z, int tiefe);
+    bool zeitUm();
+
+    Auftrag auftrag_;
+    bool wurzelFuchs_ = false;
+    bool halt_ = false;
+    uint64_t knoten_ = 0;
+    std::array<std::array<Suchzug, kHoechstZuege>, kPlies> zuege_{};
+    std::array<std::array<int, kHoechstZuege>, kPlies> noten_{};
+    std::array<std::array<Suchzug, 2>, kPlies> killer_{};
+    std::array<std::array<std::array<int, kQuadrate>, kQuadrate>, 2> historie_{};
+    Transposition tt_;
+};
+
+} // namespace fuh::meister

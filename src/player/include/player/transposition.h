@@ -1,0 +1,49 @@
+#pragma once
+// A fixed-size table of searched positions, keyed by a hash of the position code and the side to move.
+#include <cstdint>
+#include <vector>
+
+namespace fuh::meister {
+
+enum class Grenze : uint8_t { leer, genau, unten, oben };
+
+struct Eintrag {
+    uint64_t schluessel = 0;
+    int16_t wert = 0;
+    int8_t tiefe = 0;
+    Grenze art = Grenze::leer;
+    int8_t von = 0, nach = 0, spruenge = 0; // the best move found, enough to recognise it
+    uint8_t rest = 0;                       // moves left before the move limit, capped at 255
+};
+
+class Transposition {
+  public:
+    explicit Transposition(int bits = 20)
+        : eintraege_(std::size_t{1} << bits), maske_((uint64_t{1} << bits) - 1) {}
+
+    // The entry for the key, or nullptr. Entries searched close to the move limit count only for the
+    // same distance to it, since the limit may have decided them.
+    const Eintrag* finde(uint64_t schluessel, int rest) const {
+        const Eintrag& e = eintraege_[schluessel & maske_];
+        if (e.art == Grenze::leer || e.schluessel != schluessel) return nullptr;
+        const int r = rest > 255 ? 255 : rest;
+        if (e.rest != r && (e.rest <= e.tiefe || r <= e.tiefe)) return nullptr;
+        return &e;
+    }
+    void speichere(const Eintrag& neu) {
+        Eintrag& e = eintraege_[neu.schluessel & maske_];
+        // Keep a deeper result of the same position; anything else is replaced.
+        if (e.schluessel == neu.schluessel && e.tiefe > neu.tiefe && e.art != Grenze::leer) return;
+        e = neu;
+    }
+    void leeren() {
+        for (Eintrag& e : eintraege_)
+            e = Eintrag{};
+    }
+
+  private:
+    std::vector<Eintrag> eintraege_;
+    uint64_t maske_;
+};
+
+} // namespace fuh::meister

@@ -1,0 +1,75 @@
+#include "player/meister.h"
+
+#include <algorithm>
+
+#include "player/meister_suche.h"
+
+namespace fuh {
+
+namespace {
+// A new depth is begun only within this share of the budget; each costs a few times the one before.
+constexpr int kWeicherAnteil = 10;
+// The clock is read every thousand positions, so the search keeps a margin below the budget.
+constexpr int kHarterAnteilProzent = 90;
+constexpr std::chrono::milliseconds kHoechsteBedenkzeit{450};
+
+Zugwahl alsZugwahl(const meister::Suchzug& z) {
+    Zugwahl w;
+    auto teil = [](int von, int nach) {
+        return Teilzug{static_cast<int16_t>(von % 7), static_cast<int16_t>(von / 7),
+                       static_cast<int16_t>(nach % 7), static_cast<int16_t>(nach / 7)};
+    };
+    if (z.spruenge == 0) {
+        w.anhaengen(teil(z.von, z.nach[0]));
+        return w;
+    }
+    int von = z.von;
+    for (int i = 0; i < z.spruenge; ++i) {
+        w.anhaengen(teil(von, z.nach[i]));
+        von = z.nach[i];
+    }
+    return w;
+}
+} // namespace
+
+Meister::Meister(uint32_t seed) : suche_(std::make_unique<meister::Suche>()), zufall_(seed) {}
+
+Meister::~Meister() = default;
+
+void Meister::grenzen(uint64_t knoten, int tiefe) {
+    knotenGrenze_ = knoten;
+    tiefenGrenze_ = std::max(0, tiefe);
+}
+
+void Meister::gewichte(const meister::Gewichte& g) {
+    suche_->gewichte = g;
+    suche_->vergessen();
+}
+
+Zugwahl Meister::berechne(const MeisterLage& lage) {
+    const auto start = std::chrono::steady_clock::now();
+    bericht_ = Bericht{};
+    if (lage.seite != henne && lage.seite != fuchs) return Zugwahl{};
+    const bool fuchsAmZug = lage.seite == fuchs;
+    // Draws are valued for the side searched for, so the table is only good for that side.
+    if (letzteSeite_ && *letzteSeite_ != fuchsAmZug) suche_->vergessen();
+    letzteSeite_ = fuchsAmZug;
+
+    meister::Auftrag a;
+    a.brett = meister::Suchbrett::aus(lage.Feld, fuchsAmZug);
+    a.spielzug = std::clamp(lage.spielzug, 0, meister::kZugbegrenzung);
+    a.strafregel = lage.strafregel;
+    a.start = start;
+    const auto budget = std::clamp(lage.bedenkzeit, std::chrono::milliseconds{1}, kHoechsteBedenkzeit);
+    const auto budgetUs = std::chrono::duration_cast<std::chrono::microseconds>(budget);
+    a.hart = budgetUs * kHarterAnteilProzent / 100;
+    a.weich = budgetUs / kWeicherAnteil;
+    a.knotenGrenze = knotenGrenze_;
+    a.tiefenGrenze = tiefenGrenze_;
+
+    const meister::Ergebnis e = suche_->wurzel(a, zufall_);
+    bericht_ = Bericht{e.tiefe, e.wert, e.knoten};
+    return e.gefunden ? alsZugwahl(e.zug) : Zugwahl{};
+}
+
+} // namespace fuh

@@ -1,0 +1,260 @@
+#include <gtest/gtest.h>
+
+#include "board/regeln.h"
+#include "player/fuchsspieler.h"
+#include "player/meister.h"
+#include "player/meister_brett.h"
+#include "player/meister_suche.h"
+#include "player/strafregel.h"
+#include "spieler_fixture.h"
+
+namespace fuh {
+namespace {
+
+struct Platz {
+    int k, x, y; // piece k (0, 1 foxes, else hens) on (x, y)
+};
+constexpr auto kViel = std::chrono::milliseconds{450};
+
+// Moves a piece on a board; a normal jump also takes the hen it passes over, a penalty move never does.
+void ausfuehren(Brettfeld& Feld, const Teilzug& z, bool normal = true) {
+    Feld[z.nachX][z.nachY] = Feld[z.vonX][z.vonY];
+    Feld[z.vonX][z.vonY] = leer;
+    if (normal && z.sprung()) Feld[z.vonX + (z.nachX - z.vonX) / 2][z.vonY + (z.nachY - z.vonY) / 2] = leer;
+}
+
+// Carries out the penalty rule's verdict as the game does; true when the game ends drawn.
+bool strafeAusfuehren(Brettfeld& Feld, const Partie& partie) {
+    const Strafe strafe = strafregel(Feld, partie, 0);
+    if (strafe.art == Strafe::Art::parken || strafe.art == Strafe::Art::einsetzen)
+        ausfuehren(Feld, strafe.zug, false);
+    return strafe.art == Strafe::Art::letzterFuchs;
+}
+
+// Searches to a fixed depth, so that the result does not depend on the machine's speed.
+Zugwahl suche(const Brettfeld& Feld, int16_t seite, int tiefe, int spielzug = 10, Meister* m = nullptr) {
+    Meister eigener(7);
+    Meister& meister = m ? *m : eigener;
+    meister.grenzen(0, tiefe);
+    return meister.berechne({Feld, seite, spielzug, true, kViel});
+}
+
+Brettfeld brett(std::initializer_list<Platz> figuren) {
+    Brettfeld Feld = test::leeresKreuz().Feld;
+    for (const Platz& p : figuren)
+        Feld[p.x][p.y] = p.k < 2 ? fuchs : henne;
+    return Feld;
+}
+
+int anzahl(const Brettfeld& Feld, int16_t code) {
+    int n = 0;
+    for (int x = 0; x <= 6; ++x)
+        for (int y = 0; y <= 6; ++y)
+            n += Feld[x][y] == code;
+    return n;
+}
+
+// Twelve hens; the fox on (4, 2) wins at once with four jumps down and round to (2, 4), while the jump
+// over (3, 2) into the target area is worth more to a player that looks one move ahead.
+const std::initializer_list<Platz> kViererkette = {{0, 4, 2},  {1, 0, 2},  {2, 2, 0},  {3, 3, 0}, {4, 4, 0},
+                                                   {5, 2, 1},  {6, 3, 1},  {7, 4, 1},  {8, 3, 2}, {9, 4, 3},
+                                                   {10, 4, 5}, {11, 3, 6}, {12, 2, 5}, {13, 0, 4}};
+
+TEST(Meister, FuchsFindetDieKetteDieGewinnt) {
+    const Zugwahl w = suche(brett(kViererkette), fuchs, 2);
+    const std::array<Teilzug, 4> kette = {Teilzug{4, 2, 4, 4}, Teilzug{4, 4, 4, 6}, Teilzug{4, 6, 2, 6},
+                                          Teilzug{2, 6, 2, 4}};
+    ASSERT_EQ(w.anzahl, 4);
+    for (int i = 0; i < 4; ++i)
+        EXPECT_EQ(w.zuege[i], kette[i]) << i;
+
+    test::TempOrdner ordner; // the fox player takes the single jump instead
+    const Lerndatei lerndatei(ordner.pfad());
+    const Partie partie;
+    Zufall zufall(1);
+    const Zugwahl einfach = berechneFuchs(brett(kViererkette), Erinnerung(lerndatei, 0, partie), zufall);
+    ASSERT_EQ(einfach.anzahl, 1);
+    EXPECT_EQ(einfach.zuege[0], (Teilzug{4, 2, 2, 2}));
+}
+
+TEST(Meister, HennenSchliessenDieLuecke) {
+    // Two foxes aim at (2, 2): over (2, 3) from below and over (3, 2) from the side. Most hen moves
+    // leave a jump open; the hens must fill the landing square or move a threatened hen away.
+    const Brettfeld Feld = brett({{0, 2, 4},
+                                  {1, 4, 2},
+                                  {2, 2, 3},
+                                  {3, 3, 2},
+                                  {4, 1, 2},
+                                  {5, 0, 3},
+                                  {6, 5, 4},
+                                  {7, 6, 4},
+                                  {8, 3, 5},
+                                  {9, 4, 6},
+                                  {10, 0, 4},
+                                  {11, 6, 3}});
+    const Zugwahl w = suche(Feld, henne, 4);
+    ASSERT_EQ(w.anzahl, 1);
+    Brettfeld danach = Feld;
+    const Teilzug z = w.zuege[0];
+    ASSERT_TRUE(korrekterZug(danach, Computer::fuchs, {}, z.vonX, z.vonY, z.nachX, z.nachY));
+    ausfuehren(danach, z);
+    const auto b = meister::Suchbrett::aus(danach, true);
+    EXPECT_FALSE(b.kannSpringen(b.fuchsFeld[0]) || b.kannSpringen(b.fuchsFeld[1]));
+}
+
+TEST(Meister, KeinZug) {
+    // Hens boxed in under a full row; foxes with every neighbour taken; a side that is neither.
+    const Brettfeld hennen = brett({{0, 3, 3}, {1, 3, 4}, {2, 2, 0}, {3, 3, 0}, {4, 4, 0}});
+    EXPECT_EQ(suche(hennen, henne, 3).anzahl, 0);
+    const Brettfeld fuechse =
+        brett({{0, 2, 0}, {1, 4, 0}, {2, 3, 0}, {3, 2, 1}, {4, 4, 1}, {5, 3, 1}, {6, 2, 2}, {7, 4, 2}});
+    EXPECT_EQ(suche(fuechse, fuchs, 3).anzahl, 0);
+    EXPECT_EQ(suche(fuechse, leer, 3).anzahl, 0);
+    EXPECT_EQ(suche(brett({{2, 3, 3}}), fuchs, 3).anzahl, 0); // no fox at all
+}
+
+TEST(Meister, ZugbegrenzungMachtDenSiegZumRemis) {
+    // Eight hens in the target area and one below the empty (3, 2): one step wins, unless that step
+    // records the 149th position.
+    const Brettfeld Feld = brett({{0, 0, 2},
+                                  {1, 6, 2},
+                                  {2, 2, 0},
+                                  {3, 3, 0},
+                                  {4, 4, 0},
+                                  {5, 2, 1},
+                                  {6, 3, 1},
+                                  {7, 4, 1},
+                                  {8, 2, 2},
+                                  {9, 4, 2},
+                                  {10, 3, 3},
+                                  {11, 0, 4},
+                                  {12, 6, 4}});
+    Meister m(3);
+    EXPECT_EQ(suche(Feld, henne, 3, 147, &m).zuege[0], (Teilzug{3, 3, 3, 2}));
+    EXPECT_GT(m.bericht().wert, meister::kEntschieden);
+    suche(Feld, henne, 3, 148, &m);
+    EXPECT_LT(m.bericht().wert, meister::kEntschieden);
+}
+
+TEST(Meister, KnotengrenzeHaeltDieSucheAn) {
+    // The crowded opening with an ample budget: the node hook stops the search, a legal move comes back.
+    Stellung start;
+    start.grundstellung();
+    Meister m(11);
+    m.grenzen(3000, 0);
+    const Zugwahl w = m.berechne({start.Feld, henne, 0, true, std::chrono::milliseconds{100000}});
+    ASSERT_EQ(w.anzahl, 1);
+    const Teilzug& z = w.zuege[0];
+    EXPECT_TRUE(korrekterZug(start.Feld, Computer::fuchs, {}, z.vonX, z.vonY, z.nachX, z.nachY));
+    EXPECT_LE(m.bericht().knoten, 3000u + 200u);
+    EXPECT_GE(m.bericht().tiefe, 1);
+}
+
+// Plays the move as a human would have to: every part must pass the legality test first.
+bool spiele(Brettfeld& Feld, Partie& partie, const Zugwahl& w, Computer PC) {
+    Sprungfolge sprung;
+    Teilzug letzter{};
+    for (const Teilzug& z : w) {
+        if (!korrekterZug(Feld, PC, sprung, z.vonX, z.vonY, z.nachX, z.nachY)) return false;
+        ausfuehren(Feld, z);
+        if (z.sprung()) sprung = {true, z.nachX, z.nachY};
+        letzter = z;
+    }
+    partie.pstoSits(Feld, letzter);
+    return true;
+}
+
+bool vorbei(const Brettfeld& Feld) {
+    int imZiel = 0;
+    for (int x = 2; x <= 4; ++x)
+        for (int y = 0; y <= 2; ++y)
+            imZiel += Feld[x][y] == henne;
+    return imZiel == 9 || anzahl(Feld, henne) < 9;
+}
+
+TEST(Meister, GanzePartieNurMitErlaubtenZuegen) {
+    // Meister against Meister under the penalty rule, with small searches: every move is legal, a fox
+    // chain is played jump by jump, and the game ends by the move limit at the latest.
+    Stellung s;
+    s.grundstellung();
+    Partie partie;
+    Meister hennen(1), fuechse(2);
+    hennen.grenzen(1500, 0);
+    fuechse.grenzen(1500, 0);
+    bool ende = false;
+    while (!ende && partie.spielzug < kZugbegrenzung) {
+        if (strafeAusfuehren(s.Feld, partie)) break;
+        const Zugwahl h = hennen.berechne({s.Feld, henne, partie.spielzug, true, kViel});
+        ASSERT_TRUE(spiele(s.Feld, partie, h, Computer::fuchs)) << partie.spielzug;
+        ende = h.keinZug() || vorbei(s.Feld) || partie.spielzug == kZugbegrenzung;
+        if (ende) break;
+        const Zugwahl f = fuechse.berechne({s.Feld, fuchs, partie.spielzug, true, kViel});
+        ASSERT_TRUE(spiele(s.Feld, partie, f, Computer::hennen)) << partie.spielzug;
+        ende = f.keinZug() || vorbei(s.Feld);
+    }
+    EXPECT_LE(partie.spielzug, kZugbegrenzung);
+}
+
+// The search's model of the penalty rule against the game's own rule, on the same moves.
+struct Strafprobe {
+    std::initializer_list<Platz> figuren;
+    Teilzug zug; // the foxes' move
+};
+
+void vergleiche(const Strafprobe& f) {
+    const Brettfeld vorher = brett(f.figuren);
+    Brettfeld Feld = vorher;
+    Partie partie;
+    partie.pstoSits(Feld, {0, 0, 1, 1});
+    ausfuehren(Feld, f.zug);
+    partie.pstoSits(Feld, f.zug);
+    strafeAusfuehren(Feld, partie);
+
+    auto b = meister::Suchbrett::aus(vorher, true);
+    meister::Suchzug z;
+    z.von = static_cast<int8_t>(feldNummer(f.zug.vonX, f.zug.vonY));
+    z.nach[0] = static_cast<int8_t>(feldNummer(f.zug.nachX, f.zug.nachY));
+    z.spruenge = std::abs(f.zug.nachX - f.zug.vonX) == 2 || std::abs(f.zug.nachY - f.zug.vonY) == 2;
+    b.ziehe(z, true);
+    EXPECT_EQ(b.feld(), Feld) << f.zug.vonX << f.zug.vonY << f.zug.nachX << f.zug.nachY;
+}
+
+TEST(Meister, StrafregelWieImSpiel) {
+    // Both foxes could jump: the one standing higher after the move is parked, the first on equal rows;
+    // only the second could jump; a jump brings a parked fox back to the first empty square of rows 2..6.
+    vergleiche({{{0, 2, 2}, {2, 2, 3}, {1, 4, 4}, {3, 4, 3}}, {2, 2, 1, 2}});
+    vergleiche({{{0, 2, 2}, {2, 2, 3}, {1, 4, 2}, {3, 4, 3}}, {2, 2, 1, 3}});
+    vergleiche({{{0, 2, 2}, {2, 2, 3}, {1, 4, 2}, {3, 4, 3}}, {2, 2, 1, 2}});
+    vergleiche({{{0, 2, 2}, {1, 4, 2}, {3, 4, 3}}, {2, 2, 3, 1}});
+    vergleiche({{{0, 0, 0}, {1, 4, 2}, {3, 4, 3}, {4, 0, 2}}, {4, 2, 4, 4}});
+    vergleiche({{{0, 2, 2}, {1, 4, 2}, {3, 4, 3}}, {4, 2, 5, 2}}); // no penalty without the jump
+}
+
+TEST(Meister, LetzterFuchsVerpasstEinenSprung) {
+    auto b = meister::Suchbrett::aus(brett({{0, 0, 0}, {1, 4, 2}, {3, 4, 3}}), true);
+    meister::Suchzug schritt;
+    schritt.von = static_cast<int8_t>(feldNummer(4, 2));
+    schritt.nach[0] = static_cast<int8_t>(feldNummer(5, 2));
+    auto ohne = b;
+    EXPECT_EQ(b.ziehe(schritt, true), meister::Folge::letzterFuchs);
+    EXPECT_EQ(ohne.ziehe(schritt, false), meister::Folge::nichts);
+    // So the fox jumps; without the rule it may as well go elsewhere, and the search knows both.
+    EXPECT_EQ(suche(brett({{0, 0, 0},
+                           {1, 4, 2},
+                           {3, 4, 3},
+                           {4, 2, 0},
+                           {5, 3, 0},
+                           {6, 4, 0},
+                           {7, 2, 1},
+                           {8, 3, 1},
+                           {9, 4, 1},
+                           {10, 2, 2},
+                           {11, 0, 3},
+                           {12, 6, 3}}),
+                    fuchs, 3)
+                  .zuege[0],
+              (Teilzug{4, 2, 4, 4}));
+}
+
+} // namespace
+} // namespace fuh
