@@ -2,7 +2,7 @@
 BUILD ?= build
 JOBS ?= $(shell nproc 2>/dev/null || echo 2)
 
-.PHONY: run test build deps sanitize bench clean format package
+.PHONY: run test build deps sanitize bench clean format package match
 
 deps:
 	@scripts/install-deps
@@ -32,6 +32,10 @@ package: build
 
 bench: build
 	$(BUILD)/src/tools/benchmarks
+
+# The Meister against strength 3 on each side: 200 games each with fixed seeds, and its time per move.
+match: build
+	$(BUILD)/src/tools/match --spiele 200
 
 format:
 	find src tests -name '*.cpp' -o -name '*.h' | xargs clang-format -i

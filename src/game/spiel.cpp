@@ -14,6 +14,15 @@ Spiel::Spiel(Ansicht& ansicht, Zufall& zufall, std::filesystem::path ordner)
     bilder_.aufstellen(stellung_);
 }
 
+Spiel::~Spiel() = default;
+
+void Spiel::spielerFestlegen(const Spielerwahl& w) {
+    spielerwahl_ = w;
+    meisterHennen_.reset();
+    meisterFuchs_.reset();
+    meisterTipp_.reset();
+}
+
 void Spiel::Form_Load(uint32_t sekundenSeitMitternacht) {
     init();
     zufall_.setzen(sekundenSeitMitternacht);

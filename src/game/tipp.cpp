@@ -3,8 +3,6 @@
 
 #include "game/spiel.h"
 #include "memory/satzdatei.h"
-#include "player/fuchsspieler.h"
-#include "player/hennenspieler.h"
 
 namespace fuh {
 
@@ -23,9 +21,11 @@ Zugwahl Spiel::tipp() {
     if (Staerke >= 1 && !std::filesystem::exists(datenpfad(ordner_, lerndateiName(Staerke)), fehler))
         Staerke = 0;
     const Erinnerung erinnerung{lerndatei_, Staerke, partie_};
-    if (oeff_.einst.computer() == Computer::fuchs)
-        return berechneHennen(stellung_.Feld, erinnerung, tippZufall_);
-    return berechneFuchs(stellung_.Feld, erinnerung, tippZufall_);
+    // Against the Meister the hint searches too.
+    const bool menschHennen = oeff_.einst.computer() == Computer::fuchs;
+    Meister* gegner = meister(menschHennen ? spielerwahl_.fuchs : spielerwahl_.hennen, meisterTipp_);
+    if (menschHennen) return hennenWahl(erinnerung, tippZufall_, gegner);
+    return fuchsWahl(erinnerung, tippZufall_, gegner);
 }
 
 } // namespace fuh

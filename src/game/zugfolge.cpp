@@ -19,10 +19,34 @@ void Spiel::strafeAnwenden(const Strafe& strafe) {
     endecheck(fuchs);
 }
 
+Meister* Spiel::meister(const std::optional<Spieler>& seite, std::unique_ptr<Meister>& instanz) {
+    if (!seite || !seite->meister) return nullptr;
+    if (!instanz) instanz = std::make_unique<Meister>(spielerwahl_.meisterSeed);
+    return instanz.get();
+}
+
+// The searching player knows the penalty rule: the game applies it to the foxes whenever the computer
+// plays the hens, except in single-move mode.
+Zugwahl Spiel::hennenWahl(const Erinnerung& erinnerung, Zufall& zufall, Meister* meister) {
+    if (meister)
+        return meister->berechne(
+            {stellung_.Feld, henne, partie_.spielzug, oeff_.einst.Einzelzug == 0, spielerwahl_.bedenkzeit});
+    return berechneHennen(stellung_.Feld, erinnerung, zufall);
+}
+
+Zugwahl Spiel::fuchsWahl(const Erinnerung& erinnerung, Zufall& zufall, Meister* meister) {
+    const Computer PC = oeff_.einst.computer();
+    const bool strafe = (PC == Computer::hennen || PC == Computer::beide) && oeff_.einst.Einzelzug == 0;
+    if (meister)
+        return meister->berechne({stellung_.Feld, fuchs, partie_.spielzug, strafe, spielerwahl_.bedenkzeit});
+    return berechneFuchs(stellung_.Feld, erinnerung, zufall);
+}
+
 bool Spiel::hennenZiehen() {
     ansicht_.hinweis(Hinweis::h_zug, true);
     strafeAnwenden(strafregel(stellung_.Feld, partie_, oeff_.einst.Einzelzug));
-    const Zugwahl wahl = berechneHennen(stellung_.Feld, erinnerung(spielerwahl_.hennen), zufall_);
+    const Zugwahl wahl =
+        hennenWahl(erinnerung(spielerwahl_.hennen), zufall_, meister(spielerwahl_.hennen, meisterHennen_));
     zugregister_ = wahl.keinZug() ? Teilzug{} : *wahl.begin();
     if (!wahl.keinZug()) zug(true);
     ansicht_.hinweis(Hinweis::h_zug, false);
@@ -34,7 +58,9 @@ bool Spiel::fuechseZiehen() {
     // Without a move the target stays (0, 0), which the end-of-move check reads as "no move".
     zugregister_.nachX = 0;
     zugregister_.nachY = 0;
-    for (const Teilzug& sprung : berechneFuchs(stellung_.Feld, erinnerung(spielerwahl_.fuchs), zufall_)) {
+    const Zugwahl wahl =
+        fuchsWahl(erinnerung(spielerwahl_.fuchs), zufall_, meister(spielerwahl_.fuchs, meisterFuchs_));
+    for (const Teilzug& sprung : wahl) {
         zugregister_ = sprung;
         zug(true);
         ansicht_.hinweis(Hinweis::f_zug, false);

@@ -58,7 +58,9 @@ Summe selbstspiel(const Optionen& o, uint32_t seed, const std::filesystem::path&
     e.Staerke = static_cast<int16_t>(o.staerke - 1);
     e.Lernmodus = o.lernen ? 1 : 0;
     spiel.einstellungenFestlegen(e);
-    spiel.spielerFestlegen(o.spieler);
+    Spielerwahl spieler = o.spieler;
+    spieler.meisterSeed = seed;
+    spiel.spielerFestlegen(spieler);
     for (uint64_t n = 1; n <= o.spiele; ++n) {
         if (o.protokoll) aus << "spiel " << n << '\n';
         spiel.Neu_Click();

@@ -25,8 +25,9 @@ std::optional<uint64_t> zahl(const std::string& s, uint32_t hoechstens) {
     return v;
 }
 
-// A side's player: strength 1, 2 or 3.
+// A side's player: strength 1, 2 or 3, or the Meister (which learns into the strength-3 file).
 std::optional<Spieler> spielerWert(const std::string& s) {
+    if (s == "meister") return Spieler{2, true};
     const auto v = zahl(s, 3);
     if (!v || *v < 1) return std::nullopt;
     return Spieler{static_cast<int16_t>(*v - 1), false};

@@ -3,6 +3,7 @@
 // The window forwards each event here in one call; the game answers through the view (Ansicht).
 #include <cstdint>
 #include <filesystem>
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
@@ -18,6 +19,7 @@
 #include "memory/lerndatei.h"
 #include "memory/partie.h"
 #include "player/erinnerung.h"
+#include "player/meister.h"
 #include "player/strafregel.h"
 #include "player/zugwahl.h"
 
@@ -33,6 +35,7 @@ class Spiel {
   public:
     // `ordner` is where the data files live; `zufall` is the game's one random source.
     Spiel(Ansicht& ansicht, Zufall& zufall, std::filesystem::path ordner);
+    ~Spiel();
 
     // Events of the main window.
     void Form_Load(uint32_t sekundenSeitMitternacht); // initialise, seed the random source, lock pieces
@@ -49,6 +52,7 @@ class Spiel {
     void schrittweise(bool ja) { schrittweise_ = ja; }
     bool selbstspielZug();
     bool selbstspielLaeuft() const { return selbstspielLaeuft_; }
+    bool selbstspielHennenAmZug() const { return hennenAmZug_; }
 
     // The move the computer would make now for the human's side, without making it; its own random
     // source, so asking never changes the game. Empty when there is nothing to advise (see tippMoeglich).
@@ -60,7 +64,8 @@ class Spiel {
     // Headless drivers play with fixed settings: the settings file is then neither read nor written.
     void einstellungenFestlegen(const Einstellungen& e);
     // Each computer side may play at its own strength; files and statistics follow the settings.
-    void spielerFestlegen(const Spielerwahl& w) { spielerwahl_ = w; }
+    void spielerFestlegen(const Spielerwahl& w);
+    const Spielerwahl& spielerwahl() const { return spielerwahl_; }
 
     // What the window shows and the other windows read.
     const Stellung& stellung() const { return stellung_; }
@@ -90,6 +95,10 @@ class Spiel {
     bool hennenZiehen();  // the computer hens' move and its end-of-move check; true at an end
     bool fuechseZiehen(); // the same for the computer foxes
     void strafeAnwenden(const Strafe& strafe);
+    Zugwahl hennenWahl(const Erinnerung& erinnerung, Zufall& zufall, Meister* meister);
+    Zugwahl fuchsWahl(const Erinnerung& erinnerung, Zufall& zufall, Meister* meister);
+    // The searching player of a side when the choice names it, else null.
+    Meister* meister(const std::optional<Spieler>& seite, std::unique_ptr<Meister>& instanz);
     void zug(bool normal);
     // The learned values a computer side may ask: of its own strength, or of the settings'.
     Erinnerung erinnerung(const std::optional<Spieler>& seite) const {
@@ -120,6 +129,7 @@ class Spiel {
     int16_t neueZuege_ = 0;
     std::optional<Einstellungen> festeEinstellungen_;
     Spielerwahl spielerwahl_;
+    std::unique_ptr<Meister> meisterHennen_, meisterFuchs_, meisterTipp_;
     bool endeGefunden_ = false;
     Ergebnis letztesErgebnis_ = Ergebnis::offen;
     bool schrittweise_ = false;

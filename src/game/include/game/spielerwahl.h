@@ -8,12 +8,13 @@ namespace fuh {
 
 struct Spieler {
     int16_t Staerke = 0;  // 0, 1, 2 for strength 1, 2, 3: which learned-move file the side asks
-    bool meister = false; // the searching player instead
+    bool meister = false; // the searching player instead (it learns and counts as strength 3)
 };
 
 struct Spielerwahl {
     std::optional<Spieler> fuchs, hennen;
     std::chrono::milliseconds bedenkzeit{400}; // the Meister's time per move
+    uint32_t meisterSeed = 1;                  // its own random source, for ties only
 };
 
 } // namespace fuh
