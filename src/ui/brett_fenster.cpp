@@ -167,6 +167,7 @@ void BrettFenster::neu() {
 }
 
 void BrettFenster::spielWeiter() {
+    befehleAbgleichen(); // before a message of the game may open
     wiedergabe_.abspielen();
     befehleAbgleichen();
 }
