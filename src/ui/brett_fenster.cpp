@@ -89,6 +89,7 @@ BrettFenster::BrettFenster(std::filesystem::path ordner, uint32_t startzeit, QWi
     connect(&naechsterZug_, &QTimer::timeout, this, &BrettFenster::selbstspielSchritt);
 
     spiel_->Form_Load(startzeit);
+    // Start-up moves nothing that could be paced: its reports are shown at once.
     wiedergabe_.abbrechen([](const Ereignis&) { return true; });
     // The images stand where the game keeps them before the window is first shown.
     const Figurbilder& bilder = spiel_->bilder();
