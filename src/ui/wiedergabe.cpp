@@ -38,11 +38,11 @@ int Wiedergabe::gleitdauer() const {
     case Tempo::schnell:
         return 150;
     case Tempo::normal:
-        break;
+        return 300;
     case Tempo::langsam:
         return 700;
     }
-    return 300;
+    return 300; // a value from a damaged settings file plays at the normal pace
 }
 
 void Wiedergabe::abspielen() {
