@@ -42,7 +42,7 @@ int Wiedergabe::gleitdauer() const {
     case Tempo::langsam:
         return 700;
     }
-    return 300; // a value from a damaged settings file plays at the normal pace
+    return 300; // not reached: every pace is named above
 }
 
 void Wiedergabe::abspielen() {
