@@ -13,7 +13,7 @@ build: deps
 
 # The game finds and creates its per-user data folder itself.
 run: build
-	"$(BUILD)/src/game/fuchs-und-hennen"
+	"$(BUILD)/src/ui/fuchs-und-hennen"
 
 test: build
 	cd $(BUILD) && QT_QPA_PLATFORM=offscreen ctest --output-on-failure -j $(JOBS)

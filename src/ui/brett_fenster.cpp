@@ -1,29 +1,22 @@
 #include "ui/brett_fenster.h"
 
-#include <QAction>
 #include <QApplication>
 #include <QIcon>
 #include <QLabel>
-#include <QLayout>
 #include <QLibraryInfo>
-#include <QMenu>
+#include <QLocale>
 #include <QMenuBar>
-#include <QMessageBox>
 #include <QScreen>
+#include <QSettings>
 #include <QStatusBar>
 #include <QTime>
 #include <QTranslator>
 #include <algorithm>
 #include <utility>
-#include <vector>
 
 #include "game/spiel.h"
 #include "ui/brett_flaeche.h"
-#include "ui/einst_dialog.h"
-#include "ui/highscore_fenster.h"
-#include "ui/hilfe_fenster.h"
-#include "ui/info_win.h"
-#include "ui/stat_form.h"
+#include "ui/meldung.h"
 #include "ui/titel.h"
 
 namespace fuh {
@@ -34,37 +27,30 @@ uint32_t sekundenSeitMitternacht() {
     return static_cast<uint32_t>(QTime::currentTime().msecsSinceStartOfDay() / 1000);
 }
 
-// Places the top-level window `w` to the right of `nachbar`, or to its left where the screen ends.
-void nebenStellen(QWidget* w, const QWidget* nachbar) {
-    constexpr int kAbstand = 12;
-    w->adjustSize();
-    const QRect n = nachbar->frameGeometry();
-    QPoint p(n.right() + 1 + kAbstand, n.top());
-    if (const QScreen* bildschirm = nachbar->screen()) {
-        const QRect frei = bildschirm->availableGeometry();
-        if (p.x() + w->width() > frei.right() && n.left() - kAbstand - w->width() >= frei.left())
-            p.setX(n.left() - kAbstand - w->width());
+// The player's own settings of this window (size, pace); the game's settings stay in QZ.INI.
+QSettings fensterEinstellungen() {
+    return QSettings(QSettings::NativeFormat, QSettings::UserScope, QStringLiteral("fuchs-und-hennen"),
+                     QStringLiteral("fenster"));
+}
+
+const char* tempoName(Tempo t) {
+    switch (t) {
+    case Tempo::sofort:
+        return "sofort";
+    case Tempo::schnell:
+        return "schnell";
+    case Tempo::normal:
+        break;
+    case Tempo::langsam:
+        return "langsam";
     }
-    w->move(p);
+    return "normal";
 }
 
-void hervorholen(QWidget* w) {
-    w->show();
-    w->raise();
-    w->activateWindow();
-}
-
-// Windows that exist only once: asking again brings the open one forward, else `neu` makes one.
-template <class W, class Neu> void einmalZeigen(QPointer<W>& offen, Neu neu) {
-    if (!offen) offen = neu();
-    hervorholen(offen);
-}
-
-// Windows that show the files as they are now: a fresh one from `neu` replaces the open one.
-template <class W, class Neu> void neuZeigen(QPointer<W>& offen, Neu neu) {
-    if (offen) offen->close();
-    offen = neu();
-    hervorholen(offen);
+Tempo tempoAusName(const QString& name) {
+    for (Tempo t : {Tempo::sofort, Tempo::schnell, Tempo::langsam})
+        if (name == QLatin1String(tempoName(t))) return t;
+    return Tempo::normal;
 }
 
 } // namespace
@@ -73,36 +59,63 @@ BrettFenster::BrettFenster(std::filesystem::path ordner, QWidget* parent)
     : BrettFenster(std::move(ordner), sekundenSeitMitternacht(), parent) {}
 
 BrettFenster::BrettFenster(std::filesystem::path ordner, uint32_t startzeit, QWidget* parent)
-    : QMainWindow(parent) {
+    : QMainWindow(parent), wiedergabe_([this](const Ereignis& e) { zeigen(e); }) {
     setObjectName(QStringLiteral("brett"));
     setWindowTitle(QString::fromUtf8(kTitel));
 
-    brett_ = new BrettFlaeche([this] { return spiel_->ziehbar(); }, this);
+    brett_ = new BrettFlaeche([this] { return spiel_->ziehbar() && !beschaeftigt(); }, this);
     setCentralWidget(brett_);
     menueAnlegen();
     statusleisteAnlegen();
-    layout()->setSizeConstraint(QLayout::SetFixedSize);
+    wiedergabe_.setTempo(tempoAusName(fensterEinstellungen().value(QStringLiteral("tempo")).toString()));
+    tempoSetzen(wiedergabe_.tempo());
+    groesseLaden();
 
     spiel_ = std::make_unique<Spiel>(*this, zufall_, std::move(ordner));
-    connect(brett_, &BrettFlaeche::figurGedrueckt, this,
-            [this](int k, Maustaste taste) { spiel_->figur_MouseDown(k, taste); });
-    connect(brett_, &BrettFlaeche::abgelegt, this, [this](int t, int k) { spiel_->platz_DragDrop(t, k); });
+    // Computer against computer is shown move by move; the next move is asked for when one has been seen.
+    spiel_->schrittweise(true);
+    connect(brett_, &BrettFlaeche::figurGedrueckt, this, [this](int k, Maustaste taste) {
+        if (beschaeftigt()) return;
+        spiel_->figur_MouseDown(k, taste);
+        spielWeiter();
+    });
+    connect(brett_, &BrettFlaeche::abgelegt, this, [this](int t, int k) {
+        if (beschaeftigt()) return;
+        spiel_->platz_DragDrop(t, k);
+        spielWeiter();
+    });
+    connect(&wiedergabe_, &Wiedergabe::fertig, this, &BrettFenster::wiedergabeFertig);
+    naechsterZug_.setSingleShot(true);
+    connect(&naechsterZug_, &QTimer::timeout, this, &BrettFenster::selbstspielSchritt);
 
     spiel_->Form_Load(startzeit);
-    bilderAbgleichen();
+    // Start-up moves nothing that could be paced: its reports are shown at once.
+    wiedergabe_.abbrechen([](const Ereignis&) { return true; });
+    // The images stand where the game keeps them before the window is first shown.
+    const Figurbilder& bilder = spiel_->bilder();
+    for (int k = 0; k < kFiguren; ++k) {
+        brett_->figurSetzen(k, bilder.left[k], bilder.top[k]);
+        brett_->figurZeigen(k, bilder.sichtbar[k]);
+    }
+    befehleAbgleichen();
 
     timer1_.setInterval(500);
     connect(&timer1_, &QTimer::timeout, this, &BrettFenster::Timer1_Timer);
     timer1_.start();
 }
 
-BrettFenster::~BrettFenster() = default;
+BrettFenster::~BrettFenster() {
+    fensterEinstellungen().setValue(QStringLiteral("geometrie"), saveGeometry());
+}
 
 void BrettFenster::anwendungEinrichten(QApplication& app) {
     QApplication::setApplicationName(QString::fromUtf8(kTitel));
     QApplication::setApplicationDisplayName(QString::fromUtf8(kTitel));
     QGuiApplication::setDesktopFileName(QStringLiteral("org.example.FuchsUndHennen"));
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/bilder/app.svg")));
+    // Without a configured locale Qt writes dates in an English "C" format; the game speaks German.
+    if (QLocale::system().language() == QLocale::C)
+        QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
     auto* uebersetzung = new QTranslator(&app);
     if (uebersetzung->load(QStringLiteral("qtbase_de"), QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
         QApplication::installTranslator(uebersetzung);
@@ -110,164 +123,176 @@ void BrettFenster::anwendungEinrichten(QApplication& app) {
         delete uebersetzung;
 }
 
-void BrettFenster::menueAnlegen() {
-    auto aktion = [this](QMenu* menue, const char* name, const QString& text, auto slot) {
-        QAction* a = menue->addAction(text);
-        a->setObjectName(QString::fromLatin1(name));
-        connect(a, &QAction::triggered, this, slot);
-    };
-
-    QMenu* spielMenue = menuBar()->addMenu(QStringLiteral("&Spiel"));
-    spielMenue->setObjectName(QStringLiteral("spiel"));
-    // A computer game does not return to the event loop until it is over, so the window is painted
-    // whole before it starts: the menu has already been taken off the screen, and its picture must
-    // not stay over the board.
-    aktion(spielMenue, "start", QStringLiteral("&Start"), [this] {
-        ganzMalen();
-        spiel_->start_Click();
-    });
-    aktion(spielMenue, "Neu", QStringLiteral("&Neu"), [this] {
-        ganzMalen();
-        spiel_->Neu_Click();
-    });
-    spielMenue->addSeparator();
-    aktion(spielMenue, "Beenden", QStringLiteral("&Beenden"), [] { QApplication::quit(); });
-
-    // A command right on the menu bar, as the game has always had it.
-    QAction* einstellungen = menuBar()->addAction(QStringLiteral("&Einstellungen"));
-    einstellungen->setObjectName(QStringLiteral("Einstellungen"));
-    connect(einstellungen, &QAction::triggered, this, &BrettFenster::einstellungenZeigen);
-
-    QMenu* ergebnisse = menuBar()->addMenu(QStringLiteral("E&rgebnisse"));
-    ergebnisse->setObjectName(QStringLiteral("erg"));
-    aktion(ergebnisse, "Stt", QStringLiteral("&Statistik"), [this] { statistikZeigen(); });
-    aktion(ergebnisse, "highfu", QStringLiteral("Highscore &Fuchs"),
-           [this] { highscoreZeigen(Seite::Fuchs); });
-    aktion(ergebnisse, "highhe", QStringLiteral("Highscore &Hennen"),
-           [this] { highscoreZeigen(Seite::Hennen); });
-
-    QMenu* hilfe = menuBar()->addMenu(QStringLiteral("&Hilfe"));
-    hilfe->setObjectName(QStringLiteral("hilfe"));
-    aktion(hilfe, "help", QStringLiteral("&Hilfe"), [this] {
-        // The help always opens at its first topic, also when it was left open elsewhere.
-        einmalZeigen(hilfe_, [this] { return new HilfeFenster(this); });
-        hilfe_->zumAnfang();
-    });
-    aktion(hilfe, "info", QStringLiteral("&Info"),
-           [this] { einmalZeigen(info_, [this] { return new InfoWin(this); }); });
-}
-
-void BrettFenster::ganzMalen() {
-    // Painting processes no events. The main window's own repaint leaves the board on the screen as
-    // it was, so each part is painted itself.
-    for (QWidget* teil : {static_cast<QWidget*>(menuBar()), static_cast<QWidget*>(brett_),
-                          static_cast<QWidget*>(statusBar())})
-        teil->repaint();
-}
-
-void BrettFenster::statusleisteAnlegen() {
-    QStatusBar* leiste = statusBar();
-    leiste->setObjectName(QStringLiteral("StatusBar1"));
-    leiste->setSizeGripEnabled(false);
-    const std::array<int, 3> anteile = {2, 1, 1};
-    for (size_t i = 0; i < panels_.size(); ++i) {
-        auto* label = new QLabel(leiste);
-        label->setObjectName(QStringLiteral("panel%1").arg(i + 1));
-        label->setMinimumWidth(1); // long texts must not widen the fixed window
-        leiste->addWidget(label, anteile[i]);
-        panels_[i] = label;
+void BrettFenster::groesseLaden() {
+    if (restoreGeometry(fensterEinstellungen().value(QStringLiteral("geometrie")).toByteArray())) return;
+    // First start: a board of about three fifths of the screen's height, never below its own size.
+    int seite = BrettFlaeche::kSeite;
+    if (const QScreen* bildschirm = screen()) {
+        const QRect frei = bildschirm->availableGeometry();
+        seite = std::max(seite, std::min(frei.width(), frei.height()) * 3 / 5);
     }
+    resize(seite, seite + menuBar()->sizeHint().height() + statusBar()->sizeHint().height());
 }
 
-void BrettFenster::bilderAbgleichen() {
-    const Figurbilder& b = spiel_->bilder();
-    for (int k = 0; k < kFiguren; ++k) {
-        brett_->figurSetzen(k, b.left[k], b.top[k]);
-        brett_->figurZeigen(k, b.sichtbar[k]);
-    }
+void BrettFenster::tempoSetzen(Tempo t) {
+    wiedergabe_.setTempo(t);
+    fensterEinstellungen().setValue(QStringLiteral("tempo"), QString::fromLatin1(tempoName(t)));
+    const std::array<Tempo, 3> stufen = {Tempo::schnell, Tempo::normal, Tempo::langsam};
+    for (size_t i = 0; i < stufen.size(); ++i)
+        if (tempoAktionen_[i]) tempoAktionen_[i]->setChecked(stufen[i] == t);
+}
+
+bool BrettFenster::beschaeftigt() const {
+    return wiedergabe_.laeuft() || naechsterZug_.isActive() || (spiel_ && spiel_->selbstspielLaeuft());
 }
 
 void BrettFenster::Timer1_Timer() {
-    timer1_.stop();
+    // A requested reply waits until the player has seen everything before it.
+    if (beschaeftigt()) return;
     spiel_->Timer1_Timer();
-    timer1_.start();
+    spielWeiter();
+}
+
+void BrettFenster::neu() {
+    naechsterZug_.stop();
+    wartendeEinstellungen_.reset(); // the new game reads the settings file
+    // The abandoned game's pictures go where it left them and its announcements are dropped; a failure
+    // to save and the high-score list of a finished game still reach the player.
+    wiedergabe_.abbrechen([](const Ereignis& e) {
+        return e.art == Ereignis::Art::speicherfehler || e.art == Ereignis::Art::oeffnen;
+    });
+    brett_->ziehenAbbrechen();
+    brett_->markierungLoeschen();
+    statusBar()->clearMessage();
+    spiel_->Neu_Click();
+    spielWeiter();
+}
+
+void BrettFenster::spielWeiter() {
+    befehleAbgleichen(); // before a message of the game may open
+    wiedergabe_.abspielen();
+    befehleAbgleichen();
+}
+
+void BrettFenster::wiedergabeFertig() {
+    if (selbstspielSchleife_) return;
+    if (spiel_->selbstspielLaeuft()) {
+        if (wiedergabe_.gleitdauer() > 0) {
+            naechsterZug_.start(wiedergabe_.gleitdauer());
+            return;
+        }
+        // Shown at once: the whole game is played here.
+        selbstspielSchleife_ = true;
+        while (spiel_->selbstspielLaeuft() && !wiedergabe_.laeuft()) {
+            spiel_->selbstspielZug();
+            wiedergabe_.abspielen();
+        }
+        selbstspielSchleife_ = false;
+    }
+    if (wartendeEinstellungen_ && !spiel_->selbstspielLaeuft()) {
+        spiel_->einstellungenUebernehmen(*wartendeEinstellungen_);
+        wartendeEinstellungen_.reset();
+    }
+    befehleAbgleichen();
+}
+
+void BrettFenster::selbstspielSchritt() {
+    spiel_->selbstspielZug();
+    spielWeiter();
+}
+
+void BrettFenster::befehleAbgleichen() {
+    const bool frei = !beschaeftigt();
+    for (QAction* a : wartendeBefehle_)
+        a->setEnabled(frei);
+}
+
+void BrettFenster::zeigen(const Ereignis& e) {
+    switch (e.art) {
+    case Ereignis::Art::bewegt:
+    case Ereignis::Art::gleitet:
+        brett_->figurSetzen(e.a, e.b, e.c);
+        break;
+    case Ereignis::Art::sichtbar:
+        brett_->figurZeigen(e.a, e.ja);
+        break;
+    case Ereignis::Art::ziehbar:
+        if (!e.ja) brett_->ziehenAbbrechen();
+        break;
+    case Ereignis::Art::hinweis:
+        brett_->hinweisZeigen(static_cast<Hinweis>(e.a), e.ja);
+        break;
+    case Ereignis::Art::status:
+        panel(e.a)->setText(e.text);
+        break;
+    case Ereignis::Art::zugbegrenzung:
+        statusBar()->showMessage(QStringLiteral("Remis: Zugbegrenzung erreicht"));
+        break;
+    case Ereignis::Art::zug:
+        if (e.ja)
+            brett_->zugMarkieren(e.a, e.b);
+        else
+            brett_->markierungLoeschen();
+        break;
+    case Ereignis::Art::meldung:
+        meldungZeigen(this, QMessageBox::NoIcon, e.text);
+        break;
+    case Ereignis::Art::speicherfehler:
+        meldungZeigen(this, QMessageBox::Warning, e.text);
+        break;
+    case Ereignis::Art::oeffnen:
+        highscoreNachDemSpiel(static_cast<Fenster>(e.a) == Fenster::highf ? Seite::Fuchs : Seite::Hennen);
+        break;
+    }
 }
 
 void BrettFenster::figurBewegt(int k, int left, int top) {
-    brett_->figurSetzen(k, left, top);
+    zuletztGeglitten_ = false;
+    wiedergabe_.anhaengen(Ereignis::Art::bewegt, k, left, top);
+}
+
+void BrettFenster::figurGleitet(int k, int left, int top) {
+    zuletztGeglitten_ = true;
+    wiedergabe_.anhaengen(Ereignis::Art::gleitet, k, left, top);
 }
 
 void BrettFenster::figurSichtbar(int k, bool sichtbar) {
-    brett_->figurZeigen(k, sichtbar);
+    wiedergabe_.anhaengen(Ereignis::Art::sichtbar, k, 0, 0, sichtbar);
 }
 
 void BrettFenster::figurenZiehbar(bool ziehbar) {
-    if (!ziehbar) brett_->ziehenAbbrechen();
+    wiedergabe_.anhaengen(Ereignis::Art::ziehbar, 0, 0, 0, ziehbar);
 }
 
 void BrettFenster::hinweis(Hinweis h, bool sichtbar) {
-    brett_->hinweisZeigen(h, sichtbar);
+    wiedergabe_.anhaengen(Ereignis::Art::hinweis, static_cast<int>(h), 0, 0, sichtbar);
 }
 
 void BrettFenster::status(Statusfeld feld, const std::string& text) {
-    panel(static_cast<int>(feld))->setText(QString::fromStdString(text));
+    wiedergabe_.anhaengen(Ereignis::Art::status, static_cast<int>(feld), 0, 0, false,
+                          QString::fromStdString(text));
 }
 
 void BrettFenster::meldung(const std::string& text) {
-    // The game is in the middle of a procedure: no tick may enter it while the message is open.
-    const bool tickte = timer1_.isActive();
-    timer1_.stop();
-    QMessageBox box(QMessageBox::NoIcon, QString::fromUtf8(kTitel), QString::fromStdString(text),
-                    QMessageBox::Ok, this);
-    box.exec();
-    ganzMalen(); // the game may go on without the event loop: the box must not leave a hole behind
-    if (tickte) timer1_.start();
+    wiedergabe_.anhaengen(Ereignis::Art::meldung, 0, 0, 0, false, QString::fromStdString(text));
+}
+
+void BrettFenster::speicherfehler(const std::string& text) {
+    wiedergabe_.anhaengen(Ereignis::Art::speicherfehler, 0, 0, 0, false, QString::fromStdString(text));
+}
+
+void BrettFenster::zugbegrenzungErreicht() {
+    wiedergabe_.anhaengen(Ereignis::Art::zugbegrenzung);
 }
 
 void BrettFenster::oeffnen(Fenster f) {
-    highscoreNachDemSpiel(f == Fenster::highf ? Seite::Fuchs : Seite::Hennen);
+    wiedergabe_.anhaengen(Ereignis::Art::oeffnen, static_cast<int>(f));
 }
 
-void BrettFenster::einstellungenZeigen() {
-    einmalZeigen(einst_, [this] {
-        return new EinstDialog(
-            spiel_->oeffentlich().einst, spiel_->ordner(),
-            [this](Statusfeld feld, const QString& text) { status(feld, text.toStdString()); },
-            [this](const Einstellungen& e) { spiel_->einstellungenUebernehmen(e); }, this);
-    });
-}
-
-void BrettFenster::statistikZeigen() {
-    neuZeigen(stat_, [this] { return new StatForm(spiel_->ordner(), this); });
-}
-
-std::vector<HighscoreFenster*> BrettFenster::wartendeListen(Seite seite) const {
-    std::vector<HighscoreFenster*> wartend;
-    for (HighscoreFenster* w : findChildren<HighscoreFenster*>(Qt::FindDirectChildrenOnly))
-        if (w->liste().seite() == seite && !w->isHidden() && w->liste().hatNeueZeile()) wartend.push_back(w);
-    return wartend;
-}
-
-void BrettFenster::highscoreZeigen(Seite seite) {
-    // A list whose new row still waits for its name is never replaced: a fresh one would not have it.
-    const std::vector<HighscoreFenster*> wartend = wartendeListen(seite);
-    for (HighscoreFenster* w : wartend)
-        hervorholen(w);
-    if (!wartend.empty()) return;
-    // A fresh window also enters a just finished game.
-    neuZeigen(highscore_[seite == Seite::Fuchs ? 0 : 1], [this, seite] {
-        return new HighscoreFenster(seite, spiel_->oeffentlich(), spiel_->ordner(), this);
-    });
-}
-
-void BrettFenster::highscoreNachDemSpiel(Seite seite) {
-    QPointer<HighscoreFenster>& offen = highscore_[seite == Seite::Fuchs ? 0 : 1];
-    const std::vector<HighscoreFenster*> wartend = wartendeListen(seite);
-    if (offen && std::find(wartend.begin(), wartend.end(), offen.data()) == wartend.end()) offen->close();
-    offen = new HighscoreFenster(seite, spiel_->oeffentlich(), spiel_->ordner(), this);
-    // The entry of an earlier game still waits for its name: both stay open, side by side.
-    if (!wartend.empty()) nebenStellen(offen, wartend.back());
-    hervorholen(offen);
+void BrettFenster::zugAusgefuehrt(int vonX, int vonY, int nachX, int nachY, bool /*normal*/) {
+    // A computer piece slides; the player's own piece is set down at once.
+    wiedergabe_.anhaengen(Ereignis::Art::zug, feldNummer(vonX, vonY), feldNummer(nachX, nachY), 0,
+                          zuletztGeglitten_);
 }
 
 } // namespace fuh

@@ -5,6 +5,8 @@
 #include <QFontDatabase>
 #include <QFontMetrics>
 #include <QMouseEvent>
+#include <QPainter>
+#include <cmath>
 #include <utility>
 
 #include "board/bildlage.h"
@@ -12,12 +14,6 @@
 namespace fuh {
 
 namespace {
-
-constexpr int pixel(int twips) {
-    return twips / kTwipsProPixel;
-}
-
-const QSize kBild(pixel(kBildgroesse), pixel(kBildgroesse));
 
 struct HinweisLage {
     Hinweis h;
@@ -34,9 +30,11 @@ constexpr std::array<HinweisLage, 4> kHinweise = {{
     {Hinweis::spr_msg, "spr_msg", "Sprung mit rechter Maustaste abschließen !", 4080, 600, 1455, 1095},
 }};
 
-// Bold 9.75 points in the first of these narrow sans-serif faces the system has, else in its default
-// sans-serif face.
-QFont hinweisSchrift() {
+const QColor kRand(0x1d, 0x3a, 0x10); // around the board where the window is not square
+
+// Bold 9.75 points (at scale 1) in the first of these narrow sans-serif faces the system has, else in
+// its default sans-serif face.
+QFont hinweisSchrift(double skala) {
     QFont schrift(QStringLiteral("Sans Serif"));
     for (const char* familie : {"Liberation Sans", "Arial", "Helvetica", "Nimbus Sans"}) {
         if (QFontDatabase::hasFamily(QString::fromLatin1(familie))) {
@@ -45,19 +43,19 @@ QFont hinweisSchrift() {
         }
     }
     schrift.setStyleHint(QFont::SansSerif);
-    schrift.setPointSizeF(9.75);
+    schrift.setPointSizeF(9.75 * skala);
     schrift.setBold(true);
     return schrift;
 }
 
-// A face in which a prompt does not fit its fixed box is made smaller until every prompt fits.
-QFont passendeSchrift(QFont schrift, const QString& text, QSize platz) {
+// A face in which a prompt does not fit its box is made smaller until it fits.
+QFont passendeSchrift(QFont schrift, const QString& text, QSize platz, double skala) {
     const QRect rahmen(QPoint(0, 0), platz);
-    while (schrift.pointSizeF() > 6.5) {
+    while (schrift.pointSizeF() > 6.5 * skala) {
         const QRect noetig =
             QFontMetrics(schrift).boundingRect(rahmen, Qt::AlignCenter | Qt::TextWordWrap, text);
         if (noetig.width() <= platz.width() && noetig.height() <= platz.height()) break;
-        schrift.setPointSizeF(schrift.pointSizeF() - 0.25);
+        schrift.setPointSizeF(schrift.pointSizeF() - 0.25 * skala);
     }
     return schrift;
 }
@@ -69,62 +67,141 @@ QString figurDatei(int k) {
 } // namespace
 
 BrettFlaeche::BrettFlaeche(std::function<bool()> ziehbar, QWidget* parent)
-    : SvgBild(QStringLiteral(":/bilder/brett.svg"), QSize(kSeite, kSeite), parent),
-      ziehbar_(std::move(ziehbar)) {
-    setAttribute(Qt::WA_TransparentForMouseEvents, false);
-    setAttribute(Qt::WA_TranslucentBackground, false);
+    : QWidget(parent), ziehbar_(std::move(ziehbar)) {
     setAttribute(Qt::WA_OpaquePaintEvent);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     setMouseTracking(true); // for the hand cursor over draggable pieces
 
     // The prompts lie over empty corners of the board; the pieces are created later and so stay on top.
-    QFont schrift = hinweisSchrift();
-    // One size for all four, the largest with which every text fits its box.
-    const QSize rand(6, 4);
-    for (const HinweisLage& lage : kHinweise) {
-        const QSize groesse(pixel(lage.width), pixel(lage.height));
-        const QFont passend = passendeSchrift(schrift, QString::fromUtf8(lage.text), groesse - rand);
-        if (passend.pointSizeF() < schrift.pointSizeF()) schrift = passend;
-    }
     for (const HinweisLage& lage : kHinweise) {
         auto* label = new QLabel(QString::fromUtf8(lage.text), this);
         label->setObjectName(QString::fromLatin1(lage.name));
-        label->setFont(schrift);
         label->setWordWrap(true);
         label->setAlignment(Qt::AlignCenter);
-        label->setStyleSheet(QStringLiteral("QLabel { color: #fffbe0; background-color: rgba(24, 72, 0, 185);"
-                                            " border: 1px solid rgba(255, 255, 255, 90); border-radius: 5px;"
-                                            " padding: 1px 2px; }"));
-        label->setGeometry(pixel(lage.left), pixel(lage.top), pixel(lage.width), pixel(lage.height));
         label->setAttribute(Qt::WA_TransparentForMouseEvents);
         label->hide();
         hinweise_[static_cast<int>(lage.h)] = label;
     }
-
+    const QSize bild(kBildgroesse / kTwipsProPixel, kBildgroesse / kTwipsProPixel);
     for (int k = 0; k < kFiguren; ++k) {
-        auto* figur = new SvgBild(figurDatei(k), kBild, this);
+        auto* figur = new SvgBild(figurDatei(k), bild, this);
         figur->setObjectName(QStringLiteral("figur%1").arg(k));
         figuren_[k] = figur;
+    }
+    hinweiseAnordnen();
+}
+
+QPointF BrettFlaeche::abbild(double left, double top) const {
+    // Divided last, so that a point on the pixel grid at scale 1 stays exactly on it.
+    constexpr double kTwipsProSeite = kSeite * kTwipsProPixel;
+    return QPointF(ursprung_) + QPointF(left * seite_ / kTwipsProSeite, top * seite_ / kTwipsProSeite);
+}
+
+QRect BrettFlaeche::figurRechteck(int k) const {
+    const QPointF p = abbild(lagen_[k].x(), lagen_[k].y());
+    const int groesse = static_cast<int>(std::lround(kBildgroesse * skala() / kTwipsProPixel));
+    return {static_cast<int>(std::floor(p.x())), static_cast<int>(std::floor(p.y())), groesse, groesse};
+}
+
+void BrettFlaeche::resizeEvent(QResizeEvent*) {
+    seite_ = std::max(1, std::min(width(), height()));
+    ursprung_ = QPoint((width() - seite_) / 2, (height() - seite_) / 2);
+    brett_ = QPixmap();
+    for (int k = 0; k < kFiguren; ++k)
+        figuren_[k]->setGeometry(figurRechteck(k));
+    if (schwebend_) {
+        griff_ = griff_ * figurRechteck(gezogen_).width() / std::max(1, schwebend_->width());
+        schwebend_->resize(figurRechteck(gezogen_).size());
+    }
+    hinweiseAnordnen();
+}
+
+void BrettFlaeche::hinweiseAnordnen() {
+    // One size for all four, the largest with which every text fits its box at this scale.
+    const double s = skala();
+    QFont schrift = hinweisSchrift(s);
+    const QSize rand(static_cast<int>(6 * s), static_cast<int>(4 * s));
+    auto rechteck = [this](const HinweisLage& l) {
+        const QPointF a = abbild(l.left, l.top);
+        const QPointF b = abbild(l.left + l.width, l.top + l.height);
+        return QRectF(a, b).toRect();
+    };
+    for (const HinweisLage& lage : kHinweise) {
+        const QFont passend =
+            passendeSchrift(schrift, QString::fromUtf8(lage.text), rechteck(lage).size() - rand, s);
+        if (passend.pointSizeF() < schrift.pointSizeF()) schrift = passend;
+    }
+    const QString stil =
+        QStringLiteral(
+            "QLabel { color: #fffbe0; background-color: rgba(24, 72, 0, 185);"
+            " border: %1px solid rgba(255, 255, 255, 90); border-radius: %2px; padding: %3px %4px; }")
+            .arg(std::max(1, static_cast<int>(s)))
+            .arg(std::lround(5 * s))
+            .arg(std::lround(s))
+            .arg(std::lround(2 * s));
+    for (const HinweisLage& lage : kHinweise) {
+        QLabel* label = hinweisLabel(lage.h);
+        label->setFont(schrift);
+        label->setStyleSheet(stil);
+        label->setGeometry(rechteck(lage));
+    }
+}
+
+void BrettFlaeche::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    const QRect brett = brettRechteck();
+    const qreal dpr = devicePixelRatioF();
+    if (brett_.isNull() || brett_.devicePixelRatio() != dpr)
+        brett_ = svgPixmap(QStringLiteral(":/bilder/brett.svg"), brett.size(), dpr);
+    // Only the strips beside the square need the frame colour.
+    const QRegion rand = QRegion(rect()).subtracted(brett);
+    for (const QRect& r : rand)
+        painter.fillRect(r, kRand);
+    painter.drawPixmap(brett.topLeft(), brett_);
+
+    if (!markierung_) return;
+    // Rings around the two points, just outside a piece standing there; the origin's is fainter.
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setBrush(Qt::NoBrush);
+    const double s = skala();
+    const double radius = 19.5 * s;
+    const auto [von, nach] = *markierung_;
+    for (const auto& [feld, deckung] : {std::pair{von, 110}, std::pair{nach, 190}}) {
+        painter.setPen(QPen(QColor(255, 232, 120, deckung), std::max(1.5, 2.2 * s)));
+        const QPointF mitte =
+            abbild(platzLeft(feld) + kBildgroesse / 2.0, platzTop(feld) + kBildgroesse / 2.0);
+        painter.drawEllipse(mitte, radius, radius);
     }
 }
 
 void BrettFlaeche::figurSetzen(int k, int left, int top) {
-    SvgBild* figur = figuren_[k];
-    const QRect vorher = figur->geometry();
-    figur->move(pixel(left), pixel(top));
-    if (figur->isVisible()) repaint(vorher.united(figur->geometry()));
+    lagen_[k] = QPoint(left, top);
+    figuren_[k]->setGeometry(figurRechteck(k));
+    emit figurVersetzt(k, left, top);
 }
 
 void BrettFlaeche::figurZeigen(int k, bool sichtbar) {
-    SvgBild* figur = figuren_[k];
     if (!sichtbar && gezogen_ == k) ziehenAbbrechen();
-    figur->setVisible(sichtbar);
-    repaint(figur->geometry());
+    figuren_[k]->setVisible(sichtbar);
 }
 
 void BrettFlaeche::hinweisZeigen(Hinweis h, bool sichtbar) {
-    QLabel* label = hinweisLabel(h);
-    label->setVisible(sichtbar);
-    repaint(label->geometry());
+    hinweisLabel(h)->setVisible(sichtbar);
+}
+
+void BrettFlaeche::zugMarkieren(int von, int nach) {
+    // A further jump of the same piece continues the chain: the chain's origin stays marked.
+    if (markierung_ && markierung_->second == von)
+        markierung_->second = nach;
+    else
+        markierung_ = {von, nach};
+    update();
+}
+
+void BrettFlaeche::markierungLoeschen() {
+    if (!markierung_) return;
+    markierung_.reset();
+    update();
 }
 
 int BrettFlaeche::figurAn(QPoint p) const {
@@ -135,8 +212,11 @@ int BrettFlaeche::figurAn(QPoint p) const {
 }
 
 int BrettFlaeche::platzAn(QPoint p) const {
-    for (int t = 0; t < kFelder; ++t)
-        if (QRect(QPoint(pixel(platzLeft(t)), pixel(platzTop(t))), kBild).contains(p)) return t;
+    // Back to twips, where the targets are defined.
+    const double s = kTwipsProPixel / skala();
+    const QPointF t = (QPointF(p) - QPointF(ursprung_)) * s;
+    for (int f = 0; f < kFelder; ++f)
+        if (QRectF(platzLeft(f), platzTop(f), kBildgroesse, kBildgroesse).contains(t)) return f;
     return -1;
 }
 
@@ -167,7 +247,7 @@ void BrettFlaeche::mousePressEvent(QMouseEvent* event) {
     // The original image stays where it is until the game makes the move; a copy follows the cursor.
     gezogen_ = k;
     griff_ = p - figuren_[k]->pos();
-    schwebend_ = new SvgBild(figuren_[k]->datei(), kBild, this);
+    schwebend_ = new SvgBild(figuren_[k]->datei(), figuren_[k]->size(), this);
     schwebend_->setDeckkraft(0.75);
     schwebend_->move(p - griff_);
     schwebend_->show();

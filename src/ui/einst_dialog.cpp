@@ -1,10 +1,8 @@
 #include "ui/einst_dialog.h"
-#include "ui/titel.h"
 
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLabel>
-#include <QMessageBox>
 #include <QPalette>
 #include <QPushButton>
 #include <QStyle>
@@ -14,6 +12,7 @@
 #include "board/bildlage.h"
 #include "dialogs/einstellungsdatei.h"
 #include "dialogs/statustexte.h"
+#include "ui/meldung.h"
 
 namespace fuh {
 
@@ -133,10 +132,10 @@ void EinstDialog::ok_Click() {
     if (uebernehmen_) uebernehmen_(e);
     if (!einstellungenSchreiben(ordner_, e)) {
         // The next new game reads the file again, so the settings last only for the game being played.
-        QMessageBox::warning(this, QString::fromUtf8(kTitel),
-                             QStringLiteral("Die Einstellungen konnten nicht in „%1“ gespeichert werden. "
-                                            "Sie gelten nur für das laufende Spiel.")
-                                 .arg(QString::fromUtf8(kEinstellungsdatei)));
+        meldungZeigen(this, QMessageBox::Warning,
+                      QStringLiteral("Die Einstellungen konnten nicht in „%1“ gespeichert werden. "
+                                     "Sie gelten nur für das laufende Spiel.")
+                          .arg(QString::fromUtf8(kEinstellungsdatei)));
     }
     if (statusSetzen_) {
         if (const auto t = pcStatustext(e.PC)) statusSetzen_(Statusfeld::seite, QString::fromStdString(*t));

@@ -1,5 +1,4 @@
 #include "ui/highscore_fenster.h"
-#include "ui/titel.h"
 
 #include <QDate>
 #include <QGridLayout>
@@ -7,10 +6,11 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QLocale>
-#include <QMessageBox>
 #include <QPushButton>
 #include <QVBoxLayout>
 #include <cmath>
+
+#include "ui/meldung.h"
 
 namespace fuh {
 
@@ -37,12 +37,12 @@ double oleDatumHeute() {
     return static_cast<double>(kNullDatum.daysTo(QDate::currentDate()));
 }
 
-// The cell text of a stored date: the short system format, or empty for 0 and unusable values.
+// The cell text of a stored date: the short format of the locale in use, or empty for 0 and unusable values.
 QString datumText(double oleDatum) {
     // The range OLE dates can express (years 100 to 9999); anything else is a damaged file.
     if (!std::isfinite(oleDatum) || oleDatum == 0 || oleDatum < -657434.0 || oleDatum >= 2958466.0) return {};
     const QDate d = kNullDatum.addDays(static_cast<qint64>(std::trunc(oleDatum)));
-    return d.isValid() ? QLocale::system().toString(d, QLocale::ShortFormat) : QString();
+    return d.isValid() ? QLocale().toString(d, QLocale::ShortFormat) : QString();
 }
 
 } // namespace
@@ -119,9 +119,9 @@ HighscoreFenster::HighscoreFenster(Seite seite, Oeffentlich& spiel, std::filesys
 
 void HighscoreFenster::ok_Click() {
     if (!liste_.speichern(ordner_)) {
-        QMessageBox::warning(this, QString::fromUtf8(kTitel),
-                             QStringLiteral("Die Highscore-Liste „%1“ konnte nicht gespeichert werden.")
-                                 .arg(QString::fromLatin1(bestenlistendatei(liste_.seite()))));
+        meldungZeigen(this, QMessageBox::Warning,
+                      QStringLiteral("Die Highscore-Liste „%1“ konnte nicht gespeichert werden.")
+                          .arg(QString::fromLatin1(bestenlistendatei(liste_.seite()))));
         return;
     }
     close();

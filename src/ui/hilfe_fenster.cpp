@@ -1,8 +1,10 @@
 #include "ui/hilfe_fenster.h"
 
 #include <QHBoxLayout>
+#include <QKeySequence>
 #include <QPushButton>
 #include <QScrollBar>
+#include <QShortcut>
 #include <QTextBrowser>
 #include <QUrl>
 #include <QVBoxLayout>
@@ -15,7 +17,8 @@ const QUrl kStartseite(QStringLiteral("qrc:/hilfe/ratgeber.html"));
 
 HilfeFenster::HilfeFenster(QWidget* parent) : QWidget(parent, Qt::Window) {
     setAttribute(Qt::WA_DeleteOnClose);
-    setWindowTitle(QStringLiteral("Fuchs und Hennen – Hilfe"));
+    // The platform adds the application's name to the caption.
+    setWindowTitle(QStringLiteral("Hilfe"));
 
     auto* haupt = new QVBoxLayout(this);
     auto* leiste = new QHBoxLayout;
@@ -24,9 +27,12 @@ HilfeFenster::HilfeFenster(QWidget* parent) : QWidget(parent, Qt::Window) {
     zurueck->setEnabled(false);
     auto* start = new QPushButton(QStringLiteral("Inhalt"), this);
     start->setObjectName(QStringLiteral("inhalt"));
+    auto* schliessen = new QPushButton(QStringLiteral("Schließen"), this);
+    schliessen->setObjectName(QStringLiteral("schliessen"));
     leiste->addWidget(zurueck);
     leiste->addWidget(start);
     leiste->addStretch();
+    leiste->addWidget(schliessen);
     haupt->addLayout(leiste);
 
     browser_ = new QTextBrowser(this);
@@ -39,6 +45,11 @@ HilfeFenster::HilfeFenster(QWidget* parent) : QWidget(parent, Qt::Window) {
     connect(browser_, &QTextBrowser::backwardAvailable, zurueck, &QPushButton::setEnabled);
     connect(zurueck, &QPushButton::clicked, browser_, &QTextBrowser::backward);
     connect(start, &QPushButton::clicked, this, &HilfeFenster::zumAnfang);
+    connect(schliessen, &QPushButton::clicked, this, &QWidget::close);
+    // Escape closes the help wherever the focus is in it, as in a dialog.
+    auto* escape = new QShortcut(QKeySequence(Qt::Key_Escape), this);
+    escape->setContext(Qt::WindowShortcut);
+    connect(escape, &QShortcut::activated, this, &QWidget::close);
 }
 
 void HilfeFenster::zumAnfang() {

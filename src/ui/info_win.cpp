@@ -45,9 +45,11 @@ InfoWin::InfoWin(QWidget* parent) : QDialog(parent) {
     // It looks like a mail link, but like every label here it does nothing when clicked.
     mail->setTextFormat(Qt::RichText);
     mail->setTextInteractionFlags(Qt::NoTextInteraction);
+    // The address gets a line of its own and is never broken inside.
     text(QStringLiteral("Label4"),
-         QStringLiteral(
-             "Neue Versionen, Informationen und Neuigkeiten: https://example.org/fuchs-und-hennen"));
+         QStringLiteral("Neue Versionen, Informationen und Neuigkeiten:<br>"
+                        "<span style=\"white-space: nowrap\">https://example.org/fuchs-und-hennen</span>"))
+        ->setTextFormat(Qt::RichText);
     auto* ok = new QPushButton(QStringLiteral("Ok"), this);
     ok->setObjectName(QStringLiteral("Command1"));
     ok->setDefault(true);

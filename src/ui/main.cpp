@@ -1,13 +1,12 @@
 // Fuchs und Hennen: starts the main window in the player's data folder.
 #include <QApplication>
 #include <QFile>
-#include <QMessageBox>
 #include <QStandardPaths>
 #include <filesystem>
 #include <system_error>
 
-#include "ui/titel.h"
 #include "ui/brett_fenster.h"
+#include "ui/meldung.h"
 
 namespace {
 
@@ -30,10 +29,10 @@ int main(int argc, char* argv[]) {
     std::filesystem::create_directories(ordner, fehler);
     if (!fehler) std::filesystem::current_path(ordner, fehler);
     if (fehler) {
-        QMessageBox::critical(nullptr, QString::fromUtf8(fuh::kTitel),
-                              QStringLiteral("Der Datenordner %1 ist nicht nutzbar: %2")
-                                  .arg(QString::fromStdString(ordner.string()),
-                                       QString::fromLocal8Bit(fehler.message().c_str())));
+        fuh::meldungZeigen(nullptr, QMessageBox::Critical,
+                           QStringLiteral("Der Datenordner %1 ist nicht nutzbar: %2")
+                               .arg(QString::fromStdString(ordner.string()),
+                                    QString::fromLocal8Bit(fehler.message().c_str())));
         return 1;
     }
 

@@ -2,16 +2,12 @@
 
 #include <QImage>
 #include <QPainter>
-#include <QPixmap>
 #include <QPixmapCache>
 #include <QSvgRenderer>
 #include <utility>
 
 namespace fuh {
 
-namespace {
-
-// The resource `datei` rendered to `groesse` logical pixels at `dpr`; cached, as slides repaint often.
 QPixmap svgPixmap(const QString& datei, QSize groesse, qreal dpr) {
     const QString schluessel =
         QStringLiteral("fuh:%1:%2x%3@%4").arg(datei).arg(groesse.width()).arg(groesse.height()).arg(dpr);
@@ -30,14 +26,13 @@ QPixmap svgPixmap(const QString& datei, QSize groesse, qreal dpr) {
     }
     pixmap = QPixmap::fromImage(bild);
     pixmap.setDevicePixelRatio(dpr);
-    QPixmapCache::insert(schluessel, pixmap);
+    // The board at a large size would only push the pieces out of the cache; its owner keeps it.
+    if (pixel.width() * pixel.height() <= 256 * 256) QPixmapCache::insert(schluessel, pixmap);
     return pixmap;
 }
 
-} // namespace
-
 SvgBild::SvgBild(QString datei, QSize groesse, QWidget* parent) : QWidget(parent), datei_(std::move(datei)) {
-    setFixedSize(groesse);
+    resize(groesse);
     setAttribute(Qt::WA_TranslucentBackground);
     // The board handles every click and drop itself, so presses fall through to it.
     setAttribute(Qt::WA_TransparentForMouseEvents);
@@ -49,9 +44,12 @@ void SvgBild::setDeckkraft(qreal deckkraft) {
 }
 
 void SvgBild::paintEvent(QPaintEvent*) {
+    const qreal dpr = devicePixelRatioF();
+    if (bild_.isNull() || bild_.deviceIndependentSize() != QSizeF(size()) || bild_.devicePixelRatio() != dpr)
+        bild_ = svgPixmap(datei_, size(), dpr);
     QPainter painter(this);
     painter.setOpacity(deckkraft_);
-    painter.drawPixmap(0, 0, svgPixmap(datei_, size(), devicePixelRatioF()));
+    painter.drawPixmap(0, 0, bild_);
 }
 
 } // namespace fuh

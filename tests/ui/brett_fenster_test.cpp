@@ -16,10 +16,7 @@
 #include <optional>
 #include <vector>
 
-#include "board/bildlage.h"
-#include "game/spiel.h"
-#include "ui/brett_fenster.h"
-#include "ui/brett_flaeche.h"
+#include "fenster_aufbau.h"
 #include "ui/einst_dialog.h"
 #include "ui/highscore_fenster.h"
 #include "ui/hilfe_fenster.h"
@@ -27,84 +24,9 @@
 #include "ui/stat_form.h"
 
 using namespace fuh;
+using namespace fuh::test;
 
 namespace {
-
-constexpr uint32_t kStartzeit = 36000; // fixed seed: every run plays the same game
-
-QPoint mitte(int s) {
-    return {(platzLeft(s) + kBildgroesse / 2) / kTwipsProPixel,
-            (platzTop(s) + kBildgroesse / 2) / kTwipsProPixel};
-}
-
-// Accepts every message box that opens and remembers its text.
-class Antworter {
-  public:
-    Antworter() {
-        QObject::connect(&timer_, &QTimer::timeout, [this] {
-            if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
-                texte.push_back(box->text());
-                box->accept();
-            }
-        });
-        timer_.start(5);
-    }
-    std::vector<QString> texte;
-
-  private:
-    QTimer timer_;
-};
-
-struct Aufbau {
-    QTemporaryDir ordner;
-    std::unique_ptr<BrettFenster> fenster;
-
-    // `pc`: the side the computer plays, written to the settings file before the window starts.
-    explicit Aufbau(std::optional<char> pc = std::nullopt) {
-        if (pc)
-            std::ofstream(pfad() / "QZ.INI", std::ios::binary)
-                .write(std::vector<char>{*pc, 0, 0, 0, 0, 0, 0, 0}.data(), 8);
-        fenster = std::make_unique<BrettFenster>(pfad(), kStartzeit);
-        fenster->timer1().stop(); // the tests tick by hand
-        fenster->show();
-    }
-    std::filesystem::path pfad() const { return ordner.path().toStdString(); }
-    Spiel& spiel() { return fenster->spiel(); }
-    BrettFlaeche* brett() { return fenster->brett(); }
-    void aktion(const char* name) {
-        auto* a = fenster->findChild<QAction*>(QString::fromLatin1(name));
-        QVERIFY2(a, name);
-        a->trigger();
-    }
-    QString panel(int n) { return fenster->findChild<QLabel*>(QStringLiteral("panel%1").arg(n))->text(); }
-    bool hinweisSichtbar(const char* name) {
-        return !fenster->findChild<QLabel*>(QString::fromLatin1(name))->isHidden();
-    }
-
-    // A left-button drag from the centre of square `von` to `ziel` (board coordinates).
-    void ziehe(int von, QPoint ziel) {
-        const QPoint start = mitte(von);
-        QTest::mousePress(brett(), Qt::LeftButton, Qt::NoModifier, start);
-        for (int i = 1; i <= 4; ++i)
-            QTest::mouseMove(brett(), start + (ziel - start) * i / 4);
-        QTest::mouseRelease(brett(), Qt::LeftButton, Qt::NoModifier, ziel);
-    }
-    void ziehe(int von, int nach) { ziehe(von, mitte(nach)); }
-};
-
-bool gleich(const Stellung& a, const Stellung& b) {
-    return a.Feld == b.Feld && a.figurplatz == b.figurplatz;
-}
-
-// Every piece image stands where the game says, and shows or hides as the game says.
-void bilderPruefen(Aufbau& a) {
-    const Figurbilder& b = a.spiel().bilder();
-    for (int k = 0; k < kFiguren; ++k) {
-        const SvgBild* figur = a.brett()->figur(k);
-        QCOMPARE(figur->pos(), QPoint(b.left[k] / kTwipsProPixel, b.top[k] / kTwipsProPixel));
-        QCOMPARE(!figur->isHidden(), b.sichtbar[k]);
-    }
-}
 
 std::vector<int> fuchsFelder(const Stellung& s) {
     std::vector<int> f;
@@ -143,9 +65,10 @@ class BrettFensterTest : public QObject {
             QVERIFY2(!a.hinweisSichtbar(h), h);
         QVERIFY(!a.spiel().ziehbar());
         bilderPruefen(a);
-        // The board must fit whole into the fixed window.
+        // The window can grow, but not below the board's own size.
+        QVERIFY(a.fenster->maximumSize().width() > 2000);
+        a.fenster->resize(1, 1);
         QCOMPARE(a.brett()->size(), QSize(400, 400));
-        QVERIFY(a.fenster->minimumSize() == a.fenster->maximumSize());
 
         a.aktion("start");
         QVERIFY(a.spiel().ziehbar());
@@ -158,22 +81,24 @@ class BrettFensterTest : public QObject {
         const Stellung anfang = a.spiel().stellung();
         // Locked before Neu: the drag moves nothing, but the right button still reaches the game.
         a.ziehe(24, 17);
-        QTest::mouseClick(a.brett(), Qt::RightButton, Qt::NoModifier, mitte(16));
+        QTest::mouseClick(a.brett(), Qt::RightButton, Qt::NoModifier, a.mitte(16));
         QCOMPARE(gedrueckt.count(), 2);
         QCOMPARE(gedrueckt.at(1).at(1).toInt(), 2);
         QCOMPARE(a.spiel().stellung().figurplatz[gedrueckt.at(1).at(0).toInt()], 16);
 
         a.aktion("Neu");
         // Refused by the board: onto the fox, onto itself, between targets, outside, right button.
-        for (const QPoint ziel : {mitte(16), mitte(24), QPoint(100, 60), QPoint(a.brett()->width() + 30, 60)})
+        for (const QPoint ziel :
+             {a.mitte(16), a.mitte(24), a.brett()->brettRechteck().topLeft() + QPoint(100, 60),
+              QPoint(a.brett()->width() + 30, 60)})
             a.ziehe(24, ziel);
-        QTest::mousePress(a.brett(), Qt::RightButton, Qt::NoModifier, mitte(24));
-        QTest::mouseMove(a.brett(), mitte(17));
-        QTest::mouseRelease(a.brett(), Qt::RightButton, Qt::NoModifier, mitte(17));
+        QTest::mousePress(a.brett(), Qt::RightButton, Qt::NoModifier, a.mitte(24));
+        QTest::mouseMove(a.brett(), a.mitte(17));
+        QTest::mouseRelease(a.brett(), Qt::RightButton, Qt::NoModifier, a.mitte(17));
         // Nor over a window lying on the board: the board holds the mouse, but the release is not its.
         a.aktion("Stt");
         QPointer<StatForm> stat = a.fenster->findChild<StatForm*>();
-        stat->move(a.brett()->mapToGlobal(mitte(17)) - QPoint(20, 20));
+        stat->move(a.brett()->mapToGlobal(a.mitte(17)) - QPoint(20, 20));
         a.ziehe(24, 17);
         stat->close();
         QCOMPARE(abgelegt.count(), 0);
@@ -182,7 +107,7 @@ class BrettFensterTest : public QObject {
 
         const auto fuechse = fuchsFelder(anfang);
         const int k = *figur_index(anfang, 24);
-        a.ziehe(24, mitte(17) + QPoint(14, -14)); // a corner of the target still counts
+        a.ziehe(24, a.mitte(17) + QPoint(14, -14)); // a corner of the target still counts
         QCOMPARE(abgelegt.count(), 1);
         QCOMPARE(abgelegt.at(0).at(0).toInt(), 17);
         QCOMPARE(abgelegt.at(0).at(1).toInt(), k);
@@ -205,7 +130,7 @@ class BrettFensterTest : public QObject {
     }
 
     void fuchssprungMitRechtsklickAbschliessen() {
-        Aufbau a(1);
+        Aufbau a({{1, 0, 0, 0}});
         Antworter antworter;
         QCOMPARE(a.panel(1), QStringLiteral("PC spielt Hennen"));
         a.aktion("Neu");
@@ -227,7 +152,7 @@ class BrettFensterTest : public QObject {
         a.fenster->Timer1_Timer(); // the hens wait until the sequence is closed
         QVERIFY(a.spiel().sprungfolge().imSprung);
 
-        QTest::mouseClick(a.brett(), Qt::RightButton, Qt::NoModifier, mitte(nach));
+        QTest::mouseClick(a.brett(), Qt::RightButton, Qt::NoModifier, a.mitte(nach));
         QVERIFY(!a.spiel().sprungfolge().imSprung);
         QVERIFY(!a.hinweisSichtbar("spr_msg"));
         QVERIFY(a.spiel().pcZug() == Anforderung::hennen);
@@ -240,7 +165,7 @@ class BrettFensterTest : public QObject {
     }
 
     void verpassterSprungWirdGemeldet() {
-        Aufbau a(1);
+        Aufbau a({{1, 0, 0, 0}});
         a.aktion("Neu");
         sprungVorbereiten(a);
         a.ziehe(feldNummer(4, 2), feldNummer(4, 1)); // a step although both foxes could jump
@@ -261,7 +186,7 @@ class BrettFensterTest : public QObject {
     }
 
     void ganzePartieDesPc() {
-        Aufbau a(2);
+        Aufbau a({{2, 0, 0, 0}});
         Antworter antworter;
         a.aktion("Neu");
         QVERIFY(a.spiel().endeGefunden());
@@ -296,6 +221,7 @@ class BrettFensterTest : public QObject {
         a.aktion("highfu");
         a.aktion("highhe");
         a.fenster->oeffnen(Fenster::highf);
+        QTRY_VERIFY(!a.fenster->beschaeftigt());
         QCOMPARE(offene<StatForm>(*a.fenster), 1);
         QCOMPARE(offene<HighscoreFenster>(*a.fenster), 2);
         QCOMPARE(a.fenster->findChildren<HighscoreFenster*>().size(), 2);
@@ -309,6 +235,7 @@ class BrettFensterTest : public QObject {
             o.u_is_sieger = "Ja";
             o.sw_spielende = true;
             a.fenster->oeffnen(Fenster::highh);
+            QTRY_VERIFY(!a.fenster->beschaeftigt());
         };
         auto henneListen = [&] {
             QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);

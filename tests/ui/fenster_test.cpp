@@ -215,7 +215,7 @@ class FensterTest : public QObject {
         QVERIFY(kind(w, "name1_0")->isVisible() && !w->findChild<QLineEdit*>(QStringLiteral("name1_1")));
         QCOMPARE(text(w, "score0"), QStringLiteral("42"));
         QCOMPARE(text(w, "score1") + text(w, "datum1"), QStringLiteral("0")); // a row never written: no date
-        QCOMPARE(text(w, "datum0"), QLocale::system().toString(QDate::currentDate(), QLocale::ShortFormat));
+        QCOMPARE(text(w, "datum0"), QLocale().toString(QDate::currentDate(), QLocale::ShortFormat));
 
         tippen(kind(w, "name1_0"), QStringLiteral("Jörg"));
         klick(w, "ok");
@@ -240,7 +240,7 @@ class FensterTest : public QObject {
         QVERIFY(kind(w, "name1_1")->isVisible());
         QCOMPARE(text(w, "user2"), QStringLiteral("Erna"));
         QCOMPARE(text(w, "sieg1"), QStringLiteral("Nein"));
-        QCOMPARE(text(w, "datum0"), QLocale::system().toString(QDate(2020, 6, 18), QLocale::ShortFormat));
+        QCOMPARE(text(w, "datum0"), QLocale().toString(QDate(2020, 6, 18), QLocale::ShortFormat));
         tippen(kind(w, "name1_1"), QStringLiteral("Otto"));
         klick(w, "Abbruch");
         QVERIFY(w.isNull());
@@ -276,11 +276,18 @@ class FensterTest : public QObject {
         klick(info, "Command1");
         QVERIFY(info.isNull());
 
+        // The help closes with its button, and with Escape also while the text has the focus.
         QPointer<HilfeFenster> h = new HilfeFenster;
         h->show();
         QCOMPARE(h->browser()->source(), QUrl(QStringLiteral("qrc:/hilfe/ratgeber.html")));
         QVERIFY(!h->browser()->document()->isEmpty());
-        h->close();
+        klick(h, "schliessen");
+        QVERIFY(h.isNull());
+        h = new HilfeFenster;
+        h->show();
+        QVERIFY(QTest::qWaitForWindowActive(h));
+        h->browser()->setFocus();
+        QTest::keyClick(h->browser(), Qt::Key_Escape);
         aufraeumen();
         QVERIFY(h.isNull());
     }

@@ -70,6 +70,7 @@ class Spiel {
     // What the window shows and the other windows read.
     const Stellung& stellung() const { return stellung_; }
     const Sprungfolge& sprungfolge() const { return sprungfolge_; }
+    const Teilzug& zugregister() const { return zugregister_; } // the last move made
     const Figurbilder& bilder() const { return bilder_; }
     bool ziehbar() const { return bilder_.ziehbar; }
     Oeffentlich& oeffentlich() { return oeff_; }

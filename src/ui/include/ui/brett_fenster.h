@@ -1,6 +1,6 @@
 #pragma once
-// The main window ("brett"): shows the board, forwards every event to the game in one call and
-// carries out what the game asks of the screen.
+// The main window ("brett"): shows the board, forwards every event to the game in one call and shows
+// what the game reports, paced so that a player can follow the computer's moves.
 #include <QMainWindow>
 #include <QPointer>
 #include <QTimer>
@@ -8,14 +8,18 @@
 #include <cstdint>
 #include <filesystem>
 #include <memory>
+#include <optional>
 #include <vector>
 
 #include "board/zufall.h"
 #include "dialogs/bestenliste.h"
 #include "game/ansicht.h"
+#include "ui/wiedergabe.h"
 
+class QAction;
 class QApplication;
 class QLabel;
+class QMenu;
 
 namespace fuh {
 
@@ -36,7 +40,8 @@ class BrettFenster : public QMainWindow, public Ansicht {
     BrettFenster(std::filesystem::path ordner, uint32_t startzeit, QWidget* parent = nullptr);
     ~BrettFenster() override;
 
-    // Application names and Qt's German texts for standard buttons; call once before any window.
+    // Application names, Qt's German texts for standard buttons, German dates where the system sets no
+    // locale; call once before any window.
     static void anwendungEinrichten(QApplication& app);
 
     Spiel& spiel() { return *spiel_; }
@@ -44,24 +49,43 @@ class BrettFenster : public QMainWindow, public Ansicht {
     QTimer& timer1() { return timer1_; }
     QLabel* panel(int nummer) const { return panels_.at(static_cast<size_t>(nummer - 1)); }
 
-    // Ansicht
+    // How fast computer moves are shown; the choice is kept in the user's settings.
+    Tempo tempo() const { return wiedergabe_.tempo(); }
+    void tempoSetzen(Tempo t);
+    // A reported move or message is still being shown, or the computer plays itself: no input reaches
+    // the game, and the commands that start or change a game wait.
+    bool beschaeftigt() const;
+
+    // Ansicht: every report is queued and shown in order by the playback.
     void figurBewegt(int k, int left, int top) override;
+    void figurGleitet(int k, int left, int top) override;
     void figurSichtbar(int k, bool sichtbar) override;
     void figurenZiehbar(bool ziehbar) override;
     void hinweis(Hinweis h, bool sichtbar) override;
     void status(Statusfeld feld, const std::string& text) override;
     void meldung(const std::string& text) override;
+    void speicherfehler(const std::string& text) override;
+    void zugbegrenzungErreicht() override;
     void oeffnen(Fenster f) override;
+    void zugAusgefuehrt(int vonX, int vonY, int nachX, int nachY, bool normal) override;
 
   public slots:
     void Timer1_Timer();
 
   private:
+    // Commands and their pacing.
+    void neu();
+    void spielWeiter(); // after every call into the game: show what it reported
+    void wiedergabeFertig();
+    void selbstspielSchritt();
+    void zeigen(const Ereignis& e);
+    void befehleAbgleichen();
+    void groesseLaden();
+
+    // Menu and the other windows (brett_menue.cpp).
     void menueAnlegen();
-    // Paints the whole window at once, e.g. where a closed menu or message box lay.
-    void ganzMalen();
+    void tempoMenue(QMenu* menue);
     void statusleisteAnlegen();
-    void bilderAbgleichen();
     void einstellungenZeigen();
     void statistikZeigen();
     // From the menu: brings forward a list whose new row waits for a name, else shows a fresh one.
@@ -76,6 +100,13 @@ class BrettFenster : public QMainWindow, public Ansicht {
     BrettFlaeche* brett_ = nullptr;
     std::array<QLabel*, 3> panels_{};
     QTimer timer1_;
+    Wiedergabe wiedergabe_;
+    QTimer naechsterZug_; // the rest between two moves of a game the computer plays itself
+    bool selbstspielSchleife_ = false;
+    bool zuletztGeglitten_ = false; // the last piece image moved was a computer piece's slide
+    std::optional<Einstellungen> wartendeEinstellungen_; // confirmed while the computer plays itself
+    std::vector<QAction*> wartendeBefehle_;              // disabled while busy
+    std::array<QAction*, 3> tempoAktionen_{};
     QPointer<EinstDialog> einst_;
     QPointer<StatForm> stat_;
     QPointer<HilfeFenster> hilfe_;

@@ -1,10 +1,14 @@
 #pragma once
 // The board area: the board picture, the 49 drop targets, the 22 piece images and the four prompts.
 // It turns mouse presses and drags into two signals; whether a move is legal is the game's business.
+// The game places everything in twips on a board of 400 x 400 pixels; this widget shows that board as
+// the largest square that fits, centred, and scales pieces, targets and prompts with it.
 #include <QLabel>
+#include <QPixmap>
 #include <QPoint>
 #include <array>
 #include <functional>
+#include <optional>
 
 #include "board/stellung.h"
 #include "game/ansicht.h"
@@ -12,10 +16,10 @@
 
 namespace fuh {
 
-class BrettFlaeche : public SvgBild {
+class BrettFlaeche : public QWidget {
     Q_OBJECT
   public:
-    static constexpr int kSeite = 400; // the board picture, logical pixels
+    static constexpr int kSeite = 400; // the board picture at scale 1, logical pixels
 
     // `ziehbar` tells whether a left press may start a drag now.
     explicit BrettFlaeche(std::function<bool()> ziehbar, QWidget* parent = nullptr);
@@ -23,10 +27,21 @@ class BrettFlaeche : public SvgBild {
     SvgBild* figur(int k) const { return figuren_[k]; }
     QLabel* hinweisLabel(Hinweis h) const { return hinweise_[static_cast<int>(h)]; }
 
-    // Positions in twips. Both repaint the affected area at once, without processing events.
+    // Where the board is drawn, and logical pixels per pixel of the game's 400 x 400 board.
+    QRect brettRechteck() const { return {ursprung_, QSize(seite_, seite_)}; }
+    double skala() const { return seite_ / double{kSeite}; }
+    // The widget point of a point in twips.
+    QPointF abbild(double left, double top) const;
+
+    // Positions in twips.
     void figurSetzen(int k, int left, int top);
     void figurZeigen(int k, bool sichtbar);
     void hinweisZeigen(Hinweis h, bool sichtbar);
+
+    // The last computer move: its first origin and its last destination (squares) stay marked.
+    void zugMarkieren(int von, int nach);
+    void markierungLoeschen();
+    std::optional<std::pair<int, int>> markierung() const { return markierung_; }
 
     // The topmost visible piece image under `p`, or -1.
     int figurAn(QPoint p) const;
@@ -36,21 +51,34 @@ class BrettFlaeche : public SvgBild {
     bool ziehtGerade() const { return gezogen_ >= 0; }
     void ziehenAbbrechen();
 
+    QSize minimumSizeHint() const override { return {kSeite, kSeite}; }
+    QSize sizeHint() const override { return {kSeite, kSeite}; }
+
   signals:
     void figurGedrueckt(int k, Maustaste taste);
-    void abgelegt(int t, int k); // piece k dropped on the target of square t
+    void abgelegt(int t, int k);                  // piece k dropped on the target of square t
+    void figurVersetzt(int k, int left, int top); // the image of piece k now stands there (twips)
 
   protected:
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
 
   private:
+    QRect figurRechteck(int k) const;
+    void hinweiseAnordnen();
     void zeigerSetzen(QPoint p);
 
     std::function<bool()> ziehbar_;
     std::array<SvgBild*, kFiguren> figuren_{};
+    std::array<QPoint, kFiguren> lagen_{}; // the images' positions in twips
     std::array<QLabel*, 4> hinweise_{};
+    int seite_ = kSeite;
+    QPoint ursprung_;
+    QPixmap brett_; // the board picture at its current size
+    std::optional<std::pair<int, int>> markierung_;
     SvgBild* schwebend_ = nullptr; // the copy that follows the cursor during a drag
     int gezogen_ = -1;
     QPoint griff_; // cursor offset inside the dragged image

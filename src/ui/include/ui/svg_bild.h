@@ -1,9 +1,15 @@
 #pragma once
-// A picture drawn from an SVG resource, rendered for the screen's device pixel ratio so it stays crisp.
+// A picture drawn from an SVG resource, rendered for the screen's device pixel ratio so it stays crisp
+// at any size the board gives it.
+#include <QPixmap>
 #include <QString>
 #include <QWidget>
 
 namespace fuh {
+
+// The resource `datei` rendered to `groesse` logical pixels at `dpr`. Small pictures are shared
+// through the pixmap cache.
+QPixmap svgPixmap(const QString& datei, QSize groesse, qreal dpr);
 
 class SvgBild : public QWidget {
     Q_OBJECT
@@ -19,6 +25,7 @@ class SvgBild : public QWidget {
   private:
     QString datei_;
     qreal deckkraft_ = 1.0;
+    QPixmap bild_; // the last rendering, reused while size and pixel ratio stay
 };
 
 } // namespace fuh

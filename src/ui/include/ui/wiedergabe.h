@@ -1,0 +1,81 @@
+#pragma once
+// Plays back what the game reported, in the order it was reported and at a pace a player can follow.
+// The game computes a computer move in an instant; here the 100 steps of each slide are spread over a
+// visible time, and whatever came after a slide (a prompt, a message, a window) is shown only when the
+// slide has ended. Everything else is shown at once when its turn comes.
+#include <QElapsedTimer>
+#include <QObject>
+#include <QString>
+#include <QTimer>
+#include <deque>
+#include <functional>
+
+namespace fuh {
+
+// One report of the game to its view.
+struct Ereignis {
+    enum class Art {
+        bewegt,         // a: piece, b: left, c: top (twips)
+        gleitet,        // one slide step, as bewegt
+        sichtbar,       // a: piece, ja: shown
+        ziehbar,        // ja: pieces unlocked
+        hinweis,        // a: prompt, ja: shown
+        status,         // a: panel, text
+        zugbegrenzung,  // the move limit drew the game
+        zug,            // a: from square, b: to square, ja: a computer move
+        meldung,        // text, a modal message
+        speicherfehler, // text, a modal warning
+        oeffnen,        // a: window
+    };
+    Art art;
+    int a = 0, b = 0, c = 0;
+    bool ja = false;
+    QString text;
+};
+
+enum class Tempo { sofort, schnell, normal, langsam };
+
+class Wiedergabe : public QObject {
+    Q_OBJECT
+  public:
+    // `zeigen` puts one report on the screen; for a message it returns when the message is closed.
+    explicit Wiedergabe(std::function<void(const Ereignis&)> zeigen, QObject* parent = nullptr);
+
+    Tempo tempo() const { return tempo_; }
+    void setTempo(Tempo t);
+    // Milliseconds one slide of a piece takes; 0 shows every slide at once.
+    int gleitdauer() const;
+
+    // Queues a report. A report made outside a call into the game is shown from the event loop.
+    void anhaengen(Ereignis::Art art, int a = 0, int b = 0, int c = 0, bool ja = false, QString text = {});
+    // Shows what is due now; a slide that has to wait goes on by the timer. With Tempo::sofort
+    // everything queued is shown before this returns.
+    void abspielen();
+    // The game was abandoned: every picture goes at once to where the game left it; of its
+    // announcements only those for which `behalten` says so are still shown.
+    void abbrechen(const std::function<bool(const Ereignis&)>& behalten);
+    // Something reported is not yet shown, or a message is open.
+    bool laeuft() const { return !schlange_.empty() || aktiv_ || pause_.isActive(); }
+
+  signals:
+    // Everything reported so far has been shown.
+    void fertig();
+
+  private:
+    enum class Gleiten { wartet, fertig, abgebrochen };
+    // Shows the steps of the running slide that are due now.
+    Gleiten gleitenFortsetzen();
+
+    std::function<void(const Ereignis&)> zeigen_;
+    std::deque<Ereignis> schlange_;
+    Tempo tempo_ = Tempo::normal;
+    QTimer takt_;    // drives a running slide
+    QTimer pause_;   // the short rest after a slide, so a chain of jumps reads jump by jump
+    QTimer anstoss_; // starts the playback of a report nobody asked to be shown
+    QElapsedTimer uhr_;
+    int gleitLaenge_ = 0;  // steps of the running slide, 0 when none runs
+    int gleitGezeigt_ = 0; // of these already shown
+    bool aktiv_ = false;   // inside abspielen, possibly in a message's own event loop
+};
+
+} // namespace fuh

@@ -1,0 +1,128 @@
+#pragma once
+// The main window in a temporary data folder, driven like a player: menu commands, mouse drags on the
+// board at whatever size it has, message boxes answered as soon as they appear.
+#include <QAction>
+#include <QApplication>
+#include <QLabel>
+#include <QMessageBox>
+#include <QSettings>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTimer>
+#include <fstream>
+#include <memory>
+#include <optional>
+#include <vector>
+
+#include "board/bildlage.h"
+#include "game/spiel.h"
+#include "ui/brett_fenster.h"
+#include "ui/brett_flaeche.h"
+
+namespace fuh::test {
+
+inline constexpr uint32_t kStartzeit = 36000; // fixed seed: every run plays the same game
+inline constexpr int kTwipsProSeite = BrettFlaeche::kSeite * kTwipsProPixel; // the board's side in twips
+
+// Accepts every message box that opens and remembers its text and icon.
+class Antworter {
+  public:
+    Antworter() {
+        QObject::connect(&timer_, &QTimer::timeout, [this] {
+            if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
+                texte.push_back(box->text());
+                symbole.push_back(box->icon());
+                // The whole title fits: the box is wider than the title's text.
+                titelPasst.push_back(box->width() > box->fontMetrics().horizontalAdvance(box->windowTitle()));
+                box->accept();
+            }
+        });
+        timer_.start(5);
+    }
+    std::vector<QString> texte;
+    std::vector<QMessageBox::Icon> symbole;
+    std::vector<bool> titelPasst;
+
+  private:
+    QTimer timer_;
+};
+
+// The settings file's 8 bytes: side, strength, learning, single-move mode.
+inline void einstellungenSchreiben(const std::filesystem::path& ordner, std::vector<char> werte) {
+    std::vector<char> bytes;
+    for (char w : werte) {
+        bytes.push_back(w);
+        bytes.push_back(0);
+    }
+    std::ofstream(ordner / "QZ.INI", std::ios::binary).write(bytes.data(), 8);
+}
+
+struct Aufbau {
+    QTemporaryDir ordner;
+    QTemporaryDir fensterEinstellungen; // the window's own settings (size, pace) stay in here
+    std::unique_ptr<BrettFenster> fenster;
+
+    // `einst`: side, strength, learning, single-move, written to the settings file before the window
+    // starts. `tempo`: sofort shows every move at once.
+    explicit Aufbau(std::optional<std::vector<char>> einst = std::nullopt, Tempo tempo = Tempo::sofort) {
+        QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, fensterEinstellungen.path());
+        if (einst) einstellungenSchreiben(pfad(), *einst);
+        starten();
+        fenster->tempoSetzen(tempo);
+    }
+    // A fresh window on the same files and settings, as after a restart.
+    void starten() {
+        fenster.reset();
+        fenster = std::make_unique<BrettFenster>(pfad(), kStartzeit);
+        fenster->timer1().stop(); // the tests tick by hand
+        fenster->show();
+        QVERIFY(QTest::qWaitForWindowExposed(fenster.get()));
+    }
+    std::filesystem::path pfad() const { return ordner.path().toStdString(); }
+    Spiel& spiel() { return fenster->spiel(); }
+    BrettFlaeche* brett() { return fenster->brett(); }
+    void aktion(const char* name) {
+        auto* a = fenster->findChild<QAction*>(QString::fromLatin1(name));
+        QVERIFY2(a, name);
+        a->trigger();
+    }
+    QString panel(int n) { return fenster->findChild<QLabel*>(QStringLiteral("panel%1").arg(n))->text(); }
+    bool hinweisSichtbar(const char* name) {
+        return !fenster->findChild<QLabel*>(QString::fromLatin1(name))->isHidden();
+    }
+
+    // The centre of square `s` on the board as it is drawn now.
+    QPoint mitte(int s) {
+        const QRect r = brett()->brettRechteck();
+        return r.topLeft() + QPoint((platzLeft(s) + kBildgroesse / 2) * r.width() / kTwipsProSeite,
+                                    (platzTop(s) + kBildgroesse / 2) * r.width() / kTwipsProSeite);
+    }
+    // A left-button drag from `von` to `ziel` (board coordinates).
+    void ziehe(QPoint von, QPoint ziel) {
+        QTest::mousePress(brett(), Qt::LeftButton, Qt::NoModifier, von);
+        for (int i = 1; i <= 4; ++i)
+            QTest::mouseMove(brett(), von + (ziel - von) * i / 4);
+        QTest::mouseRelease(brett(), Qt::LeftButton, Qt::NoModifier, ziel);
+    }
+    void ziehe(int von, QPoint ziel) { ziehe(mitte(von), ziel); }
+    void ziehe(int von, int nach) { ziehe(mitte(von), mitte(nach)); }
+};
+
+inline bool gleich(const Stellung& a, const Stellung& b) {
+    return a.Feld == b.Feld && a.figurplatz == b.figurplatz;
+}
+
+// Every piece image stands where the game says, at the board's scale, and shows or hides as it says.
+inline void bilderPruefen(Aufbau& a) {
+    const Figurbilder& b = a.spiel().bilder();
+    const QRect r = a.brett()->brettRechteck();
+    for (int k = 0; k < kFiguren; ++k) {
+        const SvgBild* figur = a.brett()->figur(k);
+        const QPoint erwartet = r.topLeft() + QPoint(b.left[k] * r.width() / kTwipsProSeite,
+                                                     b.top[k] * r.width() / kTwipsProSeite);
+        QCOMPARE(figur->pos(), erwartet);
+        QCOMPARE(!figur->isHidden(), b.sichtbar[k]);
+    }
+}
+
+} // namespace fuh::test

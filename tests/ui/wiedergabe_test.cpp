@@ -1,0 +1,219 @@
+// The main window shows the computer's moves at a pace a player can follow, scales with the window,
+// and reports what went wrong in one message: driven like a player on the offscreen platform.
+#include <QSignalSpy>
+#include <QStatusBar>
+#include <QTest>
+#include <vector>
+
+#include "fenster_aufbau.h"
+
+using namespace fuh;
+using namespace fuh::test;
+
+namespace {
+
+struct Schritt {
+    int k, left, top;
+};
+
+// A hen that can step straight up now: its square and the one above.
+std::pair<int, int> hennenschritt(const Stellung& s) {
+    for (int y = 6; y > 0; --y)
+        for (int x = 0; x <= 6; ++x)
+            if (s.Feld[x][y] == henne && aufKreuz(x, y - 1) && s.Feld[x][y - 1] == leer)
+                return {feldNummer(x, y), feldNummer(x, y - 1)};
+    qFatal("no hen can step up");
+}
+
+int16_t zaehler(const std::filesystem::path& ordner, int i) {
+    std::ifstream ein(ordner / "QZ.sta", std::ios::binary);
+    std::vector<unsigned char> b{std::istreambuf_iterator<char>(ein), std::istreambuf_iterator<char>()};
+    return static_cast<int16_t>(b.at(2 * i) | (b.at(2 * i + 1) << 8));
+}
+
+} // namespace
+
+class WiedergabeTest : public QObject {
+    Q_OBJECT
+  private slots:
+    void computerzugGleitetSichtbar() {
+        Aufbau a(std::nullopt, Tempo::normal);
+        a.aktion("Neu");
+        a.ziehe(24, 17);
+        QVERIFY(a.spiel().pcZug() == Anforderung::fuchs);
+
+        // Halfway through the fox's slide the player tries to move a hen and to start a game.
+        std::vector<Schritt> schritte;
+        bool zugAbgelehnt = false, startGesperrt = false, hinweisDa = false, schonMarkiert = true;
+        QObject::connect(a.brett(), &BrettFlaeche::figurVersetzt, [&](int k, int left, int top) {
+            schritte.push_back({k, left, top});
+            if (schritte.size() != 50) return;
+            const Stellung vorher = a.spiel().stellung();
+            const auto [von, nach] = hennenschritt(vorher);
+            a.ziehe(von, nach);
+            zugAbgelehnt = gleich(a.spiel().stellung(), vorher) && !a.brett()->ziehtGerade();
+            startGesperrt = !a.fenster->findChild<QAction*>(QStringLiteral("start"))->isEnabled();
+            hinweisDa = a.hinweisSichtbar("f_zug");
+            schonMarkiert = a.brett()->markierung().has_value();
+        });
+        a.fenster->Timer1_Timer();
+        // The game has moved; the screen has only begun to show it.
+        QVERIFY(a.spiel().pcZug() == Anforderung::keine);
+        QVERIFY(schritte.size() < 100);
+        QVERIFY(a.fenster->beschaeftigt());
+        QTRY_VERIFY(!a.fenster->beschaeftigt());
+
+        // 100 positions of one fox, in order, at equal distances, ending where the game put it.
+        QCOMPARE(schritte.size(), 100u);
+        const int k = schritte[0].k;
+        QVERIFY(k < 2);
+        const int dl = schritte[1].left - schritte[0].left, dt = schritte[1].top - schritte[0].top;
+        QVERIFY(dl != 0 || dt != 0);
+        for (size_t i = 1; i < schritte.size(); ++i) {
+            QCOMPARE(schritte[i].k, k);
+            QCOMPARE(schritte[i].left - schritte[i - 1].left, dl);
+            QCOMPARE(schritte[i].top - schritte[i - 1].top, dt);
+        }
+        QCOMPARE(schritte.back().left, a.spiel().bilder().left[k]);
+        QCOMPARE(schritte.back().top, a.spiel().bilder().top[k]);
+        QVERIFY(zugAbgelehnt && startGesperrt && hinweisDa && !schonMarkiert);
+
+        // Afterwards the prompt is gone, the move is marked, and the hen can move.
+        QVERIFY(!a.hinweisSichtbar("f_zug"));
+        const Stellung& s = a.spiel().stellung();
+        const Teilzug& z = a.spiel().zugregister();
+        QCOMPARE(a.brett()->markierung(),
+                 std::make_optional(std::pair{feldNummer(z.vonX, z.vonY), feldNummer(z.nachX, z.nachY)}));
+        bilderPruefen(a);
+        const auto [von, nach] = hennenschritt(s);
+        a.ziehe(von, nach);
+        QCOMPARE(a.spiel().stellung().Feld[feldX(nach)][feldY(nach)], henne);
+        QVERIFY(!a.brett()->markierung());
+    }
+
+    void selbstspielMitNeuAbbrechen() {
+        Aufbau a({{2, 0, 0, 0}}, Tempo::schnell);
+        Antworter antworter;
+        // In the middle of a slide, some moves into the game, the player switches to the hens and
+        // presses "Neu".
+        int letzteFigur = -1, schrittImGleiten = 0, schritte = 0;
+        bool neuGedrueckt = false;
+        QObject::connect(a.brett(), &BrettFlaeche::figurVersetzt, [&](int k, int, int) {
+            ++schritte;
+            schrittImGleiten = k == letzteFigur ? schrittImGleiten + 1 : 1;
+            letzteFigur = k;
+            if (neuGedrueckt || schrittImGleiten != 50 || a.spiel().spielzug() < 4) return;
+            neuGedrueckt = true;
+            einstellungenSchreiben(a.pfad(), {0, 0, 0, 0});
+            a.aktion("Neu");
+        });
+        a.aktion("Neu");
+        QVERIFY(a.spiel().selbstspielLaeuft());
+        QVERIFY(!a.fenster->findChild<QAction*>(QStringLiteral("Einstellungen"))->isEnabled());
+        QTRY_VERIFY_WITH_TIMEOUT(neuGedrueckt, 60000);
+        QTRY_VERIFY(!a.fenster->beschaeftigt());
+
+        // A fresh game of the player's, shown as the game holds it; the watched one left no trace.
+        QVERIFY(!a.spiel().selbstspielLaeuft());
+        QCOMPARE(a.panel(1), QStringLiteral("PC spielt Fuchs"));
+        Stellung anfang;
+        anfang.grundstellung();
+        QVERIFY(gleich(a.spiel().stellung(), anfang));
+        bilderPruefen(a);
+        QVERIFY(!a.brett()->markierung());
+        for (const char* h : {"f_zug", "h_zug", "spr_msg", "speichern_msg"})
+            QVERIFY2(!a.hinweisSichtbar(h), h);
+        QVERIFY(antworter.texte.empty());
+        QCOMPARE(zaehler(a.pfad(), 14), 2); // games started
+        QCOMPARE(zaehler(a.pfad(), 0), 0);  // games finished
+        const int gezeigt = schritte;
+        QCoreApplication::processEvents();
+        QCOMPARE(schritte, gezeigt);
+        a.ziehe(24, 17);
+        QCOMPARE(a.spiel().stellung().Feld[3][2], henne);
+        QVERIFY(a.spiel().pcZug() == Anforderung::fuchs);
+    }
+
+    void brettWaechstMitDemFenster() {
+        Aufbau a;
+        a.fenster->resize(1, 1);
+        QTRY_COMPARE(a.brett()->brettRechteck(), QRect(0, 0, 400, 400));
+        QLabel* hinweis = a.fenster->findChild<QLabel*>(QStringLiteral("spr_msg"));
+        const QRect hinweisKlein = hinweis->geometry();
+        const qreal schriftKlein = hinweis->font().pointSizeF();
+
+        // Twice the size: pieces, prompts and drop targets all scale.
+        const QSize klein = a.fenster->size();
+        a.fenster->resize(klein + QSize(400, 400));
+        QTRY_COMPARE(a.brett()->brettRechteck(), QRect(0, 0, 800, 800));
+        QCOMPARE(a.brett()->figur(0)->size(), QSize(64, 64));
+        QVERIFY(std::abs(hinweis->width() - 2 * hinweisKlein.width()) <= 2);
+        QVERIFY(std::abs(hinweis->y() - 2 * hinweisKlein.y()) <= 2);
+        QVERIFY(hinweis->font().pointSizeF() > 1.8 * schriftKlein);
+        bilderPruefen(a);
+        a.aktion("Neu");
+        const int k = *figur_index(a.spiel().stellung(), 24);
+        a.ziehe(a.brett()->figur(k)->geometry().center(), a.mitte(17));
+        QCOMPARE(a.spiel().stellung().figurplatz[k], 17);
+        bilderPruefen(a);
+
+        // A wide window: the board stays square and in the middle.
+        a.fenster->resize(klein + QSize(600, 200));
+        QTRY_COMPARE(a.brett()->brettRechteck(), QRect(200, 0, 600, 600));
+        bilderPruefen(a);
+        a.fenster->Timer1_Timer();
+        const int f = a.spiel().stellung().figurplatz[0];
+        a.ziehe(a.mitte(17), a.mitte(f)); // a drop onto a fox's new place is refused
+        QCOMPARE(a.spiel().stellung().figurplatz[k], 17);
+
+        // Size and pace survive a restart.
+        const QSize groesse = a.fenster->size();
+        a.aktion("tempo_langsam");
+        a.starten();
+        QCOMPARE(a.fenster->size(), groesse);
+        QCOMPARE(a.fenster->tempo(), Tempo::langsam);
+        QVERIFY(a.fenster->findChild<QAction*>(QStringLiteral("tempo_langsam"))->isChecked());
+    }
+
+    void speicherfehlerInEinerMeldung() {
+        // Folders where the statistics and the learned moves of strength 3 belong: neither can be written.
+        Aufbau a({{2, 2, 1, 0}});
+        std::filesystem::create_directory(a.pfad() / "QZ.sta");
+        std::filesystem::create_directory(a.pfad() / "QZ3.DAT");
+        Antworter antworter;
+        a.aktion("Neu");
+        QTRY_VERIFY(!a.fenster->beschaeftigt());
+        QVERIFY(a.spiel().endeGefunden());
+
+        // The start could not be counted; at the end both files are named in one warning, after the
+        // result, which is no warning.
+        QVERIFY(antworter.texte.size() >= 3);
+        QCOMPARE(antworter.symbole.front(), QMessageBox::Warning);
+        QVERIFY(antworter.texte.front().contains(QStringLiteral("QZ.sta")));
+        const QString& ende = antworter.texte.back();
+        QVERIFY2(ende.contains(QStringLiteral("QZ3.DAT")) && ende.contains(QStringLiteral("QZ.sta")),
+                 qPrintable(ende));
+        QCOMPARE(antworter.symbole.back(), QMessageBox::Warning);
+        QCOMPARE(std::count(antworter.symbole.begin(), antworter.symbole.end(), QMessageBox::Warning), 2);
+        QCOMPARE(std::count(antworter.titelPasst.begin(), antworter.titelPasst.end(), false), 0);
+        QVERIFY(std::filesystem::is_directory(a.pfad() / "QZ3.DAT"));
+    }
+
+    void zugbegrenzungSagtRemis() {
+        // Single-move mode with the player moving both sides: one fox steps back and forth.
+        Aufbau a({{0, 0, 0, 1}});
+        Antworter antworter;
+        a.aktion("Neu");
+        a.spiel().einstellungenUebernehmen({2, 0, 0, 1});
+        for (int i = 0; i < 200 && a.spiel().ziehbar(); ++i)
+            a.ziehe(i % 2 == 0 ? 16 : 9, i % 2 == 0 ? 9 : 16);
+        QCOMPARE(a.spiel().spielzug(), kZugbegrenzung);
+        QCOMPARE(a.fenster->statusBar()->currentMessage(), QStringLiteral("Remis: Zugbegrenzung erreicht"));
+        QVERIFY(antworter.texte.empty());
+        a.aktion("Neu");
+        QCOMPARE(a.fenster->statusBar()->currentMessage(), QString());
+    }
+};
+
+QTEST_MAIN(WiedergabeTest)
+#include "wiedergabe_test.moc"
