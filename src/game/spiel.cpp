@@ -49,7 +49,11 @@ void Spiel::init() {
 
 void Spiel::statusTexte() {
     if (const auto text = pcStatustext(oeff_.einst.PC)) ansicht_.status(Statusfeld::seite, *text);
-    if (const auto text = staerkeStatustext(oeff_.einst.Staerke)) ansicht_.status(Statusfeld::staerke, *text);
+    const auto meister = [](const std::optional<Spieler>& s) { return s && s->meister; };
+    if (meister(spielerwahl_.fuchs) || meister(spielerwahl_.hennen))
+        ansicht_.status(Statusfeld::staerke, kMeisterStatustext);
+    else if (const auto text = staerkeStatustext(oeff_.einst.Staerke))
+        ansicht_.status(Statusfeld::staerke, *text);
 }
 
 void Spiel::Neu_Click() {

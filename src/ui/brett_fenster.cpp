@@ -21,16 +21,15 @@
 
 namespace fuh {
 
+QSettings fensterEinstellungen() {
+    return QSettings(QSettings::NativeFormat, QSettings::UserScope, QStringLiteral("fuchs-und-hennen"),
+                     QStringLiteral("fenster"));
+}
+
 namespace {
 
 uint32_t sekundenSeitMitternacht() {
     return static_cast<uint32_t>(QTime::currentTime().msecsSinceStartOfDay() / 1000);
-}
-
-// The player's own settings of this window (size, pace); the game's settings stay in QZ.INI.
-QSettings fensterEinstellungen() {
-    return QSettings(QSettings::NativeFormat, QSettings::UserScope, QStringLiteral("fuchs-und-hennen"),
-                     QStringLiteral("fenster"));
 }
 
 const char* tempoName(Tempo t) {
@@ -59,7 +58,7 @@ BrettFenster::BrettFenster(std::filesystem::path ordner, QWidget* parent)
     : BrettFenster(std::move(ordner), sekundenSeitMitternacht(), parent) {}
 
 BrettFenster::BrettFenster(std::filesystem::path ordner, uint32_t startzeit, QWidget* parent)
-    : QMainWindow(parent), wiedergabe_([this](const Ereignis& e) { zeigen(e); }) {
+    : QMainWindow(parent), wiedergabe_([this](const Ereignis& e) { zeigen(e); }), startzeit_(startzeit) {
     setObjectName(QStringLiteral("brett"));
     setWindowTitle(QString::fromUtf8(kTitel));
 
@@ -81,13 +80,18 @@ BrettFenster::BrettFenster(std::filesystem::path ordner, uint32_t startzeit, QWi
     });
     connect(brett_, &BrettFlaeche::abgelegt, this, [this](int t, int k) {
         if (beschaeftigt()) return;
+        brett_->tippLoeschen();
         spiel_->platz_DragDrop(t, k);
         spielWeiter();
     });
     connect(&wiedergabe_, &Wiedergabe::fertig, this, &BrettFenster::wiedergabeFertig);
+    tippUhr_.setSingleShot(true);
+    connect(&tippUhr_, &QTimer::timeout, brett_, &BrettFlaeche::tippLoeschen);
     naechsterZug_.setSingleShot(true);
     connect(&naechsterZug_, &QTimer::timeout, this, &BrettFenster::selbstspielSchritt);
 
+    meister_ = fensterEinstellungen().value(QStringLiteral("meister")).toBool();
+    meisterAnwenden();
     spiel_->Form_Load(startzeit);
     // Start-up moves nothing that could be paced: its reports are shown at once.
     wiedergabe_.abbrechen([](const Ereignis&) { return true; });
@@ -155,7 +159,10 @@ void BrettFenster::Timer1_Timer() {
 
 void BrettFenster::neu() {
     naechsterZug_.stop();
+    brett_->tippLoeschen();
     wartendeEinstellungen_.reset(); // the new game reads the settings file
+    if (wartenderMeister_) meisterSetzen(*wartenderMeister_);
+    wartenderMeister_.reset();
     // The abandoned game's pictures go where it left them and its announcements are dropped; a failure
     // to save and the high-score list of a finished game still reach the player.
     wiedergabe_.abbrechen([](const Ereignis& e) {
@@ -192,6 +199,8 @@ void BrettFenster::wiedergabeFertig() {
     if (wartendeEinstellungen_ && !spiel_->selbstspielLaeuft()) {
         spiel_->einstellungenUebernehmen(*wartendeEinstellungen_);
         wartendeEinstellungen_.reset();
+        if (wartenderMeister_) meisterSetzen(*wartenderMeister_);
+        wartenderMeister_.reset();
     }
     befehleAbgleichen();
 }
@@ -205,6 +214,7 @@ void BrettFenster::befehleAbgleichen() {
     const bool frei = !beschaeftigt();
     for (QAction* a : wartendeBefehle_)
         a->setEnabled(frei);
+    if (tippAktion_) tippAktion_->setEnabled(frei && spiel_ && spiel_->tippMoeglich());
 }
 
 void BrettFenster::zeigen(const Ereignis& e) {

@@ -159,18 +159,28 @@ void BrettFlaeche::paintEvent(QPaintEvent*) {
         painter.fillRect(r, kRand);
     painter.drawPixmap(brett.topLeft(), brett_);
 
-    if (!markierung_) return;
-    // Rings around the two points, just outside a piece standing there; the origin's is fainter.
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setBrush(Qt::NoBrush);
     const double s = skala();
     const double radius = 19.5 * s;
+    auto mitteVon = [this](int feld) {
+        return abbild(platzLeft(feld) + kBildgroesse / 2.0, platzTop(feld) + kBildgroesse / 2.0);
+    };
+    // The hint: a light green path from the piece over each landing square, with rings at its ends.
+    if (!tipp_.empty()) {
+        painter.setPen(QPen(QColor(200, 255, 170, 220), std::max(2.0, 3.0 * s), Qt::DashLine, Qt::RoundCap));
+        for (size_t i = 1; i < tipp_.size(); ++i)
+            painter.drawLine(mitteVon(tipp_[i - 1]), mitteVon(tipp_[i]));
+        painter.setPen(QPen(QColor(200, 255, 170, 235), std::max(2.0, 3.0 * s)));
+        for (int feld : {tipp_.front(), tipp_.back()})
+            painter.drawEllipse(mitteVon(feld), radius, radius);
+    }
+    if (!markierung_) return;
+    // Rings around the two points, just outside a piece standing there; the origin's is fainter.
     const auto [von, nach] = *markierung_;
     for (const auto& [feld, deckung] : {std::pair{von, 110}, std::pair{nach, 190}}) {
         painter.setPen(QPen(QColor(255, 232, 120, deckung), std::max(1.5, 2.2 * s)));
-        const QPointF mitte =
-            abbild(platzLeft(feld) + kBildgroesse / 2.0, platzTop(feld) + kBildgroesse / 2.0);
-        painter.drawEllipse(mitte, radius, radius);
+        painter.drawEllipse(mitteVon(feld), radius, radius);
     }
 }
 
@@ -195,6 +205,17 @@ void BrettFlaeche::zugMarkieren(int von, int nach) {
         markierung_->second = nach;
     else
         markierung_ = {von, nach};
+    update();
+}
+
+void BrettFlaeche::tippZeigen(std::vector<int> felder) {
+    tipp_ = std::move(felder);
+    update();
+}
+
+void BrettFlaeche::tippLoeschen() {
+    if (tipp_.empty()) return;
+    tipp_.clear();
     update();
 }
 

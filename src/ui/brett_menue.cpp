@@ -2,6 +2,7 @@
 #include <QAction>
 #include <QActionGroup>
 #include <QApplication>
+#include <QKeySequence>
 #include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
@@ -69,6 +70,9 @@ void BrettFenster::menueAnlegen() {
     // "Neu" also stops a game being shown; "Start" waits until what the game reported has been seen.
     wartendeBefehle_.push_back(aktion(spielMenue, "start", QStringLiteral("&Start"), [this] { neu(); }));
     aktion(spielMenue, "Neu", QStringLiteral("&Neu"), [this] { neu(); });
+    tippAktion_ = aktion(spielMenue, "tipp", QStringLiteral("&Tipp"), [this] { tippZeigen(); });
+    tippAktion_->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_T));
+    connect(spielMenue, &QMenu::aboutToShow, this, &BrettFenster::befehleAbgleichen);
     spielMenue->addSeparator();
     tempoMenue(spielMenue);
     spielMenue->addSeparator();
@@ -133,14 +137,17 @@ void BrettFenster::statusleisteAnlegen() {
 void BrettFenster::einstellungenZeigen() {
     einmalZeigen(einst_, [this] {
         return new EinstDialog(
-            spiel_->oeffentlich().einst, spiel_->ordner(),
+            spiel_->oeffentlich().einst, meister_, spiel_->ordner(),
             [this](Statusfeld feld, const QString& text) { panel(static_cast<int>(feld))->setText(text); },
-            [this](const Einstellungen& e) {
-                // A game the computer plays itself keeps its settings until it ends.
-                if (spiel_->selbstspielLaeuft())
+            [this](const Einstellungen& e, bool meister) {
+                // A game the computer plays itself keeps its settings and players until it ends.
+                if (spiel_->selbstspielLaeuft()) {
                     wartendeEinstellungen_ = e;
-                else
-                    spiel_->einstellungenUebernehmen(e);
+                    wartenderMeister_ = meister;
+                    return;
+                }
+                spiel_->einstellungenUebernehmen(e);
+                meisterSetzen(meister);
             },
             this);
     });

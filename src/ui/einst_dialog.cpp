@@ -27,15 +27,17 @@ struct Lage {
     int textBreite;                 // pixels the content needs
 };
 
+constexpr int kMeister = 3; // the fourth entry of the strengths
+
 int eintrag(int wert) {
     return wert >= 0 && wert <= 2 ? wert : 0;
 }
 
 } // namespace
 
-EinstDialog::EinstDialog(const Einstellungen& einst, std::filesystem::path ordner,
+EinstDialog::EinstDialog(const Einstellungen& einst, bool meister, std::filesystem::path ordner,
                          std::function<void(Statusfeld feld, const QString& text)> statusSetzen,
-                         std::function<void(const Einstellungen&)> uebernehmen, QWidget* parent)
+                         std::function<void(const Einstellungen&, bool)> uebernehmen, QWidget* parent)
     : QDialog(parent), ordner_(std::move(ordner)), statusSetzen_(std::move(statusSetzen)),
       uebernehmen_(std::move(uebernehmen)) {
     setAttribute(Qt::WA_DeleteOnClose);
@@ -57,7 +59,8 @@ EinstDialog::EinstDialog(const Einstellungen& einst, std::filesystem::path ordne
         {QStringLiteral("Fuchs"), QStringLiteral("Hennen"), QStringLiteral("Fuchs und Hennen")});
     Staerke_ = new QComboBox(this);
     Staerke_->setObjectName(QStringLiteral("Staerke"));
-    Staerke_->addItems({QStringLiteral("1 leicht"), QStringLiteral("2 mittel"), QStringLiteral("3 stark")});
+    Staerke_->addItems({QStringLiteral("1 leicht"), QStringLiteral("2 mittel"), QStringLiteral("3 stark"),
+                        QStringLiteral("4 Meister")});
     Lernen_ = new QCheckBox(QStringLiteral("Lernmodus (ab Spielstärke 2)"), this);
     Lernen_->setObjectName(QStringLiteral("Lernen"));
     Einzelzug_ = new QCheckBox(QStringLiteral("Einzelzugmodus"), this);
@@ -107,7 +110,7 @@ EinstDialog::EinstDialog(const Einstellungen& einst, std::filesystem::path ordne
 
     // Form_Load: the values are unchecked file contents, so anything outside the lists shows entry 0.
     pc_spielt_->setCurrentIndex(eintrag(einst.PC));
-    Staerke_->setCurrentIndex(eintrag(einst.Staerke));
+    Staerke_->setCurrentIndex(meister && einst.Staerke == 2 ? kMeister : eintrag(einst.Staerke));
     Lernen_->setChecked(einst.Lernmodus == 1);
     Einzelzug_->setChecked(einst.Einzelzug == 1);
     ausgleich();
@@ -126,10 +129,11 @@ void EinstDialog::ausgleich() {
 void EinstDialog::ok_Click() {
     Einstellungen e;
     e.PC = static_cast<int16_t>(pc_spielt_->currentIndex());
-    e.Staerke = static_cast<int16_t>(Staerke_->currentIndex());
+    const bool meister = Staerke_->currentIndex() == kMeister;
+    e.Staerke = static_cast<int16_t>(std::min(Staerke_->currentIndex(), 2));
     e.Lernmodus = Lernen_->isChecked() ? 1 : 0;
     e.Einzelzug = Einzelzug_->isChecked() ? 1 : 0;
-    if (uebernehmen_) uebernehmen_(e);
+    if (uebernehmen_) uebernehmen_(e, meister);
     if (!einstellungenSchreiben(ordner_, e)) {
         // The next new game reads the file again, so the settings last only for the game being played.
         meldungZeigen(this, QMessageBox::Warning,
@@ -139,7 +143,8 @@ void EinstDialog::ok_Click() {
     }
     if (statusSetzen_) {
         if (const auto t = pcStatustext(e.PC)) statusSetzen_(Statusfeld::seite, QString::fromStdString(*t));
-        if (const auto t = staerkeStatustextDialog(e.Staerke))
+        if (const auto t =
+                meister ? std::optional<std::string>(kMeisterStatustext) : staerkeStatustextDialog(e.Staerke))
             statusSetzen_(Statusfeld::staerke, QString::fromStdString(*t));
     }
     close();

@@ -102,7 +102,7 @@ class BrettFensterTest : public QObject {
         a.ziehe(24, 17);
         stat->close();
         QCOMPARE(abgelegt.count(), 0);
-        QVERIFY(gleich(a.spiel().stellung(), anfang));
+        QVERIFY(a.spiel().stellung() == anfang);
         QVERIFY(!a.brett()->ziehtGerade());
 
         const auto fuechse = fuchsFelder(anfang);
@@ -160,7 +160,7 @@ class BrettFensterTest : public QObject {
 
         const Stellung vorher = a.spiel().stellung();
         a.fenster->Timer1_Timer();
-        QVERIFY(!gleich(a.spiel().stellung(), vorher));
+        QVERIFY(!(a.spiel().stellung() == vorher));
         QVERIFY(antworter.texte.empty());
     }
 
@@ -183,6 +183,50 @@ class BrettFensterTest : public QObject {
         const auto geparkt = figur_index(a.spiel().stellung(), kParkfeld);
         QVERIFY(geparkt && *geparkt < 2);
         bilderPruefen(a);
+    }
+
+    // Spiel -> Tipp marks a legal move for the player and changes nothing; it is gone after the move,
+    // and there is none while the computer is to reply.
+    void tippZeigtEinenZug() {
+        Aufbau a({{0, 2, 0, 0}});
+        a.aktion("Neu");
+        auto* tipp = a.fenster->findChild<QAction*>(QStringLiteral("tipp"));
+        QVERIFY(tipp->isEnabled());
+        const Stellung vorher = a.spiel().stellung();
+        a.aktion("tipp");
+        const std::vector<int> felder = a.brett()->tipp();
+        QCOMPARE(felder.size(), size_t{2});
+        const Stellung& s = a.spiel().stellung();
+        QCOMPARE(s.Feld[feldX(felder[0])][feldY(felder[0])], henne);
+        QVERIFY(korrekterZug(s.Feld, Computer::fuchs, {}, feldX(felder[0]), feldY(felder[0]),
+                             feldX(felder[1]), feldY(felder[1])));
+        QVERIFY(s == vorher && a.spiel().spielzug() == 0);
+
+        a.ziehe(felder[0], felder[1]);
+        QVERIFY(a.brett()->tipp().empty());
+        QVERIFY(!tipp->isEnabled()); // the fox replies first
+        a.fenster->Timer1_Timer();
+        QVERIFY(tipp->isEnabled());
+    }
+
+    // The Meister chosen in the settings plays the computer's side, shows in the status bar and is still
+    // chosen after a restart.
+    void meisterSpieltUndBleibt() {
+        Aufbau a({{0, 2, 0, 0}});
+        a.fenster->meisterSetzen(true);
+        a.aktion("Neu");
+        QCOMPARE(a.panel(2), QStringLiteral("Spielstärke Meister"));
+        QVERIFY(a.spiel().spielerwahl().fuchs && a.spiel().spielerwahl().fuchs->meister);
+        const Stellung start = a.spiel().stellung();
+        a.ziehe(feldNummer(3, 3), feldNummer(3, 2));
+        a.fenster->Timer1_Timer();
+        QCOMPARE(a.spiel().spielzug(), 2); // the Meister's fox replied
+        a.starten();
+        QVERIFY(a.fenster->meister());
+        a.fenster->meisterSetzen(false);
+        a.aktion("Neu");
+        QCOMPARE(a.panel(2), QStringLiteral("Spielstärke 3"));
+        QVERIFY(a.spiel().stellung() == start);
     }
 
     void ganzePartieDesPc() {

@@ -108,10 +108,6 @@ struct Aufbau {
     void ziehe(int von, int nach) { ziehe(mitte(von), mitte(nach)); }
 };
 
-inline bool gleich(const Stellung& a, const Stellung& b) {
-    return a.Feld == b.Feld && a.figurplatz == b.figurplatz;
-}
-
 // Every piece image stands where the game says, at the board's scale, and shows or hides as it says.
 inline void bilderPruefen(Aufbau& a) {
     const Figurbilder& b = a.spiel().bilder();

@@ -87,18 +87,20 @@ class FensterTest : public QObject {
         Oeffentlich spiel;
         QList<QPair<int, QString>> status;
         int uebernommen = 0;
+        bool meister = false;
         QPointer<EinstDialog> d;
 
-        Einst(const std::filesystem::path& ordner, Einstellungen e = {}) {
+        Einst(const std::filesystem::path& ordner, Einstellungen e = {}, bool mitMeister = false) {
             spiel.einst = e;
             d = new EinstDialog(
-                spiel.einst, ordner,
+                spiel.einst, mitMeister, ordner,
                 [this](Statusfeld feld, const QString& t) {
                     status.append({static_cast<int>(feld), t});
                 },
-                [this](const Einstellungen& neu) {
+                [this](const Einstellungen& neu, bool m) {
                     ++uebernommen;
                     spiel.einst = neu;
+                    meister = m;
                 });
             d->show();
         }
@@ -128,6 +130,25 @@ class FensterTest : public QObject {
         const QList<QPair<int, QString>> status{{1, QStringLiteral("PC spielt Hennen")},
                                                 {2, QStringLiteral("SPielstärke 3")}};
         QCOMPARE(e.status, status);
+    }
+
+    // "4 Meister" is stored as strength 3 in QZ.INI and handed back as the Meister choice; it shows again
+    // only where the file still says strength 3.
+    void meisterAlsVierteStaerke() {
+        TempOrdner dir;
+        Einst e(dir.pfad(), {0, 0, 0, 0});
+        QCOMPARE(e.staerke()->count(), 4);
+        e.staerke()->setCurrentIndex(3);
+        QVERIFY(e.lernen()->isEnabled());
+        QTest::mouseClick(e.lernen(), Qt::LeftButton);
+        klick(e.d, "ok");
+        QCOMPARE(dir.lies("QZ.INI"), (Bytes{0x00, 0x00, 0x02, 0x00, 0x01, 0x00, 0x00, 0x00}));
+        QVERIFY(e.meister);
+        QCOMPARE(e.status.back(), (QPair<int, QString>{2, QStringLiteral("Spielstärke Meister")}));
+
+        QCOMPARE(Einst(dir.pfad(), {0, 2, 1, 0}, true).staerke()->currentIndex(), 3);
+        QCOMPARE(Einst(dir.pfad(), {0, 1, 1, 0}, true).staerke()->currentIndex(), 1);
+        QCOMPARE(Einst(dir.pfad(), {0, 2, 1, 0}, false).staerke()->currentIndex(), 2);
     }
 
     void lernmodusNurAbStaerkeZwei() {

@@ -51,7 +51,7 @@ class WiedergabeTest : public QObject {
             const Stellung vorher = a.spiel().stellung();
             const auto [von, nach] = hennenschritt(vorher);
             a.ziehe(von, nach);
-            zugAbgelehnt = gleich(a.spiel().stellung(), vorher) && !a.brett()->ziehtGerade();
+            zugAbgelehnt = a.spiel().stellung() == vorher && !a.brett()->ziehtGerade();
             startGesperrt = !a.fenster->findChild<QAction*>(QStringLiteral("start"))->isEnabled();
             hinweisDa = a.hinweisSichtbar("f_zug");
             schonMarkiert = a.brett()->markierung().has_value();
@@ -118,7 +118,7 @@ class WiedergabeTest : public QObject {
         QCOMPARE(a.panel(1), QStringLiteral("PC spielt Fuchs"));
         Stellung anfang;
         anfang.grundstellung();
-        QVERIFY(gleich(a.spiel().stellung(), anfang));
+        QVERIFY(a.spiel().stellung() == anfang);
         bilderPruefen(a);
         QVERIFY(!a.brett()->markierung());
         for (const char* h : {"f_zug", "h_zug", "spr_msg", "speichern_msg"})

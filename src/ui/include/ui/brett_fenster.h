@@ -3,6 +3,7 @@
 // what the game reports, paced so that a player can follow the computer's moves.
 #include <QMainWindow>
 #include <QPointer>
+#include <QSettings>
 #include <QTimer>
 #include <array>
 #include <cstdint>
@@ -31,6 +32,9 @@ class InfoWin;
 class Spiel;
 class StatForm;
 
+// The player's own settings of the window (size, pace, the Meister); the game's settings stay in QZ.INI.
+QSettings fensterEinstellungen();
+
 class BrettFenster : public QMainWindow, public Ansicht {
     Q_OBJECT
   public:
@@ -56,6 +60,13 @@ class BrettFenster : public QMainWindow, public Ansicht {
     // the game, and the commands that start or change a game wait.
     bool beschaeftigt() const;
 
+    // The Meister plays the computer's sides; the choice is kept in the user's settings, while QZ.INI
+    // holds strength 3 for it.
+    bool meister() const { return meister_; }
+    void meisterSetzen(bool meister);
+    // Spiel -> Tipp: the move the computer would make for the player, marked on the board for a while.
+    void tippZeigen();
+
     // Ansicht: every report is queued and shown in order by the playback.
     void figurBewegt(int k, int left, int top) override;
     void figurGleitet(int k, int left, int top) override;
@@ -73,6 +84,7 @@ class BrettFenster : public QMainWindow, public Ansicht {
     void Timer1_Timer();
 
   private:
+    void meisterAnwenden();
     // Commands and their pacing.
     void neu();
     void spielWeiter(); // after every call into the game: show what it reported
@@ -105,8 +117,13 @@ class BrettFenster : public QMainWindow, public Ansicht {
     bool selbstspielSchleife_ = false;
     bool zuletztGeglitten_ = false; // the last piece image moved was a computer piece's slide
     std::optional<Einstellungen> wartendeEinstellungen_; // confirmed while the computer plays itself
-    std::vector<QAction*> wartendeBefehle_;              // disabled while busy
+    std::optional<bool> wartenderMeister_;
+    std::vector<QAction*> wartendeBefehle_; // disabled while busy
     std::array<QAction*, 3> tempoAktionen_{};
+    QAction* tippAktion_ = nullptr;
+    QTimer tippUhr_; // how long a hint stays on the board
+    bool meister_ = false;
+    uint32_t startzeit_ = 0;
     QPointer<EinstDialog> einst_;
     QPointer<StatForm> stat_;
     QPointer<HilfeFenster> hilfe_;

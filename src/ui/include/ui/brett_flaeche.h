@@ -9,6 +9,7 @@
 #include <array>
 #include <functional>
 #include <optional>
+#include <vector>
 
 #include "board/stellung.h"
 #include "game/ansicht.h"
@@ -42,6 +43,11 @@ class BrettFlaeche : public QWidget {
     void zugMarkieren(int von, int nach);
     void markierungLoeschen();
     std::optional<std::pair<int, int>> markierung() const { return markierung_; }
+
+    // A hint: the squares of a suggested move (origin, then each landing square), until cleared.
+    void tippZeigen(std::vector<int> felder);
+    void tippLoeschen();
+    const std::vector<int>& tipp() const { return tipp_; }
 
     // The topmost visible piece image under `p`, or -1.
     int figurAn(QPoint p) const;
@@ -79,6 +85,7 @@ class BrettFlaeche : public QWidget {
     QPoint ursprung_;
     QPixmap brett_; // the board picture at its current size
     std::optional<std::pair<int, int>> markierung_;
+    std::vector<int> tipp_;
     SvgBild* schwebend_ = nullptr; // the copy that follows the cursor during a drag
     int gezogen_ = -1;
     QPoint griff_; // cursor offset inside the dragged image

@@ -16,11 +16,13 @@ namespace fuh {
 class EinstDialog : public QDialog {
     Q_OBJECT
   public:
-    // Opens showing `einst`. `statusSetzen` writes a status bar panel; `uebernehmen` lets the game take
-    // the new settings.
-    EinstDialog(const Einstellungen& einst, std::filesystem::path ordner,
+    // Opens showing `einst` (and the Meister as the fourth strength when `meister` is set and the file
+    // says strength 3). `statusSetzen` writes a status bar panel; `uebernehmen` lets the game take the new
+    // settings and the Meister choice. QZ.INI stores the Meister as strength 3.
+    EinstDialog(const Einstellungen& einst, bool meister, std::filesystem::path ordner,
                 std::function<void(Statusfeld feld, const QString& text)> statusSetzen,
-                std::function<void(const Einstellungen&)> uebernehmen, QWidget* parent = nullptr);
+                std::function<void(const Einstellungen&, bool meister)> uebernehmen,
+                QWidget* parent = nullptr);
 
   private:
     void ausgleich();
@@ -28,7 +30,7 @@ class EinstDialog : public QDialog {
 
     std::filesystem::path ordner_;
     std::function<void(Statusfeld, const QString&)> statusSetzen_;
-    std::function<void(const Einstellungen&)> uebernehmen_;
+    std::function<void(const Einstellungen&, bool)> uebernehmen_;
     QComboBox* pc_spielt_;
     QComboBox* Staerke_;
     QCheckBox* Lernen_;
