@@ -21,6 +21,7 @@ void Spiel::spielerFestlegen(const Spielerwahl& w) {
     meisterHennen_.reset();
     meisterFuchs_.reset();
     meisterTipp_.reset();
+    statusTexte();
 }
 
 void Spiel::Form_Load(uint32_t sekundenSeitMitternacht) {

@@ -90,9 +90,11 @@ BrettFenster::BrettFenster(std::filesystem::path ordner, uint32_t startzeit, QWi
     naechsterZug_.setSingleShot(true);
     connect(&naechsterZug_, &QTimer::timeout, this, &BrettFenster::selbstspielSchritt);
 
-    meister_ = fensterEinstellungen().value(QStringLiteral("meister")).toBool();
-    meisterAnwenden();
     spiel_->Form_Load(startzeit);
+    // The Meister is stored as strength 3 in QZ.INI; a file that says otherwise now was changed since.
+    meister_ = fensterEinstellungen().value(QStringLiteral("meister")).toBool() &&
+               spiel_->oeffentlich().einst.Staerke == 2;
+    meisterAnwenden();
     // Start-up moves nothing that could be paced: its reports are shown at once.
     wiedergabe_.abbrechen([](const Ereignis&) { return true; });
     // The images stand where the game keeps them before the window is first shown.

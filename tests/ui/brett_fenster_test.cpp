@@ -223,6 +223,7 @@ class BrettFensterTest : public QObject {
         QCOMPARE(a.spiel().spielzug(), 2); // the Meister's fox replied
         a.starten();
         QVERIFY(a.fenster->meister());
+        QCOMPARE(a.panel(2), QStringLiteral("Spielstärke Meister"));
         a.fenster->meisterSetzen(false);
         a.aktion("Neu");
         QCOMPARE(a.panel(2), QStringLiteral("Spielstärke 3"));
