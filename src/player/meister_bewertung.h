@@ -11,7 +11,7 @@ struct Gewichte {
     int satt = 11;          // hens beyond this many are a reserve the hens may give up for progress
     int reserve = 40;       // every hen beyond `satt`
     int hennenMitte = 17;   // where the material term is zero, so that the opening is about even
-    int eile = 200;         // percent more worth of progress at the move limit than at the start
+    int eile = 300;         // percent more worth of progress at the move limit than at the start
     int platz = 100;        // percent of the square table below
     int beweglich = 3;      // every step a fox has
     int fuchsImZiel = 25;   // a fox blocking a square of the target area
