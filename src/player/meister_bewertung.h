@@ -21,9 +21,6 @@ struct Gewichte {
     int luecke = 12;        // an empty target square with no hen next to it from below
 };
 
-// Worth of one hen on each square, before scaling by Gewichte::platz.
-const std::array<int, kQuadrate>& hennenplatz();
-
 // `spielzug`: positions recorded so far; progress counts for more as the move limit nears.
 int bewerte(const Suchbrett& b, const Gewichte& g, int spielzug);
 
