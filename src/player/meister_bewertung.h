@@ -1,6 +1,5 @@
 #pragma once
 // The search's judgement of a quiet position, in points for the hens (the foxes read it negated).
-#include <array>
 
 #include "player/meister_brett.h"
 
