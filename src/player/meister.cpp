@@ -7,8 +7,11 @@
 namespace fuh {
 
 namespace {
-// A new depth is begun only within this share of the budget; each costs a few times the one before.
+// A new depth is begun only within this share (percent) of the budget; each costs a few times the one
+// before. Late in a game, when the move limit draws near, the search may take a larger share.
 constexpr int kWeicherAnteil = 10;
+constexpr int kSpaeterAnteil = 35;
+constexpr int kSpaet = 100; // positions recorded
 // The clock is read every thousand positions, so the search keeps a margin below the budget.
 constexpr int kHarterAnteilProzent = 90;
 constexpr std::chrono::milliseconds kHoechsteBedenkzeit{450};
@@ -63,7 +66,7 @@ Zugwahl Meister::berechne(const MeisterLage& lage) {
     const auto budget = std::clamp(lage.bedenkzeit, std::chrono::milliseconds{1}, kHoechsteBedenkzeit);
     const auto budgetUs = std::chrono::duration_cast<std::chrono::microseconds>(budget);
     a.hart = budgetUs * kHarterAnteilProzent / 100;
-    a.weich = budgetUs / kWeicherAnteil;
+    a.weich = budgetUs * (a.spielzug >= kSpaet ? kSpaeterAnteil : kWeicherAnteil) / 100;
     a.knotenGrenze = knotenGrenze_;
     a.tiefenGrenze = tiefenGrenze_;
 

@@ -23,10 +23,6 @@ constexpr std::array<int, kQuadrate> kPlatz = {
 
 } // namespace
 
-const std::array<int, kQuadrate>& hennenplatz() {
-    return kPlatz;
-}
-
 Fuchslage fuchslage(const Suchbrett& b) {
     const Linien& l = linien();
     Fuchslage lage;

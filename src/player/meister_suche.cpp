@@ -16,6 +16,12 @@ int zumSpeichern(int wert, int ply) {
 int ausDemSpeicher(int wert, int ply) {
     return wert > kEntschieden ? wert - ply : wert < -kEntschieden ? wert + ply : wert;
 }
+// The stored value settles the node: exact, or a bound beyond the window.
+bool entscheidet(const Eintrag& e, int alpha, int beta, int ply) {
+    const int w = ausDemSpeicher(e.wert, ply);
+    return e.art == Grenze::genau || (e.art == Grenze::unten && w >= beta) ||
+           (e.art == Grenze::oben && w <= alpha);
+}
 bool passt(const Eintrag& e, const Suchzug& z) {
     return e.von == z.von && e.spruenge == z.spruenge && e.nach == z.ende();
 }
@@ -107,6 +113,20 @@ void Suche::merke(const Suchbrett& b, int ply, const Suchzug& z, int tiefe) {
     h = std::min(h + tiefe * tiefe, 1 << 20);
 }
 
+void Suche::speichere(const Suchbrett& b, const Suchzug& z, int wert, Grenze art, int tiefe, int ply,
+                      int rest) {
+    Eintrag neu;
+    neu.schluessel = b.schluessel;
+    neu.wert = static_cast<int16_t>(zumSpeichern(wert, ply));
+    neu.tiefe = static_cast<int8_t>(tiefe);
+    neu.art = art;
+    neu.von = z.von;
+    neu.nach = z.ende();
+    neu.spruenge = z.spruenge;
+    neu.rest = static_cast<uint8_t>(std::clamp(rest, 0, 255));
+    tt_.speichere(neu);
+}
+
 int Suche::ab(const Suchbrett& b, int tiefe, int alpha, int beta, int ply, int spielzug) {
     if (tiefe <= 0 || ply >= kPlies - 1) return ruhe(b, alpha, beta, ply, spielzug);
     ++knoten_;
@@ -114,12 +134,7 @@ int Suche::ab(const Suchbrett& b, int tiefe, int alpha, int beta, int ply, int s
     if (halt_) return 0;
     const int rest = kZugbegrenzung - spielzug;
     const Eintrag* e = tt_.finde(b.schluessel, rest);
-    if (e && e->tiefe >= tiefe) {
-        const int w = ausDemSpeicher(e->wert, ply);
-        if (e->art == Grenze::genau || (e->art == Grenze::unten && w >= beta) ||
-            (e->art == Grenze::oben && w <= alpha))
-            return w;
-    }
+    if (e && e->tiefe >= tiefe && entscheidet(*e, alpha, beta, ply)) return ausDemSpeicher(e->wert, ply);
     const int n = b.fuchsAmZug ? b.fuchszuege(zuege_[ply].data()) : b.hennenzuege(zuege_[ply].data());
     if (n == 0) {
         // No move: the hens lose, the foxes draw; the check still counts towards the move limit.
@@ -155,18 +170,8 @@ int Suche::ab(const Suchbrett& b, int tiefe, int alpha, int beta, int ply, int s
             break;
         }
     }
-    const Suchzug& bz = zuege_[ply][besterIndex];
-    Eintrag neu{b.schluessel,
-                static_cast<int16_t>(zumSpeichern(best, ply)),
-                static_cast<int8_t>(tiefe),
-                best <= alphaAnfang ? Grenze::oben
-                : best >= beta      ? Grenze::unten
-                                    : Grenze::genau,
-                bz.von,
-                bz.ende(),
-                bz.spruenge,
-                static_cast<uint8_t>(std::clamp(rest, 0, 255))};
-    tt_.speichere(neu);
+    const Grenze art = best <= alphaAnfang ? Grenze::oben : best >= beta ? Grenze::unten : Grenze::genau;
+    speichere(b, zuege_[ply][besterIndex], best, art, tiefe, ply, rest);
     return best;
 }
 

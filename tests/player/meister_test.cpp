@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <set>
+
 #include "board/regeln.h"
 #include "player/fuchsspieler.h"
 #include "player/meister.h"
@@ -75,6 +77,23 @@ TEST(Meister, FuchsFindetDieKetteDieGewinnt) {
     const Zugwahl einfach = berechneFuchs(brett(kViererkette), Erinnerung(lerndatei, 0, partie), zufall);
     ASSERT_EQ(einfach.anzahl, 1);
     EXPECT_EQ(einfach.zuege[0], (Teilzug{4, 2, 2, 2}));
+}
+
+TEST(Meister, JedeKetteDarfFruehEnden) {
+    // The fox on (2, 2) can jump down and on to the right, or left: the whole chain, its first jump and
+    // the single jump are three moves, and only they come back when only jumps are asked for.
+    const auto b =
+        meister::Suchbrett::aus(brett({{0, 2, 2}, {1, 0, 0}, {2, 2, 3}, {3, 3, 4}, {4, 1, 2}}), true);
+    std::array<meister::Suchzug, meister::kHoechstZuege> zuege{};
+    const int n = b.fuchszuege(zuege.data());
+    std::multiset<std::pair<int, int>> ketten; // jumps, landing square
+    for (int i = 0; i < n; ++i)
+        if (zuege[i].spruenge > 0) ketten.insert({zuege[i].spruenge, zuege[i].ende()});
+    const std::multiset<std::pair<int, int>> erwartet = {
+        {1, feldNummer(0, 2)}, {1, feldNummer(2, 4)}, {2, feldNummer(4, 4)}};
+    EXPECT_EQ(ketten, erwartet);
+    EXPECT_GT(n, 3); // the steps
+    EXPECT_EQ(b.fuchszuege(zuege.data(), true), 3);
 }
 
 TEST(Meister, HennenSchliessenDieLuecke) {

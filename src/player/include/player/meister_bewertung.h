@@ -1,6 +1,5 @@
 #pragma once
 // The search's judgement of a quiet position, in points for the hens (the foxes read it negated).
-#include <array>
 
 #include "player/meister_brett.h"
 
@@ -11,7 +10,7 @@ struct Gewichte {
     int satt = 11;          // hens beyond this many are a reserve the hens may give up for progress
     int reserve = 40;       // every hen beyond `satt`
     int hennenMitte = 17;   // where the material term is zero, so that the opening is about even
-    int eile = 200;         // percent more worth of progress at the move limit than at the start
+    int eile = 300;         // percent more worth of progress at the move limit than at the start
     int platz = 100;        // percent of the square table below
     int beweglich = 3;      // every step a fox has
     int fuchsImZiel = 25;   // a fox blocking a square of the target area
@@ -20,9 +19,6 @@ struct Gewichte {
     int doppeldrohung = 80; // every further hen that can be jumped
     int luecke = 12;        // an empty target square with no hen next to it from below
 };
-
-// Worth of one hen on each square, before scaling by Gewichte::platz.
-const std::array<int, kQuadrate>& hennenplatz();
 
 // `spielzug`: positions recorded so far; progress counts for more as the move limit nears.
 int bewerte(const Suchbrett& b, const Gewichte& g, int spielzug);

@@ -53,6 +53,7 @@ class Suche {
     int statisch(const Suchbrett& b, int spielzug) const;
     void ordne(const Suchbrett& b, int ply, int n, const Eintrag* e);
     int waehle(int ply, int von, int n);
+    void speichere(const Suchbrett& b, const Suchzug& z, int wert, Grenze art, int tiefe, int ply, int rest);
     void merke(const Suchbrett& b, int ply, const Suchzug& z, int tiefe);
     bool zeitUm();
 
