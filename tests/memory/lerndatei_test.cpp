@@ -104,16 +104,16 @@ TEST_F(LerndateiTest, VolleDateiNimmtNichtsMehrAuf) {
     EXPECT_EQ(std::filesystem::file_size(ordner / "QZ3.DAT"), std::uintmax_t{1} << 40);
 }
 
-TEST_F(LerndateiTest, NichtSchreibbareDateiBleibtUnversehrt) {
-    ordner.schreibe("QZ3.DAT", satz(positionscode(s.Feld), 1, 1));
-    // The temporary file cannot be created: a folder stands in its place.
-    std::filesystem::create_directory(ordner / ("QZ3.DAT.tmp" + std::to_string(::getpid())));
+TEST_F(LerndateiTest, FremdesStattDateiBleibtUnberuehrt) {
+    // A folder where the file should be: nothing learned, nothing written, a failed merge reported.
+    std::filesystem::create_directory(ordner / "QZ3.DAT");
     nehmeAuf(5, 5);
+    EXPECT_EQ(datei.erinnern(s.Feld, fuchs, 2, Partie{}), 0);
     const auto m = datei.speichern(partie, 2);
     EXPECT_FALSE(m.geschrieben);
     EXPECT_EQ(m.neueZuege, 0);
-    EXPECT_EQ(ordner.lies("QZ3.DAT"), satz(positionscode(s.Feld), 1, 1));
+    EXPECT_TRUE(std::filesystem::is_directory(ordner / "QZ3.DAT"));
+    EXPECT_EQ(ordner.namen(), std::vector<std::string>{"QZ3.DAT"});
 }
-
 } // namespace
 } // namespace fuh

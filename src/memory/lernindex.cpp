@@ -1,0 +1,144 @@
+#include "memory/lernindex.h"
+
+#include <algorithm>
+#include <cstring>
+
+#include "board/zahlen.h"
+#include "memory/dateizugriff.h"
+
+namespace fuh {
+
+namespace {
+constexpr uint32_t kSlots = 1u << 16; // more than twice the most records: short probe chains
+constexpr uint32_t kMaske = kSlots - 1;
+constexpr std::size_t kPuffer = Lernindex::kHoechstens + kLernsatz; // room for a partial last record
+
+int16_t lies16(const uint8_t* b) {
+    return static_cast<int16_t>(static_cast<uint16_t>(b[0] | (b[1] << 8)));
+}
+
+void schreibe16(uint8_t* b, int16_t wert) {
+    const auto u = static_cast<uint16_t>(wert);
+    b[0] = static_cast<uint8_t>(u & 0xFF);
+    b[1] = static_cast<uint8_t>(u >> 8);
+}
+
+// Number of records: the length divided by 15, rounded to the nearest whole number.
+int satzzahl(std::size_t laenge) {
+    return static_cast<int>(std::min<std::size_t>((laenge + kLernsatz / 2) / kLernsatz, kHoechsteSaetze));
+}
+} // namespace
+
+uint32_t Lernindex::slot(const uint8_t* code) const {
+    uint64_t a = 0;
+    std::memcpy(&a, code, 8);
+    const uint64_t b = code[8] | (code[9] << 8) | (static_cast<uint32_t>(code[10]) << 16);
+    uint64_t h = a * 0x9E3779B97F4A7C15ull ^ (b + 0x632BE59BD9B4E019ull) * 0xC2B2AE3D27D4EB4Full;
+    h ^= h >> 31;
+    return static_cast<uint32_t>(h >> 40) & kMaske;
+}
+
+bool Lernindex::eintragen(int r) {
+    const uint8_t* code = inhalt_.data() + static_cast<std::size_t>(r) * kLernsatz;
+    for (uint32_t h = slot(code);; h = (h + 1) & kMaske) {
+        const int32_t s = tabelle_[h];
+        if (s < 0) {
+            tabelle_[h] = r;
+            return true;
+        }
+        if (std::memcmp(inhalt_.data() + static_cast<std::size_t>(s) * kLernsatz, code, 11) == 0)
+            return false;
+    }
+}
+
+void Lernindex::aufbauen() {
+    std::fill(tabelle_.begin(), tabelle_.end(), -1);
+    for (int r = 0; r < n_; ++r)
+        eintragen(r); // a repeated code keeps its first record
+}
+
+bool Lernindex::laden(int fd, const struct stat& st) {
+    if (inhalt_.empty()) {
+        inhalt_.assign(kPuffer, 0);
+        frisch_.assign(kPuffer, 0);
+        tabelle_.assign(kSlots, -1);
+        gueltig_ = false;
+    }
+    const auto soll =
+        std::min<std::size_t>(static_cast<std::size_t>(std::max<off_t>(st.st_size, 0)), kHoechstens);
+    const long n = datei::lesenAb(fd, frisch_.data(), soll, 0);
+    if (n < 0) return false;
+    const auto gelesen = static_cast<std::size_t>(n);
+    std::fill(frisch_.begin() + static_cast<long>(gelesen), frisch_.end(), 0);
+    const bool gleich =
+        gueltig_ && gelesen == laenge_ && std::equal(frisch_.begin(), frisch_.end(), inhalt_.begin());
+    if (!gleich) {
+        inhalt_.swap(frisch_);
+        laenge_ = gelesen;
+        n_ = satzzahl(gelesen);
+        aufbauen();
+    }
+    standSetzen(st);
+    return true;
+}
+
+void Lernindex::leeren(const struct stat& st) {
+    inhalt_.assign(kPuffer, 0);
+    frisch_.assign(kPuffer, 0);
+    tabelle_.assign(kSlots, -1);
+    laenge_ = 0;
+    n_ = 0;
+    standSetzen(st);
+}
+
+void Lernindex::standSetzen(const struct stat& st) {
+    dev_ = st.st_dev;
+    ino_ = st.st_ino;
+    groesse_ = st.st_size;
+    mtime_ = st.st_mtim;
+    gueltig_ = true;
+}
+
+bool Lernindex::aktuell(const struct stat& st) const {
+    return gueltig_ && st.st_ino == ino_ && st.st_dev == dev_ && st.st_size == groesse_ &&
+           st.st_mtim.tv_sec == mtime_.tv_sec && st.st_mtim.tv_nsec == mtime_.tv_nsec;
+}
+
+int Lernindex::finde(const Code& p, const Code& m) const {
+    int treffer = -1;
+    for (const Code* c : {&p, &m}) {
+        for (uint32_t h = slot(c->data());; h = (h + 1) & kMaske) {
+            const int32_t s = tabelle_[h];
+            if (s < 0) break;
+            if (std::memcmp(inhalt_.data() + static_cast<std::size_t>(s) * kLernsatz, c->data(), 11) == 0) {
+                if (treffer < 0 || s < treffer) treffer = s;
+                break;
+            }
+        }
+    }
+    return treffer;
+}
+
+int16_t Lernindex::wert(int r, std::size_t feld) const {
+    return lies16(inhalt_.data() + static_cast<std::size_t>(r) * kLernsatz + feld);
+}
+
+void Lernindex::addieren(int r, int16_t fuchswert, int16_t hennenwert) {
+    uint8_t* satz = inhalt_.data() + static_cast<std::size_t>(r) * kLernsatz;
+    schreibe16(satz + kFuchswert, sat16(lies16(satz + kFuchswert) + fuchswert));
+    schreibe16(satz + kHennenwert, sat16(lies16(satz + kHennenwert) + hennenwert));
+}
+
+void Lernindex::anhaengen(const Code& c, int16_t fuchswert, int16_t hennenwert) {
+    uint8_t* satz = inhalt_.data() + static_cast<std::size_t>(n_) * kLernsatz;
+    std::copy(c.begin(), c.end(), satz);
+    schreibe16(satz + kFuchswert, fuchswert);
+    schreibe16(satz + kHennenwert, hennenwert);
+    eintragen(n_++);
+}
+
+std::size_t Lernindex::laengeNach(int letzterSatz) const {
+    return std::max(laenge_, static_cast<std::size_t>(letzterSatz + 1) * kLernsatz);
+}
+
+} // namespace fuh
