@@ -9,8 +9,7 @@
 namespace fuh {
 
 namespace {
-constexpr uint32_t kSlots = 1u << 16; // more than twice the most records: short probe chains
-constexpr uint32_t kMaske = kSlots - 1;
+constexpr std::size_t kWenigsteSlots = 1024;
 constexpr std::size_t kPuffer = Lernindex::kHoechstens + kLernsatz; // room for a partial last record
 
 int16_t lies16(const uint8_t* b) {
@@ -35,12 +34,12 @@ uint32_t Lernindex::slot(const uint8_t* code) const {
     const uint64_t b = code[8] | (code[9] << 8) | (static_cast<uint32_t>(code[10]) << 16);
     uint64_t h = a * 0x9E3779B97F4A7C15ull ^ (b + 0x632BE59BD9B4E019ull) * 0xC2B2AE3D27D4EB4Full;
     h ^= h >> 31;
-    return static_cast<uint32_t>(h >> 40) & kMaske;
+    return static_cast<uint32_t>(h >> 32) & maske_;
 }
 
 bool Lernindex::eintragen(int r) {
     const uint8_t* code = inhalt_.data() + static_cast<std::size_t>(r) * kLernsatz;
-    for (uint32_t h = slot(code);; h = (h + 1) & kMaske) {
+    for (uint32_t h = slot(code);; h = (h + 1) & maske_) {
         const int32_t s = tabelle_[h];
         if (s < 0) {
             tabelle_[h] = r;
@@ -52,28 +51,39 @@ bool Lernindex::eintragen(int r) {
 }
 
 void Lernindex::aufbauen() {
-    std::fill(tabelle_.begin(), tabelle_.end(), -1);
+    // At least twice as many slots as records keeps the probe chains short.
+    std::size_t slots = kWenigsteSlots;
+    while (slots < 2 * static_cast<std::size_t>(n_))
+        slots *= 2;
+    tabelle_.assign(slots, -1);
+    maske_ = static_cast<uint32_t>(slots - 1);
     for (int r = 0; r < n_; ++r)
         eintragen(r); // a repeated code keeps its first record
 }
 
+void Lernindex::puffernAnlegen() {
+    if (!inhalt_.empty()) return;
+    inhalt_.assign(kPuffer, 0);
+    frisch_.assign(kPuffer, 0);
+    ausdehnung_ = frischAusdehnung_ = 0;
+    gueltig_ = false;
+}
+
 bool Lernindex::laden(int fd, const struct stat& st) {
-    if (inhalt_.empty()) {
-        inhalt_.assign(kPuffer, 0);
-        frisch_.assign(kPuffer, 0);
-        tabelle_.assign(kSlots, -1);
-        gueltig_ = false;
-    }
-    const auto soll =
-        std::min<std::size_t>(static_cast<std::size_t>(std::max<off_t>(st.st_size, 0)), kHoechstens);
-    const long n = datei::lesenAb(fd, frisch_.data(), soll, 0);
+    puffernAnlegen();
+    const auto groesse = static_cast<std::size_t>(std::max<off_t>(st.st_size, 0));
+    const long n = datei::lesenAb(fd, frisch_.data(), std::min(groesse, kHoechstens), 0);
     if (n < 0) return false;
     const auto gelesen = static_cast<std::size_t>(n);
-    std::fill(frisch_.begin() + static_cast<long>(gelesen), frisch_.end(), 0);
-    const bool gleich =
-        gueltig_ && gelesen == laenge_ && std::equal(frisch_.begin(), frisch_.end(), inhalt_.begin());
-    if (!gleich) {
+    if (frischAusdehnung_ > gelesen)
+        std::fill(frisch_.begin() + static_cast<long>(gelesen),
+                  frisch_.begin() + static_cast<long>(frischAusdehnung_), 0);
+    frischAusdehnung_ = gelesen;
+    const auto bis = static_cast<long>(std::max(gelesen, ausdehnung_));
+    if (!gueltig_ || gelesen != laenge_ ||
+        !std::equal(frisch_.begin(), frisch_.begin() + bis, inhalt_.begin())) {
         inhalt_.swap(frisch_);
+        std::swap(ausdehnung_, frischAusdehnung_);
         laenge_ = gelesen;
         n_ = satzzahl(gelesen);
         aufbauen();
@@ -83,11 +93,12 @@ bool Lernindex::laden(int fd, const struct stat& st) {
 }
 
 void Lernindex::leeren(const struct stat& st) {
-    inhalt_.assign(kPuffer, 0);
-    frisch_.assign(kPuffer, 0);
-    tabelle_.assign(kSlots, -1);
+    puffernAnlegen();
+    std::fill(inhalt_.begin(), inhalt_.begin() + static_cast<long>(ausdehnung_), 0);
+    ausdehnung_ = 0;
     laenge_ = 0;
     n_ = 0;
+    aufbauen();
     standSetzen(st);
 }
 
@@ -107,7 +118,7 @@ bool Lernindex::aktuell(const struct stat& st) const {
 int Lernindex::finde(const Code& p, const Code& m) const {
     int treffer = -1;
     for (const Code* c : {&p, &m}) {
-        for (uint32_t h = slot(c->data());; h = (h + 1) & kMaske) {
+        for (uint32_t h = slot(c->data());; h = (h + 1) & maske_) {
             const int32_t s = tabelle_[h];
             if (s < 0) break;
             if (std::memcmp(inhalt_.data() + static_cast<std::size_t>(s) * kLernsatz, c->data(), 11) == 0) {
@@ -125,6 +136,7 @@ int16_t Lernindex::wert(int r, std::size_t feld) const {
 
 void Lernindex::addieren(int r, int16_t fuchswert, int16_t hennenwert) {
     uint8_t* satz = inhalt_.data() + static_cast<std::size_t>(r) * kLernsatz;
+    ausdehnung_ = std::max(ausdehnung_, static_cast<std::size_t>(r + 1) * kLernsatz);
     schreibe16(satz + kFuchswert, sat16(lies16(satz + kFuchswert) + fuchswert));
     schreibe16(satz + kHennenwert, sat16(lies16(satz + kHennenwert) + hennenwert));
 }
@@ -134,7 +146,11 @@ void Lernindex::anhaengen(const Code& c, int16_t fuchswert, int16_t hennenwert) 
     std::copy(c.begin(), c.end(), satz);
     schreibe16(satz + kFuchswert, fuchswert);
     schreibe16(satz + kHennenwert, hennenwert);
-    eintragen(n_++);
+    ausdehnung_ = std::max(ausdehnung_, static_cast<std::size_t>(n_ + 1) * kLernsatz);
+    if (2 * ++n_ > static_cast<int>(tabelle_.size()))
+        aufbauen(); // grows the table
+    else
+        eintragen(n_ - 1);
 }
 
 std::size_t Lernindex::laengeNach(int letzterSatz) const {

@@ -44,6 +44,7 @@ class Lernindex {
     void standSetzen(const struct stat& st);
 
   private:
+    void puffernAnlegen();
     void aufbauen();
     bool eintragen(int r); // false when the code is already there
     uint32_t slot(const uint8_t* code) const;
@@ -51,6 +52,9 @@ class Lernindex {
     std::vector<uint8_t> inhalt_;  // owned part, zeros after the end up to a whole record
     std::vector<uint8_t> frisch_;  // the file as read again, compared with inhalt_
     std::vector<int32_t> tabelle_; // open addressing: record numbers, -1 empty
+    uint32_t maske_ = 0;
+    std::size_t ausdehnung_ = 0;       // bytes of inhalt_ that may be other than zero
+    std::size_t frischAusdehnung_ = 0; // the same for frisch_
     std::size_t laenge_ = 0;
     int n_ = 0;
     bool gueltig_ = false;
