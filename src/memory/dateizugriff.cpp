@@ -106,7 +106,9 @@ namespace {
 // named `name`. A leftover of an earlier, killed writer under that name is removed first: every writer
 // holds the folder lock, so nobody else is using it.
 Deskriptor tempAnlegen(int ordner, const std::string& name, bool& unbenannt) {
-    Deskriptor d(::openat(ordner, ".", O_TMPFILE | O_WRONLY | O_CLOEXEC, 0666));
+    // Naming an unnamed file goes through /proc; without it, the file is named from the start.
+    static const bool proc = ::access("/proc/self/fd", X_OK) == 0;
+    Deskriptor d(proc ? ::openat(ordner, ".", O_TMPFILE | O_WRONLY | O_CLOEXEC, 0666) : -1);
     unbenannt = static_cast<bool>(d);
     if (unbenannt) return d;
     ::unlinkat(ordner, name.c_str(), 0);
