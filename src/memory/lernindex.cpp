@@ -32,9 +32,14 @@ uint32_t Lernindex::slot(const uint8_t* code) const {
     uint64_t a = 0;
     std::memcpy(&a, code, 8);
     const uint64_t b = code[8] | (code[9] << 8) | (static_cast<uint32_t>(code[10]) << 16);
-    uint64_t h = a * 0x9E3779B97F4A7C15ull ^ (b + 0x632BE59BD9B4E019ull) * 0xC2B2AE3D27D4EB4Full;
-    h ^= h >> 31;
-    return static_cast<uint32_t>(h >> 32) & maske_;
+    // Every byte of the code must reach the slot bits: a full 64-bit mix (MurmurHash3's finaliser).
+    uint64_t h = a ^ (b * 0x9E3779B97F4A7C15ull);
+    h ^= h >> 33;
+    h *= 0xFF51AFD7ED558CCDull;
+    h ^= h >> 33;
+    h *= 0xC4CEB9FE1A85EC53ull;
+    h ^= h >> 33;
+    return static_cast<uint32_t>(h) & maske_;
 }
 
 bool Lernindex::eintragen(int r) {
