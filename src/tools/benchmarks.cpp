@@ -132,6 +132,8 @@ std::pair<int, int> fuchszug(const fuh::Spiel& spiel) {
 void BM_Hennenzug(benchmark::State& state) {
     Ordner ordner;
     if (state.range(1) > 0) vollerLerndatei(ordner.lerndatei());
+    // No statistics: counting each new game would sync a file in the untimed part of every iteration.
+    fs::create_directory(ordner.pfad / fuh::kStatistikdatei);
     const fuh::Oeffentlich* oeffentlich = nullptr;
     fuh::ProtokollAnsicht ansicht(oeffentlich, nullptr); // logs nothing
     fuh::Zufall zufall(1);
