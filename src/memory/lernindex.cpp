@@ -28,7 +28,7 @@ int satzzahl(std::size_t laenge) {
 }
 } // namespace
 
-uint32_t Lernindex::slot(const uint8_t* code) const {
+uint64_t Lernindex::streuwert(const uint8_t* code) {
     uint64_t a = 0;
     std::memcpy(&a, code, 8);
     const uint64_t b = code[8] | (code[9] << 8) | (static_cast<uint32_t>(code[10]) << 16);
@@ -39,20 +39,30 @@ uint32_t Lernindex::slot(const uint8_t* code) const {
     h ^= h >> 33;
     h *= 0xC4CEB9FE1A85EC53ull;
     h ^= h >> 33;
-    return static_cast<uint32_t>(h) & maske_;
+    return h;
+}
+
+// A slot holds the record number + 1 (0: empty) under 16 bits of the hash, so that most slots of other
+// codes are passed over without touching the records.
+int Lernindex::suche(const uint8_t* code, uint64_t h, uint32_t& platz) const {
+    const uint32_t marke = static_cast<uint32_t>(h >> 48) << 16;
+    for (platz = static_cast<uint32_t>(h) & maske_;; platz = (platz + 1) & maske_) {
+        const uint32_t s = tabelle_[platz];
+        if (s == 0) return -1;
+        const int r = static_cast<int>(s & 0xFFFFu) - 1;
+        if ((s & 0xFFFF0000u) == marke &&
+            std::memcmp(inhalt_.data() + static_cast<std::size_t>(r) * kLernsatz, code, 11) == 0)
+            return r;
+    }
 }
 
 bool Lernindex::eintragen(int r) {
     const uint8_t* code = inhalt_.data() + static_cast<std::size_t>(r) * kLernsatz;
-    for (uint32_t h = slot(code);; h = (h + 1) & maske_) {
-        const int32_t s = tabelle_[h];
-        if (s < 0) {
-            tabelle_[h] = r;
-            return true;
-        }
-        if (std::memcmp(inhalt_.data() + static_cast<std::size_t>(s) * kLernsatz, code, 11) == 0)
-            return false;
-    }
+    const uint64_t h = streuwert(code);
+    uint32_t platz = 0;
+    if (suche(code, h, platz) >= 0) return false;
+    tabelle_[platz] = (static_cast<uint32_t>(h >> 48) << 16) | static_cast<uint32_t>(r + 1);
+    return true;
 }
 
 void Lernindex::aufbauen() {
@@ -60,7 +70,7 @@ void Lernindex::aufbauen() {
     std::size_t slots = kWenigsteSlots;
     while (slots < 2 * static_cast<std::size_t>(n_))
         slots *= 2;
-    tabelle_.assign(slots, -1);
+    tabelle_.assign(slots, 0);
     maske_ = static_cast<uint32_t>(slots - 1);
     for (int r = 0; r < n_; ++r)
         eintragen(r); // a repeated code keeps its first record
@@ -121,18 +131,10 @@ bool Lernindex::aktuell(const struct stat& st) const {
 }
 
 int Lernindex::finde(const Code& p, const Code& m) const {
-    int treffer = -1;
-    for (const Code* c : {&p, &m}) {
-        for (uint32_t h = slot(c->data());; h = (h + 1) & maske_) {
-            const int32_t s = tabelle_[h];
-            if (s < 0) break;
-            if (std::memcmp(inhalt_.data() + static_cast<std::size_t>(s) * kLernsatz, c->data(), 11) == 0) {
-                if (treffer < 0 || s < treffer) treffer = s;
-                break;
-            }
-        }
-    }
-    return treffer;
+    uint32_t platz = 0;
+    const int rp = suche(p.data(), streuwert(p.data()), platz);
+    const int rm = suche(m.data(), streuwert(m.data()), platz);
+    return rp < 0 ? rm : rm < 0 ? rp : std::min(rp, rm);
 }
 
 int16_t Lernindex::wert(int r, std::size_t feld) const {

@@ -47,11 +47,12 @@ class Lernindex {
     void puffernAnlegen();
     void aufbauen();
     bool eintragen(int r); // false when the code is already there
-    uint32_t slot(const uint8_t* code) const;
+    static uint64_t streuwert(const uint8_t* code);
+    int suche(const uint8_t* code, uint64_t h, uint32_t& platz) const; // record of `code`, or -1
 
-    std::vector<uint8_t> inhalt_;  // owned part, zeros after the end up to a whole record
-    std::vector<uint8_t> frisch_;  // the file as read again, compared with inhalt_
-    std::vector<int32_t> tabelle_; // open addressing: record numbers, -1 empty
+    std::vector<uint8_t> inhalt_;   // owned part, zeros after the end up to a whole record
+    std::vector<uint8_t> frisch_;   // the file as read again, compared with inhalt_
+    std::vector<uint32_t> tabelle_; // open addressing: hash mark and record number + 1, 0 empty
     uint32_t maske_ = 0;
     std::size_t ausdehnung_ = 0;       // bytes of inhalt_ that may be other than zero
     std::size_t frischAusdehnung_ = 0; // the same for frisch_
