@@ -37,7 +37,8 @@ struct Art {
 };
 
 std::vector<Art> arten() {
-    B lern(grundcode().begin(), grundcode().end());
+    const Code g = grundcode();
+    B lern(g.begin(), g.end());
     lern.insert(lern.end(), {9, 0, 9, 0});
     return {
         {"QZ.INI",
