@@ -38,8 +38,9 @@ struct Art {
 
 std::vector<Art> arten() {
     const Code g = grundcode();
-    B lern(g.begin(), g.end());
-    lern.insert(lern.end(), {9, 0, 9, 0});
+    B lern(15, 0); // fox and hen value 9
+    std::copy(g.begin(), g.end(), lern.begin());
+    lern[11] = lern[13] = 9;
     return {
         {"QZ.INI",
          {2, 0, 2, 0, 1, 0, 1, 0},
