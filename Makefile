@@ -2,7 +2,7 @@
 BUILD ?= build
 JOBS ?= $(shell nproc 2>/dev/null || echo 2)
 
-.PHONY: run test build deps sanitize bench clean format package match
+.PHONY: run test build deps sanitize bench soak fuzz clean format package match
 
 deps:
 	@scripts/install-deps
@@ -37,8 +37,30 @@ bench: build
 match: build
 	$(BUILD)/src/tools/match --spiele 200
 
+# 10 000 learning games at strength 3 in one folder; checks the files and prints time and resident memory.
+soak: build
+	$(BUILD)/src/tools/dauerlauf 10000
+
+# One libFuzzer target per data-file reader, built with clang under ASan/UBSan, each run for FUZZ_RUNS
+# inputs from a copy of the seed corpus in src/tools/fuzz/korpus. The inputs become files in a folder in
+# memory (/dev/shm) where there is one: on a disk, truncating and writing them would take most of the time.
+FUZZ_ZIELE = einstellungen statistik bestenliste lerndatei
+FUZZ_RUNS ?= 1000000
+fuzz:
+	@scripts/install-deps clang
+	cmake -S . -B build-fuzz -DCMAKE_CXX_COMPILER=clang++ -DCMAKE_BUILD_TYPE=RelWithDebInfo -DFUH_GUI=OFF \
+	  -DFUH_SANITIZE=ON -DFUH_FUZZ=ON -DFUH_WERROR=OFF -DCMAKE_CXX_FLAGS=-fsanitize=fuzzer-no-link
+	cmake --build build-fuzz -j $(JOBS) --target $(addprefix fuzz_,$(FUZZ_ZIELE))
+	for z in $(FUZZ_ZIELE); do \
+	  rm -rf build-fuzz/korpus/$$z && mkdir -p build-fuzz/korpus/$$z && \
+	  cp src/tools/fuzz/korpus/$$z/* build-fuzz/korpus/$$z/ && \
+	  TMPDIR=$$(test -d /dev/shm && echo /dev/shm || echo /tmp) \
+	  UBSAN_OPTIONS=halt_on_error=1:print_stacktrace=1 build-fuzz/src/tools/fuzz/fuzz_$$z \
+	    -runs=$(FUZZ_RUNS) -max_len=4096 -print_final_stats=1 build-fuzz/korpus/$$z || exit 1; \
+	done
+
 format:
 	find src tests -name '*.cpp' -o -name '*.h' | xargs clang-format -i
 
 clean:
-	rm -rf $(BUILD) build-asan
+	rm -rf $(BUILD) build-asan build-fuzz

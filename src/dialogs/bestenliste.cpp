@@ -127,7 +127,10 @@ std::string vonWindows1252(const std::string& bytes) {
 
 void Bestenliste::laden(const std::filesystem::path& ordner) {
     const auto inhalt = dateiLesen(datenpfad(ordner, bestenlistendatei(seite_)), kDatei);
-    const Bytes b = inhalt ? *inhalt : Bytes{};
+    ausBytes(inhalt ? *inhalt : Bytes{});
+}
+
+void Bestenliste::ausBytes(const Bytes& b) {
     for (std::size_t z = 0; z < kZeilen; ++z) {
         const std::size_t p = z * kSatz;
         uint64_t roh = 0;
@@ -142,39 +145,40 @@ void Bestenliste::laden(const std::filesystem::path& ordner) {
     neuePos_ = static_cast<int>(kZeilen);
 }
 
-bool Bestenliste::speichern(const std::filesystem::path& ordner) const {
-    // Another list of the same side may have been confirmed since this one was read: the new row goes
-    // into what the file holds now, so that neither entry is lost.
-    Bestenliste jetzt(seite_);
-    jetzt.laden(ordner);
-    if (hatNeueZeile()) {
-        const Eintrag& neu = tabelle_[static_cast<std::size_t>(neuePos_)];
-        jetzt.einfuegen(neu.score, neu.sieg, neu.datum);
-        if (jetzt.hatNeueZeile()) jetzt.tabelle_[static_cast<std::size_t>(jetzt.neuePos_)].user = neu.user;
+void Bestenliste::inBytes(Bytes& b) const {
+    for (std::size_t z = 0; z < kZeilen; ++z) {
+        const std::size_t p = z * kSatz;
+        const Eintrag& e = tabelle_[z];
+        const auto roh = std::bit_cast<uint64_t>(e.datum);
+        uint8_t datum[kDatum];
+        for (std::size_t k = 0; k < kDatum; ++k)
+            datum[k] = static_cast<uint8_t>(roh >> (8 * k));
+        setzeBytes(b, p, datum, kDatum);
+        setzeLe16(b, p + kScoreAb, e.score);
+        // Fields are fixed width; an empty row keeps its zeros.
+        std::string user = e.user;
+        user.resize(kName, '\0');
+        std::string sieg = e.sieg;
+        sieg.resize(kSieg, '\0');
+        setzeBytes(b, p + kNameAb, reinterpret_cast<const uint8_t*>(user.data()), kName);
+        setzeBytes(b, p + kSiegAb, reinterpret_cast<const uint8_t*>(sieg.data()), kSieg);
     }
-    return jetzt.schreiben(ordner);
 }
 
-bool Bestenliste::schreiben(const std::filesystem::path& ordner) const {
-    // Bytes after the ten records belong to nobody we know; leave them where they are.
+bool Bestenliste::speichern(const std::filesystem::path& ordner) const {
+    // Another list of the same side may have been confirmed since this one was read: the new row goes
+    // into what the file holds now, under the folder lock, so that neither entry is lost. Bytes after
+    // the ten records belong to nobody we know; they stay where they are.
     return dateiFortschreiben(datenpfad(ordner, bestenlistendatei(seite_)), kDatei, [this](Bytes& b) {
-        for (std::size_t z = 0; z < kZeilen; ++z) {
-            const std::size_t p = z * kSatz;
-            const Eintrag& e = tabelle_[z];
-            const auto roh = std::bit_cast<uint64_t>(e.datum);
-            uint8_t datum[kDatum];
-            for (std::size_t k = 0; k < kDatum; ++k)
-                datum[k] = static_cast<uint8_t>(roh >> (8 * k));
-            setzeBytes(b, p, datum, kDatum);
-            setzeLe16(b, p + kScoreAb, e.score);
-            // Fields are fixed width; an empty row keeps its zeros.
-            std::string user = e.user;
-            user.resize(kName, '\0');
-            std::string sieg = e.sieg;
-            sieg.resize(kSieg, '\0');
-            setzeBytes(b, p + kNameAb, reinterpret_cast<const uint8_t*>(user.data()), kName);
-            setzeBytes(b, p + kSiegAb, reinterpret_cast<const uint8_t*>(sieg.data()), kSieg);
+        Bestenliste jetzt(seite_);
+        jetzt.ausBytes(b);
+        if (hatNeueZeile()) {
+            const Eintrag& neu = tabelle_[static_cast<std::size_t>(neuePos_)];
+            jetzt.einfuegen(neu.score, neu.sieg, neu.datum);
+            if (jetzt.hatNeueZeile())
+                jetzt.tabelle_[static_cast<std::size_t>(jetzt.neuePos_)].user = neu.user;
         }
+        jetzt.inBytes(b);
         return true;
     });
 }

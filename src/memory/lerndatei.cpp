@@ -1,35 +1,39 @@
 #include "memory/lerndatei.h"
 
-#include <algorithm>
+#include <fcntl.h>
+#include <unistd.h>
 
-#include "board/zahlen.h"
+#include <algorithm>
+#include <cerrno>
+
+#include "memory/dateizugriff.h"
+#include "memory/lernindex.h"
+#include "memory/satzdatei.h"
 
 namespace fuh {
 
 namespace {
-constexpr std::size_t kFuchswert = 11;
-constexpr std::size_t kHennenwert = 13;
-// The part of the file a merge can reach; records beyond it are never read.
-constexpr std::size_t kDateiHoechstens = static_cast<std::size_t>(kHoechsteSaetze) * kLernsatz;
-
-// Number of records: the length divided by 15, rounded to the nearest whole number.
-int satzzahl(std::size_t laenge) {
-    return static_cast<int>(std::min<std::size_t>((laenge + kLernsatz / 2) / kLernsatz, kHoechsteSaetze));
-}
-
-// The code of record r (from 0); bytes past the end of a partial record read as 0.
-bool codePasst(const Bytes& b, int r, const Code& p, const Code& m) {
-    Code c{};
-    const std::size_t start = static_cast<std::size_t>(r) * kLernsatz;
-    for (std::size_t i = 0; i < c.size(); ++i)
-        c[i] = start + i < b.size() ? b[start + i] : 0;
-    return c == p || c == m;
-}
-
-int findeSatz(const Bytes& b, int n, const Code& p, const Code& m) {
-    for (int r = 0; r < n; ++r)
-        if (codePasst(b, r, p, m)) return r;
-    return -1;
+// Writes the merged records back: new ones appended in one write, changed ones in place, then syncs.
+bool zurueckschreiben(int fd, Lernindex& index, const int* beruehrt, int anzahl, int letzter) {
+    const std::size_t alt = index.laenge();
+    const std::size_t neu = index.laengeNach(letzter);
+    // New records first: when the disk is full the file is cut back, and nothing has changed.
+    if (neu > alt && !datei::schreiben(fd, index.daten() + alt, neu - alt, static_cast<off_t>(alt))) {
+        const int ergebnis = ::ftruncate(fd, static_cast<off_t>(alt));
+        static_cast<void>(ergebnis);
+        return false;
+    }
+    for (int i = 0; i < anzahl; ++i) {
+        const std::size_t pos = static_cast<std::size_t>(beruehrt[i]) * kLernsatz;
+        if (pos >= alt) continue; // written with the new records
+        const std::size_t n = std::min<std::size_t>(kLernsatz, alt - pos);
+        if (!datei::schreiben(fd, index.daten() + pos, n, static_cast<off_t>(pos))) return false;
+    }
+    struct stat st {};
+    if (::fdatasync(fd) != 0 || ::fstat(fd, &st) != 0) return false;
+    index.laengeSetzen(neu);
+    index.standSetzen(st);
+    return true;
 }
 } // namespace
 
@@ -37,44 +41,101 @@ const char* lerndateiName(int Staerke) {
     return Staerke == 1 ? "QZ2.DAT" : "QZ3.DAT";
 }
 
+Lerndatei::Lerndatei(std::filesystem::path ordner)
+    : ordner_(std::move(ordner)), speicher_(std::make_shared<std::array<Speicher, 2>>()) {
+    for (int i = 0; i < 2; ++i) {
+        Speicher& s = (*speicher_)[static_cast<std::size_t>(i)];
+        s.exakt = (ordner_ / lerndateiName(i == 0 ? 1 : 2)).string();
+        s.index = std::make_shared<Lernindex>();
+    }
+}
+
+Lerndatei::Speicher& Lerndatei::speicher(int Staerke) const {
+    return (*speicher_)[Staerke == 1 ? 0 : 1];
+}
+
+const Lernindex* Lerndatei::aktuellerIndex(int Staerke) const {
+    Speicher& s = speicher(Staerke);
+    Lernindex& index = *s.index;
+    struct stat st {};
+    const char* pfad = s.exakt.c_str();
+    if (::stat(pfad, &st) != 0) {
+        if (errno != ENOENT) return nullptr;
+        // Not under its own name: under the other case found before, else looked up (created when missing).
+        if (s.gefunden.empty() || s.gefunden == s.exakt || ::stat(s.gefunden.c_str(), &st) != 0) {
+            s.gefunden = datenpfad(ordner_, lerndateiName(Staerke)).string();
+            const datei::Deskriptor d = datei::regulaerOeffnen(s.gefunden.c_str(), O_RDONLY, true, st);
+            if (!d || (!index.aktuell(st) && !index.laden(d.fd(), st))) return nullptr;
+            return &index;
+        }
+        pfad = s.gefunden.c_str();
+    }
+    if (index.aktuell(st)) return &index;
+    struct stat offen {};
+    const datei::Deskriptor d = datei::regulaerOeffnen(pfad, O_RDONLY, false, offen);
+    if (!d) {
+        index.leeren(st); // cannot be read: holds nothing until it changes
+        return &index;
+    }
+    if (!index.laden(d.fd(), offen)) {
+        index.vergessen();
+        return nullptr;
+    }
+    return &index;
+}
+
 Lerndatei::Merge Lerndatei::speichern(const Partie& partie, int Staerke) const {
-    Merge ergebnis;
     const int saetze = std::clamp<int>(partie.spielzug, 0, kSituationen);
-    ergebnis.geschrieben =
-        dateiFortschreiben(datenpfad(ordner_, lerndateiName(Staerke)), kDateiHoechstens, [&](Bytes& b) {
-            int n = satzzahl(b.size());
-            for (int k = 0; k < saetze; ++k) {
-                const Situation& sit = partie.sits[k];
-                const int r = findeSatz(b, n, sit.code, spiegelcode(sit.code));
-                const std::size_t pos = static_cast<std::size_t>(r < 0 ? n : r) * kLernsatz;
-                if (r >= 0) {
-                    setzeLe16(b, pos + kFuchswert, sat16(le16(b, pos + kFuchswert) + sit.fuchswert));
-                    setzeLe16(b, pos + kHennenwert, sat16(le16(b, pos + kHennenwert) + sit.hennenwert));
-                } else if (n < kHoechsteSaetze) {
-                    setzeBytes(b, pos, sit.code.data(), sit.code.size());
-                    setzeLe16(b, pos + kFuchswert, sit.fuchswert);
-                    setzeLe16(b, pos + kHennenwert, sit.hennenwert);
-                    ++n;
-                    ++ergebnis.neueZuege;
-                }
-            }
-            return saetze > 0;
-        });
-    if (!ergebnis.geschrieben) ergebnis.neueZuege = 0;
-    return ergebnis;
+    const char* name = lerndateiName(Staerke);
+    if (saetze == 0) // nothing to write; a missing file is created as a read would
+        return {0, dateiLesen(datenpfad(ordner_, name), 0).has_value()};
+    const datei::Ordnersperre sperre(ordner_);
+    if (!sperre.gehalten()) return {0, false};
+    return zusammenfuehren(speicher(Staerke), name, partie, saetze);
+}
+
+Lerndatei::Merge Lerndatei::zusammenfuehren(Speicher& s, const char* name, const Partie& partie,
+                                            int saetze) const {
+    s.gefunden = datenpfad(ordner_, name).string();
+    Lernindex& index = *s.index;
+    struct stat st {};
+    const datei::Deskriptor d = datei::regulaerOeffnen(s.gefunden.c_str(), O_RDWR, true, st);
+    // Read again under the lock: another copy of the game may have merged since the last recall.
+    if (!d || !index.laden(d.fd(), st)) return {0, false};
+    Merge m;
+    std::array<int, kSituationen> beruehrt{};
+    int anzahl = 0;
+    int letzter = -1;
+    for (int k = 0; k < saetze; ++k) {
+        const Situation& sit = partie.sits[static_cast<std::size_t>(k)];
+        int r = index.finde(sit.code, spiegelcode(sit.code));
+        if (r >= 0) {
+            index.addieren(r, sit.fuchswert, sit.hennenwert);
+        } else if (index.saetze() < kHoechsteSaetze) {
+            r = index.saetze();
+            index.anhaengen(sit.code, sit.fuchswert, sit.hennenwert);
+            ++m.neueZuege;
+        } else {
+            continue;
+        }
+        beruehrt[static_cast<std::size_t>(anzahl++)] = r;
+        letzter = std::max(letzter, r);
+    }
+    if (!zurueckschreiben(d.fd(), index, beruehrt.data(), anzahl, letzter)) {
+        index.vergessen(); // memory and file may differ now
+        return {0, false};
+    }
+    return m;
 }
 
 int16_t Lerndatei::erinnern(const Brettfeld& Feld, int16_t figur, int Staerke, const Partie& partie) const {
     const Code p = positionscode(Feld);
     int16_t ergebnis = 0;
     if (Staerke >= 1) {
-        const auto inhalt = dateiLesen(datenpfad(ordner_, lerndateiName(Staerke)), kDateiHoechstens);
-        if (inhalt) {
-            const int r = findeSatz(*inhalt, satzzahl(inhalt->size()), p, spiegelcode(p));
-            if (r >= 0) {
-                const std::size_t pos = static_cast<std::size_t>(r) * kLernsatz;
-                ergebnis = le16(*inhalt, pos + (figur == henne ? kHennenwert : kFuchswert));
-            }
+        if (const Lernindex* index = aktuellerIndex(Staerke)) {
+            const int r = index->finde(p, spiegelcode(p));
+            if (r >= 0)
+                ergebnis = index->wert(r, figur == henne ? Lernindex::kHennenwert : Lernindex::kFuchswert);
         }
     }
     for (int k = 1; k <= kWiederholungsTiefe; ++k)

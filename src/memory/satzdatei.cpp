@@ -2,9 +2,10 @@
 
 #include <algorithm>
 #include <cctype>
-#include <fstream>
+#include <fcntl.h>
 #include <system_error>
-#include <unistd.h>
+
+#include "memory/dateizugriff.h"
 
 namespace fuh {
 
@@ -30,69 +31,31 @@ fs::path datenpfad(const fs::path& ordner, const std::string& name) {
 }
 
 std::optional<Bytes> dateiLesen(const fs::path& pfad, std::size_t hoechstens) {
-    std::ifstream ein(pfad, std::ios::binary);
-    if (!ein) {
-        std::ofstream neu(pfad, std::ios::binary | std::ios::app);
-        if (!neu) return std::nullopt;
-        return Bytes{};
-    }
-    std::error_code ec;
-    const auto groesse = fs::file_size(pfad, ec);
-    if (ec) return std::nullopt;
-    Bytes b(static_cast<std::size_t>(std::min<std::uintmax_t>(groesse, hoechstens)));
-    ein.read(reinterpret_cast<char*>(b.data()), static_cast<std::streamsize>(b.size()));
-    b.resize(static_cast<std::size_t>(ein.gcount()));
+    struct stat st {};
+    const datei::Deskriptor d = datei::regulaerOeffnen(pfad.c_str(), O_RDONLY, true, st);
+    Bytes b;
+    if (!d || !datei::lesen(d.fd(), b, hoechstens)) return std::nullopt;
     return b;
 }
 
 bool dateiSchreiben(const fs::path& pfad, const Bytes& inhalt) {
-    std::error_code fehler;
-    if (fs::exists(pfad, fehler) && ::access(pfad.c_str(), W_OK) != 0) return false; // a read-only file stays
-    fs::path tmp = pfad;
-    tmp += ".tmp" + std::to_string(::getpid());
-    {
-        std::ofstream aus(tmp, std::ios::binary | std::ios::trunc);
-        if (!aus) return false;
-        aus.write(reinterpret_cast<const char*>(inhalt.data()), static_cast<std::streamsize>(inhalt.size()));
-        aus.flush();
-        if (!aus) {
-            aus.close();
-            std::error_code ec;
-            fs::remove(tmp, ec);
-            return false;
-        }
-    }
-    std::error_code ec;
-    fs::rename(tmp, pfad, ec);
-    if (ec) {
-        fs::remove(tmp, ec);
-        return false;
-    }
-    return true;
+    return datei::ersetzen(pfad, inhalt);
 }
-
-namespace {
-bool anfangUeberschreiben(const fs::path& pfad, const Bytes& anfang) {
-    if (::access(pfad.c_str(), W_OK) != 0) return false;
-    std::fstream datei(pfad, std::ios::binary | std::ios::in | std::ios::out);
-    if (!datei) return false;
-    datei.write(reinterpret_cast<const char*>(anfang.data()), static_cast<std::streamsize>(anfang.size()));
-    datei.flush();
-    return static_cast<bool>(datei);
-}
-} // namespace
 
 bool dateiFortschreiben(const fs::path& pfad, std::size_t hoechstens,
                         const std::function<bool(Bytes&)>& aendern) {
-    auto inhalt = dateiLesen(pfad, hoechstens);
-    if (!inhalt) return false;
-    std::error_code ec;
-    const auto groesse = fs::file_size(pfad, ec);
-    if (ec) return false;
-    if (!aendern(*inhalt)) return true;
-    if (groesse <= hoechstens) return dateiSchreiben(pfad, *inhalt);
-    inhalt->resize(std::min(inhalt->size(), hoechstens)); // never past the owned part
-    return anfangUeberschreiben(pfad, *inhalt);
+    const datei::Ordnersperre sperre(pfad.parent_path());
+    if (!sperre.gehalten()) return false;
+    struct stat st {};
+    Bytes inhalt;
+    {
+        const datei::Deskriptor d = datei::regulaerOeffnen(pfad.c_str(), O_RDONLY, true, st);
+        if (!d || !datei::lesen(d.fd(), inhalt, hoechstens)) return false; // unreadable: left as it is
+    }
+    if (!aendern(inhalt)) return true;
+    if (static_cast<std::uintmax_t>(st.st_size) <= hoechstens) return datei::ersetzen(pfad, inhalt);
+    inhalt.resize(std::min(inhalt.size(), hoechstens)); // never past the owned part
+    return datei::ueberschreiben(pfad, inhalt);
 }
 
 int16_t le16(const Bytes& b, std::size_t pos) {

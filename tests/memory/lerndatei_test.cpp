@@ -104,16 +104,61 @@ TEST_F(LerndateiTest, VolleDateiNimmtNichtsMehrAuf) {
     EXPECT_EQ(std::filesystem::file_size(ordner / "QZ3.DAT"), std::uintmax_t{1} << 40);
 }
 
-TEST_F(LerndateiTest, NichtSchreibbareDateiBleibtUnversehrt) {
-    ordner.schreibe("QZ3.DAT", satz(positionscode(s.Feld), 1, 1));
-    // The temporary file cannot be created: a folder stands in its place.
-    std::filesystem::create_directory(ordner / ("QZ3.DAT.tmp" + std::to_string(::getpid())));
+TEST_F(LerndateiTest, FremdesStattDateiBleibtUnberuehrt) {
+    // A folder where the file should be: nothing learned, nothing written, a failed merge reported.
+    std::filesystem::create_directory(ordner / "QZ3.DAT");
     nehmeAuf(5, 5);
+    EXPECT_EQ(datei.erinnern(s.Feld, fuchs, 2, Partie{}), 0);
     const auto m = datei.speichern(partie, 2);
     EXPECT_FALSE(m.geschrieben);
     EXPECT_EQ(m.neueZuege, 0);
-    EXPECT_EQ(ordner.lies("QZ3.DAT"), satz(positionscode(s.Feld), 1, 1));
+    EXPECT_TRUE(std::filesystem::is_directory(ordner / "QZ3.DAT"));
+    EXPECT_EQ(ordner.namen(), std::vector<std::string>{"QZ3.DAT"});
+}
+TEST_F(LerndateiTest, DoppelteCodesZaehltNurDerErste) {
+    const Code c = positionscode(s.Feld);
+    Bytes b = satz(c, 1, 2);
+    const Bytes zweiter = satz(c, 5, 6);
+    b.insert(b.end(), zweiter.begin(), zweiter.end());
+    ordner.schreibe("QZ3.DAT", b);
+    EXPECT_EQ(datei.erinnern(s.Feld, henne, 2, Partie{}), 2);
+    nehmeAuf(10, 20);
+    EXPECT_EQ(datei.speichern(partie, 2).neueZuege, 0);
+    Bytes erwartet = satz(c, 11, 22);
+    erwartet.insert(erwartet.end(), zweiter.begin(), zweiter.end());
+    EXPECT_EQ(ordner.lies("QZ3.DAT"), erwartet);
 }
 
+TEST_F(LerndateiTest, AenderungVonAussenZwischenZweiAbrufen) {
+    // A missing file is created empty by a recall at strength 2 or 3, never at strength 1.
+    EXPECT_EQ(datei.erinnern(s.Feld, fuchs, 0, Partie{}), 0);
+    EXPECT_FALSE(ordner.gibt("QZ3.DAT"));
+    EXPECT_EQ(datei.erinnern(s.Feld, fuchs, 2, Partie{}), 0);
+    EXPECT_EQ(ordner.lies("QZ3.DAT"), Bytes{});
+    const Code c = positionscode(s.Feld);
+    int16_t wert = 0;
+    // Written in place at the same length, replaced by a new file, grown, renamed to another case.
+    for (int fall = 0; fall < 4; ++fall) {
+        SCOPED_TRACE(fall);
+        ++wert;
+        if (fall == 0) ordner.schreibe("QZ3.DAT", satz(c, wert, 0));
+        if (fall == 1) {
+            ordner.schreibe("neu", satz(c, wert, 0));
+            std::filesystem::rename(ordner / "neu", ordner / "QZ3.DAT");
+        }
+        if (fall == 2) {
+            Bytes b = satz(spiegelcode(c), 0, 0);
+            const Bytes r = satz(c, wert, 0);
+            b.insert(b.begin(), r.begin(), r.end());
+            ordner.schreibe("QZ3.DAT", b);
+        }
+        if (fall == 3) {
+            ordner.schreibe("QZ3.DAT", satz(c, wert, 0));
+            std::filesystem::rename(ordner / "QZ3.DAT", ordner / "qz3.dat");
+        }
+        EXPECT_EQ(datei.erinnern(s.Feld, fuchs, 2, Partie{}), wert);
+    }
+    EXPECT_EQ(ordner.namen(), std::vector<std::string>{"qz3.dat"});
+}
 } // namespace
 } // namespace fuh

@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <filesystem>
 #include <string>
+#include <vector>
 
 #include "dialogs/oeffentlich.h"
 
@@ -45,7 +46,8 @@ class Bestenliste {
     Seite seite() const { return seite_; }
 
   private:
-    bool schreiben(const std::filesystem::path& ordner) const; // the ten rows over the first records
+    void ausBytes(const std::vector<uint8_t>& b); // the ten rows from the file's bytes
+    void inBytes(std::vector<uint8_t>& b) const;  // the ten rows over the file's first records
 
     Seite seite_;
     std::array<Eintrag, kListenzeilen> tabelle_{};

@@ -1,7 +1,8 @@
 #pragma once
 // Small data files of fixed-length records with 16-bit little-endian fields.
-// Each operation opens, reads or writes, and closes; whole files are replaced through a temporary
-// file, so a failed write never leaves a truncated or half-written file behind.
+// Each operation opens, reads or writes, and closes; only regular files are read or written, and opening
+// never blocks. Whole files are replaced through a temporary file, so a failed write never leaves a
+// truncated or half-written file behind; every read-modify-write holds the data folder's lock.
 #include <cstdint>
 #include <filesystem>
 #include <functional>
@@ -9,25 +10,27 @@
 #include <string>
 #include <vector>
 
-namespace fuh {
+#include "memory/dateizugriff.h"
 
-using Bytes = std::vector<uint8_t>;
+namespace fuh {
 
 // The file `name` in `ordner`; an existing file whose name differs only in case is the same file.
 std::filesystem::path datenpfad(const std::filesystem::path& ordner, const std::string& name);
 
-// Whole content; a missing file is created empty first. nullopt when it cannot be opened or created.
-// At most `hoechstens` bytes are read.
+// Whole content; a missing file is created empty first. nullopt when it cannot be opened or created or
+// is no regular file; such a file is left as it is. At most `hoechstens` bytes are read.
 std::optional<Bytes> dateiLesen(const std::filesystem::path& pfad, std::size_t hoechstens = SIZE_MAX);
 
-// Replaces the file with `inhalt` atomically. False when it cannot be written; the old file stays.
+// Replaces the file with `inhalt` atomically, keeping a symbolic link, the mode and the owner. False when
+// it cannot be written; the old file stays.
 bool dateiSchreiben(const std::filesystem::path& pfad, const Bytes& inhalt);
 
 // Updates the part of a file the game owns, its first `hoechstens` bytes (a missing file is created
 // empty): `aendern` changes them and returns false when there is nothing to write back. A file no longer
 // than that part is replaced atomically; a longer one is overwritten in place over that part only, so
 // what follows stays as it was and an oversized file is never read or copied whole.
-// False when the file cannot be read or written.
+// The folder lock is held throughout. False when the lock cannot be taken in time or the file cannot be
+// read or written; an unreadable file is never replaced.
 bool dateiFortschreiben(const std::filesystem::path& pfad, std::size_t hoechstens,
                         const std::function<bool(Bytes&)>& aendern);
 

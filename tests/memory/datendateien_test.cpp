@@ -1,0 +1,189 @@
+// Bad things in the place of each data file: the game gets its defaults and a failed write, never a hang,
+// and what was there stays exactly as it was.
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+
+#include <functional>
+#include <random>
+
+#include "dialogs/bestenliste.h"
+#include "dialogs/einstellungsdatei.h"
+#include "dialogs/statistikdatei.h"
+#include "memory/lerndatei.h"
+#include "prozess.h"
+#include "testdateien.h"
+
+namespace fuh {
+namespace {
+
+namespace fs = std::filesystem;
+using test::TempOrdner;
+using B = std::vector<uint8_t>;
+
+Code grundcode() {
+    Stellung s;
+    s.grundstellung();
+    return positionscode(s.Feld);
+}
+
+// One data file: content that reads as something other than the default, a write, and a read that
+// tells whether the default came back.
+struct Art {
+    const char* name;
+    B inhalt;
+    std::function<bool(const fs::path&)> schreiben;
+    std::function<bool(const fs::path&)> liestDefault;
+};
+
+std::vector<Art> arten() {
+    const Code g = grundcode();
+    B lern(15, 0); // fox and hen value 9
+    std::copy(g.begin(), g.end(), lern.begin());
+    lern[11] = lern[13] = 9;
+    return {
+        {"QZ.INI",
+         {2, 0, 2, 0, 1, 0, 1, 0},
+         [](const fs::path& o) {
+             return einstellungenSchreiben(o, {1, 2, 1, 0});
+         },
+         [](const fs::path& o) {
+             Einstellungen e{1, 1, 1, 1};
+             einstellungenLesen(o, e);
+             return e.PC == 0 && e.Lernmodus == 0 && e.Einzelzug == 0;
+         }},
+        {"QZ.sta", B(34, 7),
+         [](const fs::path& o) {
+             return spielGestartet(o) || statistik(o, 1, {0, 0, 1, 0}, 3);
+         },
+         [](const fs::path& o) { return statistikLesen(o).zaehler == Statistik{}.zaehler; }},
+        {"QZH.sco", test::hsSatz(44000, 77, "Kurt", "Ja"),
+         [](const fs::path& o) {
+             Bestenliste l(Seite::Hennen);
+             l.einfuegen(50, "Ja", 45000);
+             return l.speichern(o);
+         },
+         [](const fs::path& o) {
+             Bestenliste l(Seite::Hennen);
+             l.laden(o);
+             return l.eintraege()[0].score == 0;
+         }},
+        {"QZ3.DAT", lern,
+         [](const fs::path& o) {
+             Partie p;
+             p.sits[0].code = grundcode();
+             p.sits[0].fuchswert = 4;
+             p.spielzug = 1;
+             return Lerndatei(o).speichern(p, 2).geschrieben;
+         },
+         [](const fs::path& o) {
+             Stellung s;
+             s.grundstellung();
+             return Lerndatei(o).erinnern(s.Feld, henne, 2, Partie{}) == 0;
+         }},
+    };
+}
+
+TEST(Datendateien, FifoOderOrdnerStattDateiHaengtNichtUndBleibt) {
+    for (const Art& art : arten()) {
+        for (const bool fifo : {true, false}) {
+            SCOPED_TRACE(std::string(art.name) + (fifo ? " FIFO" : " Ordner"));
+            TempOrdner t;
+            const fs::path p = t / art.name;
+            ASSERT_EQ(fifo ? ::mkfifo(p.c_str(), 0644) : ::mkdir(p.c_str(), 0755), 0);
+            EXPECT_TRUE(test::imKind([&] {
+                EXPECT_TRUE(art.liestDefault(t.pfad()));
+                EXPECT_FALSE(art.schreiben(t.pfad()));
+            }));
+            EXPECT_TRUE(fifo ? fs::is_fifo(p) : fs::is_directory(p));
+            EXPECT_EQ(t.namen(), std::vector<std::string>{art.name});
+        }
+    }
+}
+
+TEST(Datendateien, UnlesbareDateiBleibtByteFuerByte) {
+    for (const Art& art : arten()) {
+        SCOPED_TRACE(art.name);
+        TempOrdner t;
+        t.schreibe(art.name, art.inhalt);
+        const fs::path p = t / art.name;
+        if (::geteuid() == 0) { // the child runs as nobody
+            ASSERT_EQ(::chown(p.c_str(), 65534, 65534), 0);
+        }
+        ::chmod(p.c_str(), 0200);
+        EXPECT_TRUE(test::imKind(
+            [&] {
+                EXPECT_TRUE(art.liestDefault(t.pfad()));
+                EXPECT_FALSE(art.schreiben(t.pfad()));
+            },
+            t.pfad()));
+        EXPECT_EQ(t.lies(art.name), art.inhalt);
+        EXPECT_EQ(fs::status(p).permissions(), fs::perms::owner_write);
+        EXPECT_EQ(t.namen(), std::vector<std::string>{art.name});
+    }
+}
+
+TEST(Datendateien, SchreibenDurchLinkBehaeltModusUndBesitzer) {
+    for (const Art& art : arten()) {
+        SCOPED_TRACE(art.name);
+        TempOrdner t;
+        fs::create_directory(t / "ziel");
+        const fs::path ziel = t / "ziel" / art.name;
+        t.schreibe(std::string("ziel/") + art.name, art.inhalt);
+        ::chmod(ziel.c_str(), 0600);
+        const bool root = ::geteuid() == 0;
+        if (root) {
+            ASSERT_EQ(::chown(ziel.c_str(), 65534, 65534), 0);
+        }
+        fs::create_symlink(fs::path("ziel") / art.name, t / art.name);
+        ASSERT_TRUE(art.schreiben(t.pfad()));
+        EXPECT_TRUE(fs::is_symlink(t / art.name));
+        EXPECT_NE(t.lies(std::string("ziel/") + art.name), art.inhalt);
+        struct stat st {};
+        ASSERT_EQ(::stat(ziel.c_str(), &st), 0);
+        EXPECT_EQ(st.st_mode & 07777, 0600u);
+        if (root) {
+            EXPECT_EQ(st.st_uid, 65534u);
+        }
+        EXPECT_EQ(t.namen(), (std::vector<std::string>{art.name, "ziel"}));
+        EXPECT_EQ(std::distance(fs::directory_iterator(t / "ziel"), fs::directory_iterator{}), 1);
+    }
+}
+
+TEST(Datendateien, BelegteSperreGibtFehlerUndAendertNichts) {
+    TempOrdner t;
+    const int ordner = ::open(t.pfad().c_str(), O_RDONLY | O_DIRECTORY);
+    ASSERT_EQ(::flock(ordner, LOCK_EX), 0); // another copy of the game is filing
+    datei::sperrfristSetzen(std::chrono::milliseconds(50));
+    for (const Art& art : arten()) {
+        SCOPED_TRACE(art.name);
+        t.schreibe(art.name, art.inhalt);
+        EXPECT_FALSE(art.schreiben(t.pfad()));
+        EXPECT_EQ(t.lies(art.name), art.inhalt);
+    }
+    datei::sperrfristSetzen(std::chrono::seconds(5));
+    ::close(ordner);
+    for (const Art& art : arten())
+        EXPECT_TRUE(art.schreiben(t.pfad())) << art.name;
+}
+
+// Random and cut files of every kind: reading and writing go on, and a file never gets shorter.
+TEST(Datendateien, ZufaelligeUndAbgeschnitteneInhalte) {
+    std::mt19937 zufall(5);
+    TempOrdner t;
+    for (int runde = 0; runde < 15; ++runde) {
+        for (const Art& art : arten()) {
+            B b = art.inhalt;
+            b.resize(zufall() % (3 * b.size() + 40));
+            for (auto& c : b)
+                c = static_cast<uint8_t>(zufall() % 4 == 0 ? 64 + zufall() % 64 : zufall());
+            t.schreibe(art.name, b);
+            art.liestDefault(t.pfad());
+            EXPECT_TRUE(art.schreiben(t.pfad())) << art.name;
+            EXPECT_GE(t.lies(art.name).size(), b.size()) << art.name;
+        }
+    }
+}
+
+} // namespace
+} // namespace fuh
