@@ -215,7 +215,7 @@ class BrettFensterTest : public QObject {
         Aufbau a({{0, 2, 0, 0}});
         a.fenster->meisterSetzen(true);
         a.aktion("Neu");
-        QCOMPARE(a.panel(2), QStringLiteral("Spielstärke Meister"));
+        QCOMPARE(a.panel(2), QStringLiteral("Meister"));
         QVERIFY(a.spiel().spielerwahl().fuchs && a.spiel().spielerwahl().fuchs->meister);
         const Stellung start = a.spiel().stellung();
         a.ziehe(feldNummer(3, 3), feldNummer(3, 2));
@@ -223,7 +223,7 @@ class BrettFensterTest : public QObject {
         QCOMPARE(a.spiel().spielzug(), 2); // the Meister's fox replied
         a.starten();
         QVERIFY(a.fenster->meister());
-        QCOMPARE(a.panel(2), QStringLiteral("Spielstärke Meister"));
+        QCOMPARE(a.panel(2), QStringLiteral("Meister"));
         a.fenster->meisterSetzen(false);
         a.aktion("Neu");
         QCOMPARE(a.panel(2), QStringLiteral("Spielstärke 3"));

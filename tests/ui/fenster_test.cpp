@@ -144,7 +144,7 @@ class FensterTest : public QObject {
         klick(e.d, "ok");
         QCOMPARE(dir.lies("QZ.INI"), (Bytes{0x00, 0x00, 0x02, 0x00, 0x01, 0x00, 0x00, 0x00}));
         QVERIFY(e.meister);
-        QCOMPARE(e.status.back(), (QPair<int, QString>{2, QStringLiteral("Spielstärke Meister")}));
+        QCOMPARE(e.status.back(), (QPair<int, QString>{2, QStringLiteral("Meister")}));
 
         QCOMPARE(Einst(dir.pfad(), {0, 2, 1, 0}, true).staerke()->currentIndex(), 3);
         QCOMPARE(Einst(dir.pfad(), {0, 1, 1, 0}, true).staerke()->currentIndex(), 1);

@@ -12,7 +12,7 @@ std::optional<std::string> staerkeStatustext(int Staerke);
 // Panel 2 as the settings dialog writes it on confirmation ("SPielstärke 3" for strength 3).
 std::optional<std::string> staerkeStatustextDialog(int Staerke);
 
-// Panel 2 while the Meister plays.
-inline constexpr const char* kMeisterStatustext = "Spielstärke Meister";
+// Panel 2 while the Meister plays; short enough for the narrowest window.
+inline constexpr const char* kMeisterStatustext = "Meister";
 
 } // namespace fuh
