@@ -8,10 +8,11 @@ namespace fuh {
 
 namespace {
 // A new depth is begun only within this share (percent) of the budget; each costs a few times the one
-// before. Late in a game, when the move limit draws near, the search may take a larger share.
+// before. A game still open after 80 positions is one the move limit may draw (won games mostly end
+// earlier), so from there the search may take half the budget; the median move stays short.
 constexpr int kWeicherAnteil = 10;
-constexpr int kSpaeterAnteil = 35;
-constexpr int kSpaet = 100; // positions recorded
+constexpr int kSpaeterAnteil = 50;
+constexpr int kSpaet = 80; // positions recorded
 // The clock is read every thousand positions, so the search keeps a margin below the budget.
 constexpr int kHarterAnteilProzent = 90;
 constexpr std::chrono::milliseconds kHoechsteBedenkzeit{450};
