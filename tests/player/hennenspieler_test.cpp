@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include "player/fuchsspieler.h"
 #include "player/hennenspieler.h"
 
@@ -36,14 +38,13 @@ TEST_F(Hennentest, SchliesstDieLueckeStattEineHenneZuVerlieren) {
         danach[wahl.zuege[0].nachX][wahl.zuege[0].nachY] = henne;
         Brettfeld antwort = danach;
         fuchsVorhersage(antwort, z);
-        int vorher = 0, nachher = 0;
-        for (const auto& spalte : danach)
-            for (int16_t f : spalte)
-                vorher += f == henne;
-        for (const auto& spalte : antwort)
-            for (int16_t f : spalte)
-                nachher += f == henne;
-        EXPECT_EQ(vorher, nachher) << "seed " << seed;
+        auto hennen = [](const Brettfeld& Feld) {
+            int n = 0;
+            for (const auto& spalte : Feld)
+                n += static_cast<int>(std::count(spalte.begin(), spalte.end(), henne));
+            return n;
+        };
+        EXPECT_EQ(hennen(danach), hennen(antwort)) << "seed " << seed;
     }
 }
 
