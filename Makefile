@@ -1,3 +1,7 @@
+# SPDX-FileCopyrightText: 2026 The Fuchs und Hennen authors
+#
+# SPDX-License-Identifier: GPL-3.0-or-later
+
 # Thin wrapper around CMake; see README.md.
 BUILD ?= build
 JOBS ?= $(shell nproc 2>/dev/null || echo 2)

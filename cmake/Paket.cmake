@@ -1,3 +1,7 @@
+# SPDX-FileCopyrightText: 2026 The Fuchs und Hennen authors
+#
+# SPDX-License-Identifier: GPL-3.0-or-later
+
 # Installation and the Debian package. Included last by the top-level CMakeLists.txt, so the programs are
 # installed by target name wherever their folders define them.
 #

@@ -1,3 +1,7 @@
+// SPDX-FileCopyrightText: 2026 The Fuchs und Hennen authors
+//
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // Filing a finished game: final credits, the learned-move merge, the statistics, the high-score list.
 #include "dialogs/statistikdatei.h"
 #include "game/spiel.h"

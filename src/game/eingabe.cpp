@@ -1,3 +1,7 @@
+// SPDX-FileCopyrightText: 2026 The Fuchs und Hennen authors
+//
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // The human's moves: drops of a piece on a square, and the right mouse button closing a jump sequence.
 #include "board/regeln.h"
 #include "game/spiel.h"

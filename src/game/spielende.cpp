@@ -1,3 +1,7 @@
+// SPDX-FileCopyrightText: 2026 The Fuchs und Hennen authors
+//
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // The end-of-move check: record the position, find an end of the game, show the points.
 #include "board/gewichte.h"
 #include "board/zahlen.h"

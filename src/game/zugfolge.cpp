@@ -1,3 +1,7 @@
+// SPDX-FileCopyrightText: 2026 The Fuchs und Hennen authors
+//
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // Who moves when: the timer serves a requested computer reply; a new game starts play. A computer side
 // chooses its move, and the game carries the choice out here.
 #include "game/spiel.h"

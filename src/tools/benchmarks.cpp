@@ -1,3 +1,7 @@
+// SPDX-FileCopyrightText: 2026 The Fuchs und Hennen authors
+//
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // Benchmarks of whole games, of a computer hen move and of filing a game, with empty and full learned-move
 // files, on the same core as the game. The ratios between the rows are what matters.
 #include <benchmark/benchmark.h>

@@ -1,3 +1,7 @@
+// SPDX-FileCopyrightText: 2026 The Fuchs und Hennen authors
+//
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // dauerlauf: many learning games at strength 3 in one folder, then checks that the files still hold
 // what they must. Prints time, records and resident memory after every block of games.
 #include <unistd.h>

@@ -1,3 +1,7 @@
+// SPDX-FileCopyrightText: 2026 The Fuchs und Hennen authors
+//
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // match: the Meister against strength 3, on each side, over games with fixed seeds. Prints the
 // Meister's wins, losses and draws and its time per move (median and maximum).
 //

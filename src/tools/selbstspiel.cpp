@@ -1,3 +1,7 @@
+// SPDX-FileCopyrightText: 2026 The Fuchs und Hennen authors
+//
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // selbstspiel: the game without a window, for tests, learning runs and benchmarks.
 #include <ctime>
 #include <filesystem>

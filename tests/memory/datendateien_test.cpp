@@ -1,3 +1,7 @@
+// SPDX-FileCopyrightText: 2026 The Fuchs und Hennen authors
+//
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // Bad things in the place of each data file: the game gets its defaults and a failed write, never a hang,
 // and what was there stays exactly as it was.
 #include <fcntl.h>

@@ -1,3 +1,7 @@
+// SPDX-FileCopyrightText: 2026 The Fuchs und Hennen authors
+//
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // Several processes on one data folder: copies playing side by side lose nothing, and a process killed
 // at any moment of filing leaves every file whole.
 #include <random>

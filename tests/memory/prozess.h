@@ -1,3 +1,7 @@
+// SPDX-FileCopyrightText: 2026 The Fuchs und Hennen authors
+//
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #pragma once
 // Running test code in a child process: with a time limit (a hang fails instead of blocking the test run),
 // as another user (root reads every file, so unreadable files need one), or to be killed.

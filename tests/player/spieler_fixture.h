@@ -1,3 +1,7 @@
+// SPDX-FileCopyrightText: 2026 The Fuchs und Hennen authors
+//
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #pragma once
 // Hand-built positions for the computer players, with an empty data folder to learn from.
 #include <gtest/gtest.h>

@@ -1,3 +1,7 @@
+// SPDX-FileCopyrightText: 2026 The Fuchs und Hennen authors
+//
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // The main window driven as a player would: menu commands, mouse drags, timer ticks, message boxes.
 #include <QAction>
 #include <QApplication>

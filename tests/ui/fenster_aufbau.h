@@ -1,3 +1,7 @@
+// SPDX-FileCopyrightText: 2026 The Fuchs und Hennen authors
+//
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #pragma once
 // The main window in a temporary data folder, driven like a player: menu commands, mouse drags on the
 // board at whatever size it has, message boxes answered as soon as they appear.

@@ -1,3 +1,7 @@
+// SPDX-FileCopyrightText: 2026 The Fuchs und Hennen authors
+//
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // The windows driven like a user, on the offscreen platform.
 #include <QApplication>
 #include <QCheckBox>

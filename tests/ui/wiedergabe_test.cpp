@@ -1,3 +1,7 @@
+// SPDX-FileCopyrightText: 2026 The Fuchs und Hennen authors
+//
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // The main window shows the computer's moves at a pace a player can follow, scales with the window,
 // and reports what went wrong in one message: driven like a player on the offscreen platform.
 #include <QSignalSpy>

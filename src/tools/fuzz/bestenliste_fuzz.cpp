@@ -1,3 +1,7 @@
+// SPDX-FileCopyrightText: 2026 The Fuchs und Hennen authors
+//
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // Any bytes as a high-score list: ten rows with fixed-width fields, names convertible to UTF-8 and back.
 #include "dialogs/bestenliste.h"
 #include "fuzz_ordner.h"

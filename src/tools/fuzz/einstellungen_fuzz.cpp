@@ -1,3 +1,7 @@
+// SPDX-FileCopyrightText: 2026 The Fuchs und Hennen authors
+//
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // Any bytes as QZ.INI: reading gives four values or the defaults, and never fails.
 #include "dialogs/einstellungsdatei.h"
 #include "fuzz_ordner.h"

@@ -1,3 +1,7 @@
+// SPDX-FileCopyrightText: 2026 The Fuchs und Hennen authors
+//
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #pragma once
 // The one data folder of a fuzz run: created once, removed at exit; each input becomes a file in it.
 #include <fcntl.h>

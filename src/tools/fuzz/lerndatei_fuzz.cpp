@@ -1,3 +1,7 @@
+// SPDX-FileCopyrightText: 2026 The Fuchs und Hennen authors
+//
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // Any bytes as QZ3.DAT, read through one long-lived learned-move file object as the game does: every
 // recall sees the new content, finds the first record of a position (or its mirror form) like a plain
 // scan of the file, and reads nothing past the end.

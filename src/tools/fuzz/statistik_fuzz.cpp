@@ -1,3 +1,7 @@
+// SPDX-FileCopyrightText: 2026 The Fuchs und Hennen authors
+//
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // Any bytes as QZ.sta: the counters are the file's first 34 bytes, missing ones 0.
 #include "dialogs/statistikdatei.h"
 #include "fuzz_ordner.h"

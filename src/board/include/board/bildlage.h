@@ -1,3 +1,7 @@
+// SPDX-FileCopyrightText: 2026 The Fuchs und Hennen authors
+//
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #pragma once
 // Where the drop targets and piece images stand, in twips (1/15 of a logical pixel).
 #include <array>

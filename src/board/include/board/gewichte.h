@@ -1,3 +1,7 @@
+// SPDX-FileCopyrightText: 2026 The Fuchs und Hennen authors
+//
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #pragma once
 // The three square-value tables; constant for the life of the program.
 #include "board/stellung.h"

@@ -1,3 +1,7 @@
+// SPDX-FileCopyrightText: 2026 The Fuchs und Hennen authors
+//
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #pragma once
 // Which moves exist: the geometry of a step or jump, and the judgement of a move the human proposes.
 #include "board/stellung.h"

@@ -1,3 +1,7 @@
+// SPDX-FileCopyrightText: 2026 The Fuchs und Hennen authors
+//
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #pragma once
 // Valuation of fox jumps. Nothing here changes a board.
 #include "board/stellung.h"

@@ -1,3 +1,7 @@
+// SPDX-FileCopyrightText: 2026 The Fuchs und Hennen authors
+//
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #pragma once
 // The position: board codes, the board array and where each piece stands. A plain value.
 #include <array>

@@ -1,3 +1,7 @@
+// SPDX-FileCopyrightText: 2026 The Fuchs und Hennen authors
+//
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #pragma once
 // One step or one jump: where a piece comes from and where it goes. The game's move register holds one.
 #include <cstdint>

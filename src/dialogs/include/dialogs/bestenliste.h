@@ -1,3 +1,7 @@
+// SPDX-FileCopyrightText: 2026 The Fuchs und Hennen authors
+//
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #pragma once
 // The high-score lists "QZF.sco" (foxes) and "QZH.sco" (hens): ten 29-byte records each.
 #include <array>

@@ -1,3 +1,7 @@
+// SPDX-FileCopyrightText: 2026 The Fuchs und Hennen authors
+//
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #pragma once
 // The game: owns the whole state of the running game and every procedure of its flow.
 // The window forwards each event here in one call; the game answers through the view (Ansicht).

@@ -1,3 +1,7 @@
+// SPDX-FileCopyrightText: 2026 The Fuchs und Hennen authors
+//
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #pragma once
 // POSIX building blocks of the file layer: descriptors that close themselves, opening nothing but regular
 // files and never blocking, whole reads and writes, the data folder's lock, and replacing a file atomically

@@ -1,3 +1,7 @@
+// SPDX-FileCopyrightText: 2026 The Fuchs und Hennen authors
+//
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #pragma once
 // The learned-move files "QZ2.DAT" and "QZ3.DAT": 15-byte records of a position code and two values.
 #include <array>

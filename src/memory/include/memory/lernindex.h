@@ -1,3 +1,7 @@
+// SPDX-FileCopyrightText: 2026 The Fuchs und Hennen authors
+//
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #pragma once
 // The part of a learned-move file the game owns, kept in memory with an index code -> first record, and
 // the file state (device, inode, size, modification time) it was read at.

@@ -1,3 +1,7 @@
+// SPDX-FileCopyrightText: 2026 The Fuchs und Hennen authors
+//
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #pragma once
 // Small data files of fixed-length records with 16-bit little-endian fields.
 // Each operation opens, reads or writes, and closes; only regular files are read or written, and opening

@@ -1,3 +1,7 @@
+// SPDX-FileCopyrightText: 2026 The Fuchs und Hennen authors
+//
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #pragma once
 // The computer fox: jumps first, then approach moves guided by spreading potentials, then plain moves.
 #include "board/stellung.h"

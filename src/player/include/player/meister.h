@@ -1,3 +1,7 @@
+// SPDX-FileCopyrightText: 2026 The Fuchs und Hennen authors
+//
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #pragma once
 // "Meister": the computer player that searches ahead. Alpha-beta with iterative deepening over the
 // game's own rules, within a time budget per move; both sides.

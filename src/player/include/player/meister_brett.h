@@ -1,3 +1,7 @@
+// SPDX-FileCopyrightText: 2026 The Fuchs und Hennen authors
+//
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #pragma once
 // The search's own board: the 49 squares in one row (square y * 7 + x), the pieces counted, the foxes'
 // squares and a hash kept up to date, so that a move is a copy and a few writes.

@@ -1,3 +1,7 @@
+// SPDX-FileCopyrightText: 2026 The Fuchs und Hennen authors
+//
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #pragma once
 // The search behind Meister: negamax alpha-beta with a principal-variation window, a transposition
 // table, killer and history move ordering, and a capture search for the foxes' jumps at the horizon.

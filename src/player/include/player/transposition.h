@@ -1,3 +1,7 @@
+// SPDX-FileCopyrightText: 2026 The Fuchs und Hennen authors
+//
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #pragma once
 // A fixed-size table of searched positions, keyed by a hash of the position code and the side to move.
 #include <cstdint>

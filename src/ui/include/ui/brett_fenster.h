@@ -1,3 +1,7 @@
+// SPDX-FileCopyrightText: 2026 The Fuchs und Hennen authors
+//
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #pragma once
 // The main window ("brett"): shows the board, forwards every event to the game in one call and shows
 // what the game reports, paced so that a player can follow the computer's moves.

@@ -1,3 +1,7 @@
+// SPDX-FileCopyrightText: 2026 The Fuchs und Hennen authors
+//
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #pragma once
 // The board area: the board picture, the 49 drop targets, the 22 piece images and the four prompts.
 // It turns mouse presses and drags into two signals; whether a move is legal is the game's business.

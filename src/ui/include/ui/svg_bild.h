@@ -1,3 +1,7 @@
+// SPDX-FileCopyrightText: 2026 The Fuchs und Hennen authors
+//
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #pragma once
 // A picture drawn from an SVG resource, rendered for the screen's device pixel ratio so it stays crisp
 // at any size the board gives it.

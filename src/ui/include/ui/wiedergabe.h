@@ -1,3 +1,7 @@
+// SPDX-FileCopyrightText: 2026 The Fuchs und Hennen authors
+//
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #pragma once
 // Plays back what the game reported, in the order it was reported and at a pace a player can follow.
 // The game computes a computer move in an instant; here the 100 steps of each slide are spread over a
