@@ -1,0 +1,47 @@
+// SPDX-FileCopyrightText: 2026 The Fuchs und Hennen authors
+//
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+// A progress line for long runs on a terminal, and the messages that must not collide with it.
+#include <chrono>
+#include <cstdint>
+#include <optional>
+#include <ostream>
+#include <string>
+
+namespace fuh {
+
+// Characters, not bytes, of UTF-8 text: what a terminal's columns count.
+std::size_t zeichen(const std::string& text);
+
+// "120/1000 Partien  Hennen 70  Füchse 40  Remis 10  85,3/s  noch 0:10": `stand` holds the results so far.
+std::string fortschrittZeile(uint64_t gespielt, uint64_t gesamt, const std::string& stand,
+                             std::chrono::duration<double> dauer);
+
+// Writes messages to `fehler`. On a terminal it also keeps one progress line there: shown once a run has
+// taken a few seconds, redrawn at most a few times a second, cleared before each message and at the end.
+class Fortschritt {
+  public:
+    using Dauer = std::chrono::steady_clock::duration;
+
+    Fortschritt(std::ostream& fehler, bool terminal) : fehler_(fehler), terminal_(terminal) {}
+    ~Fortschritt() { beenden(); }
+    Fortschritt(const Fortschritt&) = delete;
+    Fortschritt& operator=(const Fortschritt&) = delete;
+
+    // After each game, with the time since the start.
+    void melde(uint64_t gespielt, uint64_t gesamt, const std::string& stand, Dauer seitStart);
+    // A line of its own.
+    void meldung(const std::string& text);
+    // Clears the progress line.
+    void beenden();
+
+  private:
+    std::ostream& fehler_;
+    bool terminal_;
+    std::size_t breite_ = 0; // characters of the line on screen, 0 when none is
+    std::optional<Dauer> gezeigt_;
+};
+
+} // namespace fuh
