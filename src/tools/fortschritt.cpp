@@ -56,6 +56,7 @@ std::string fortschrittZeile(uint64_t gespielt, uint64_t gesamt, const std::stri
 }
 
 void Fortschritt::melde(uint64_t gespielt, uint64_t gesamt, const std::string& stand, Dauer seitStart) {
+    if (gespielt >= gesamt) return beenden(); // gone before the program prints its result
     if (!terminal_ || seitStart < kErstNach || (gezeigt_ && seitStart - *gezeigt_ < kHoechstens)) return;
     gezeigt_ = seitStart;
     const std::string zeile = fortschrittZeile(gespielt, gesamt, stand, seitStart);

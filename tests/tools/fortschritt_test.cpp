@@ -24,7 +24,7 @@ TEST(Fortschritt, Zeile) {
 }
 
 // The line appears after two seconds, is redrawn at most every quarter second, gives way to a message and
-// is cleared at the end; a longer line is blanked out by the shorter one after it.
+// is cleared by the last game; a longer line is blanked out by the shorter one after it.
 TEST(Fortschritt, AufDemTerminal) {
     std::ostringstream aus;
     {
@@ -46,11 +46,15 @@ TEST(Fortschritt, AufDemTerminal) {
         const std::string weg = "\r" + std::string(zweite.size(), ' ') + "\r";
         EXPECT_EQ(aus.str(), weg + "selbstspiel: Fehler\n");
         aus.str("");
-        f.melde(1000, 1000, "a", 3s);
-        EXPECT_EQ(aus.str(), "\r" + fortschrittZeile(1000, 1000, "a", 3s));
+        f.melde(102, 1000, "a", 3s);
+        const std::string dritte = fortschrittZeile(102, 1000, "a", 3s);
+        EXPECT_EQ(aus.str(), "\r" + dritte);
+        aus.str("");
+        f.melde(1000, 1000, "a", 4s); // the end: the program's result follows on a clean line
+        EXPECT_EQ(aus.str(), "\r" + std::string(zeichen(dritte), ' ') + "\r");
         aus.str("");
     }
-    EXPECT_EQ(aus.str(), "\r" + std::string(zeichen(fortschrittZeile(1000, 1000, "a", 3s)), ' ') + "\r");
+    EXPECT_EQ(aus.str(), "");
 }
 
 TEST(Fortschritt, OhneTerminalNurMeldungen) {

@@ -30,7 +30,7 @@ class Fortschritt {
     Fortschritt(const Fortschritt&) = delete;
     Fortschritt& operator=(const Fortschritt&) = delete;
 
-    // After each game, with the time since the start.
+    // After each game, with the time since the start. The last game clears the line.
     void melde(uint64_t gespielt, uint64_t gesamt, const std::string& stand, Dauer seitStart);
     // A line of its own.
     void meldung(const std::string& text);
