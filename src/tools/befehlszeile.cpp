@@ -9,7 +9,7 @@
 #include <limits>
 #include <sstream>
 
-#include "tools/fortschritt.h"
+#include "tools/zeichen.h"
 
 namespace fuh {
 
@@ -132,7 +132,13 @@ std::optional<int> befehlszeileLesen(const Programm& p, const std::vector<std::s
             if (optopt != 0)
                 return scheitern(std::string("unbekannte Option: -") + static_cast<char>(optopt));
             const std::string element = argv[static_cast<std::size_t>(optind - 1)];
-            return scheitern("unbekannte Option: " + element.substr(0, element.find('=')));
+            const std::string name = element.substr(0, element.find('='));
+            std::string passend;
+            for (const Option& o : optionen)
+                if (("--" + o.lang).rfind(name, 0) == 0)
+                    passend += (passend.empty() ? "" : ", ") + ("--" + o.lang);
+            return scheitern(passend.empty() ? "unbekannte Option: " + name
+                                             : "mehrdeutige Option: " + name + " (" + passend + ")");
         }
         if (c == kHilfe) {
             aus << hilfe(p, optionen);

@@ -38,13 +38,6 @@ std::string uhrzeit(uint64_t sekunden) {
 }
 } // namespace
 
-std::size_t zeichen(const std::string& text) {
-    std::size_t n = 0;
-    for (unsigned char c : text)
-        n += (c & 0xC0) != 0x80; // continuation bytes belong to the character before
-    return n;
-}
-
 std::string fortschrittZeile(uint64_t gespielt, uint64_t gesamt, const std::string& stand,
                              std::chrono::duration<double> dauer) {
     std::string zeile = std::to_string(gespielt) + "/" + std::to_string(gesamt) + " Partien  " + stand;

@@ -24,6 +24,7 @@
 #include "tools/fortschritt.h"
 #include "tools/protokoll_ansicht.h"
 #include "tools/selbstspiel_optionen.h"
+#include "tools/zeichen.h"
 
 namespace {
 
@@ -42,7 +43,7 @@ fuh::Programm matchAufruf(MatchOptionen& o) {
         "seine Siege, Niederlagen und Remis und seine Zeit je Zug.\n"
         "Ein Werkzeug für die Entwicklung; es wird nicht installiert.",
         "Rückgabewert: 0 fertig, 1 kein Arbeitsordner, 2 falscher Aufruf. Der Arbeitsordner\n"
-        "im temporären Ordner wird am Ende entfernt, auch nach SIGINT oder SIGTERM.",
+        "im temporären Ordner wird am Ende entfernt, auch nach SIGINT, SIGTERM oder SIGHUP.",
         {
             {"spiele", 'n', "N", "Partien je Seite (Vorgabe " + std::to_string(MatchOptionen{}.spiele) + ")",
              fuh::zahl(o.spiele, 1, std::numeric_limits<uint32_t>::max())},
@@ -50,7 +51,7 @@ fuh::Programm matchAufruf(MatchOptionen& o) {
         }};
 }
 
-// SIGINT and SIGTERM stay blocked and are asked for between moves, so a stopped match still removes
+// SIGINT, SIGTERM and SIGHUP stay blocked and are asked for between moves, so a stopped match still removes
 // its folder.
 class Abbruch {
   public:
@@ -58,6 +59,7 @@ class Abbruch {
         sigemptyset(&signale_);
         sigaddset(&signale_, SIGINT);
         sigaddset(&signale_, SIGTERM);
+        sigaddset(&signale_, SIGHUP);
         sigprocmask(SIG_BLOCK, &signale_, &vorher_);
     }
     // The pending signal, or 0.

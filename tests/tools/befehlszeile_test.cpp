@@ -6,8 +6,8 @@
 
 #include <sstream>
 
-#include "tools/fortschritt.h"
 #include "tools/selbstspiel_optionen.h"
+#include "tools/zeichen.h"
 
 namespace fuh {
 namespace {
@@ -76,6 +76,7 @@ TEST(Befehlszeile, FehlerNennenUrsacheUndAufruf) {
         {{"--unbekannt"}, "unbekannte Option: --unbekannt"},
         {{"--unbekannt=3"}, "unbekannte Option: --unbekannt"},
         {{"-x"}, "unbekannte Option: -x"},
+        {{"--h"}, "mehrdeutige Option: --h (--hennen, --help)"},
         {{"--lernen=1"}, "--lernen nimmt keinen Wert an"},
         {{"--lernen", "extra"}, "überzähliges Argument: extra"},
         {{"--", "--spiele", "3"}, "überzähliges Argument: --spiele"},

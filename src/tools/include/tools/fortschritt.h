@@ -10,10 +10,9 @@
 #include <ostream>
 #include <string>
 
-namespace fuh {
+#include "tools/zeichen.h"
 
-// Characters, not bytes, of UTF-8 text: what a terminal's columns count.
-std::size_t zeichen(const std::string& text);
+namespace fuh {
 
 // "120/1000 Partien  Hennen 70  Füchse 40  Remis 10  85,3/s  noch 0:10": `stand` holds the results so far.
 std::string fortschrittZeile(uint64_t gespielt, uint64_t gesamt, const std::string& stand,
