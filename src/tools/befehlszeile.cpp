@@ -86,6 +86,42 @@ std::string version(const Programm& p) {
            "Dies ist freie Software: Sie dürfen sie verändern und weitergeben.\n"
            "Es gibt KEINE GARANTIE, soweit gesetzlich zulässig.\n";
 }
+
+// getopt_long's tables; they point into the options, which must outlive them.
+struct Tabellen {
+    std::string kurz = ":"; // the leading ':' tells a missing value apart from an unknown option
+    std::vector<::option> lang;
+};
+
+Tabellen tabellen(const std::vector<Option>& optionen) {
+    Tabellen t;
+    for (std::size_t i = 0; i < optionen.size(); ++i) {
+        const Option& o = optionen[i];
+        t.lang.push_back(
+            {o.lang.c_str(), o.wert.empty() ? no_argument : required_argument, nullptr, kennung(o, i)});
+        if (o.kurz) t.kurz += o.kurz + std::string(o.wert.empty() ? "" : ":");
+    }
+    t.lang.push_back({nullptr, 0, nullptr, 0});
+    return t;
+}
+
+const Option* finde(const std::vector<Option>& optionen, int wert) {
+    for (std::size_t i = 0; i < optionen.size(); ++i)
+        if (kennung(optionen[i], i) == wert) return &optionen[i];
+    return nullptr;
+}
+
+// Why getopt_long refused `element`: a value for a flag, an unknown option or an ambiguous abbreviation.
+std::string abgelehnt(const std::vector<Option>& optionen, const std::string& element) {
+    if (const Option* o = finde(optionen, optopt)) return "--" + o->lang + " nimmt keinen Wert an";
+    if (optopt != 0) return std::string("unbekannte Option: -") + static_cast<char>(optopt);
+    const std::string name = element.substr(0, element.find('='));
+    std::string passend;
+    for (const Option& o : optionen)
+        if (("--" + o.lang).rfind(name, 0) == 0) passend += (passend.empty() ? "" : ", ") + ("--" + o.lang);
+    return passend.empty() ? "unbekannte Option: " + name
+                           : "mehrdeutige Option: " + name + " (" + passend + ")";
+}
 } // namespace
 
 std::optional<int> befehlszeileLesen(const Programm& p, const std::vector<std::string>& args,
@@ -93,22 +129,7 @@ std::optional<int> befehlszeileLesen(const Programm& p, const std::vector<std::s
     std::vector<Option> optionen = p.optionen;
     optionen.push_back({"help", kHilfe, "", "diese Hilfe zeigen", {}});
     optionen.push_back({"version", kVersion, "", "Version und Lizenz zeigen", {}});
-
-    // Leading ':' tells a missing value apart from an unknown option.
-    std::string kurz = ":";
-    std::vector<::option> lang;
-    for (std::size_t i = 0; i < optionen.size(); ++i) {
-        const Option& o = optionen[i];
-        lang.push_back(
-            {o.lang.c_str(), o.wert.empty() ? no_argument : required_argument, nullptr, kennung(o, i)});
-        if (o.kurz) kurz += o.kurz + std::string(o.wert.empty() ? "" : ":");
-    }
-    lang.push_back({nullptr, 0, nullptr, 0});
-    auto finde = [&](int wert) -> const Option* {
-        for (std::size_t i = 0; i < optionen.size(); ++i)
-            if (kennung(optionen[i], i) == wert) return &optionen[i];
-        return nullptr;
-    };
+    const Tabellen t = tabellen(optionen);
 
     // getopt_long permutes its argv, so it gets a copy of its own.
     std::vector<std::string> kopie{p.name};
@@ -125,30 +146,14 @@ std::optional<int> befehlszeileLesen(const Programm& p, const std::vector<std::s
     };
     optind = 0; // start afresh: a second reading must not continue the first
     opterr = 0; // the messages below replace getopt's English ones
-    for (int c; (c = getopt_long(argc, argv.data(), kurz.c_str(), lang.data(), nullptr)) != -1;) {
-        if (c == ':') return scheitern("fehlender Wert nach --" + finde(optopt)->lang);
-        if (c == '?') {
-            if (const Option* o = finde(optopt)) return scheitern("--" + o->lang + " nimmt keinen Wert an");
-            if (optopt != 0)
-                return scheitern(std::string("unbekannte Option: -") + static_cast<char>(optopt));
-            const std::string element = argv[static_cast<std::size_t>(optind - 1)];
-            const std::string name = element.substr(0, element.find('='));
-            std::string passend;
-            for (const Option& o : optionen)
-                if (("--" + o.lang).rfind(name, 0) == 0)
-                    passend += (passend.empty() ? "" : ", ") + ("--" + o.lang);
-            return scheitern(passend.empty() ? "unbekannte Option: " + name
-                                             : "mehrdeutige Option: " + name + " (" + passend + ")");
-        }
-        if (c == kHilfe) {
-            aus << hilfe(p, optionen);
+    for (int c; (c = getopt_long(argc, argv.data(), t.kurz.c_str(), t.lang.data(), nullptr)) != -1;) {
+        if (c == ':') return scheitern("fehlender Wert nach --" + finde(optionen, optopt)->lang);
+        if (c == '?') return scheitern(abgelehnt(optionen, argv[static_cast<std::size_t>(optind - 1)]));
+        if (c == kHilfe || c == kVersion) {
+            aus << (c == kHilfe ? hilfe(p, optionen) : version(p));
             return kAufrufErledigt;
         }
-        if (c == kVersion) {
-            aus << version(p);
-            return kAufrufErledigt;
-        }
-        const Option& o = *finde(c);
+        const Option& o = *finde(optionen, c);
         const std::string wert = optarg ? optarg : "";
         if (!o.setzen(wert)) return scheitern("ungültiger Wert für --" + o.lang + ": " + wert);
     }
