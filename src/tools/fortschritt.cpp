@@ -4,6 +4,9 @@
 
 #include "tools/fortschritt.h"
 
+#include <sys/ioctl.h>
+#include <unistd.h>
+
 #include <cmath>
 #include <cstdio>
 
@@ -48,11 +51,18 @@ std::string fortschrittZeile(uint64_t gespielt, uint64_t gesamt, const std::stri
     return zeile + "  noch " + uhrzeit(static_cast<uint64_t>(std::llround(rest)));
 }
 
+std::size_t terminalSpalten(int fd) {
+    if (isatty(fd) != 1) return 0;
+    winsize w{};
+    return ioctl(fd, TIOCGWINSZ, &w) == 0 && w.ws_col > 0 ? w.ws_col : 80; // 80 when it does not say
+}
+
 void Fortschritt::melde(uint64_t gespielt, uint64_t gesamt, const std::string& stand, Dauer seitStart) {
     if (gespielt >= gesamt) return beenden(); // gone before the program prints its result
-    if (!terminal_ || seitStart < kErstNach || (gezeigt_ && seitStart - *gezeigt_ < kHoechstens)) return;
+    if (spalten_ == 0 || seitStart < kErstNach || (gezeigt_ && seitStart - *gezeigt_ < kHoechstens)) return;
     gezeigt_ = seitStart;
-    const std::string zeile = fortschrittZeile(gespielt, gesamt, stand, seitStart);
+    // One column short of the width: a full row would wrap, and '\r' only returns within a row.
+    const std::string zeile = vorne(fortschrittZeile(gespielt, gesamt, stand, seitStart), spalten_ - 1);
     const std::size_t breite = zeichen(zeile);
     fehler_ << '\r' << zeile << std::string(breite_ > breite ? breite_ - breite : 0, ' ') << std::flush;
     breite_ = breite;

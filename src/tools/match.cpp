@@ -6,7 +6,6 @@
 // Meister's wins, losses and draws and its time per move (median and maximum). A developer's tool for
 // measuring the Meister; it is not installed.
 #include <signal.h>
-#include <unistd.h>
 
 #include <algorithm>
 #include <cerrno>
@@ -171,7 +170,7 @@ int spielen(const MatchOptionen& o, const fs::path& ordner, const Abbruch& abbru
                 "Niederlagen", "Remis", "Median ms", "Max ms", "Züge");
     for (const bool hennen : {true, false}) {
         Bilanz b;
-        fuh::Fortschritt fortschritt(std::cerr, isatty(2) == 1);
+        fuh::Fortschritt fortschritt(std::cerr, fuh::terminalSpalten(2));
         const auto start = std::chrono::steady_clock::now();
         for (uint64_t s = 1; s <= o.spiele; ++s) {
             if (const int signal = partie(hennen, static_cast<uint32_t>(s), o.bedenkzeit, ordner, abbruch, b))

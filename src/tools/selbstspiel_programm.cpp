@@ -25,8 +25,8 @@ uint32_t sekundenSeitMitternacht() {
 // and keeps the progress line.
 class Rueckmeldung : public Beobachter {
   public:
-    Rueckmeldung(std::string name, uint64_t gesamt, std::ostream& fehler, bool terminal)
-        : name_(std::move(name)), gesamt_(gesamt), fortschritt_(fehler, terminal) {}
+    Rueckmeldung(std::string name, uint64_t gesamt, std::ostream& fehler, std::size_t spalten)
+        : name_(std::move(name)), gesamt_(gesamt), fortschritt_(fehler, spalten) {}
 
     void nichtGespeichert(const std::string& meldung) override {
         if (gemeldet_.insert(meldung).second) fortschritt_.meldung(name_ + ": " + meldung);
@@ -55,8 +55,8 @@ int selbstspielProgramm(const std::vector<std::string>& args, const std::filesys
     const Programm programm = selbstspielAufruf(o);
     if (const auto ende = befehlszeileLesen(programm, args, k.aus, k.fehler)) return *ende;
     // A log scrolling on the same terminal is progress enough, and the line would tear it.
-    const bool fortschritt = k.fehlerTerminal && !(o.protokoll && k.ausTerminal);
-    Rueckmeldung rueckmeldung(programm.name, o.spiele, k.fehler, fortschritt);
+    const std::size_t spalten = o.protokoll && k.ausTerminal ? 0 : k.fehlerSpalten;
+    Rueckmeldung rueckmeldung(programm.name, o.spiele, k.fehler, spalten);
     const Summe s = selbstspiel(o, o.seed.value_or(sekundenSeitMitternacht()), ordner, k.aus, &rueckmeldung);
     rueckmeldung.beenden();
     return s.nichtGespeichert > 0 ? kNichtGespeichert : 0;

@@ -28,7 +28,7 @@ TEST(Fortschritt, Zeile) {
 TEST(Fortschritt, AufDemTerminal) {
     std::ostringstream aus;
     {
-        Fortschritt f(aus, true);
+        Fortschritt f(aus, 100);
         f.melde(100, 1000, "Hennen 60", 1999ms);
         EXPECT_EQ(aus.str(), "");
         f.melde(100, 1000, "Hennen 60", 2s);
@@ -57,10 +57,19 @@ TEST(Fortschritt, AufDemTerminal) {
     EXPECT_EQ(aus.str(), "");
 }
 
+// On a narrow terminal the line is cut one column short of the width (characters, not bytes).
+TEST(Fortschritt, SchmalesTerminal) {
+    std::ostringstream aus;
+    Fortschritt f(aus, 16);
+    f.melde(1, 2, "Füchse 1", 2s);
+    EXPECT_EQ(aus.str(), "\r1/2 Partien  Fü");
+    EXPECT_EQ(vorne("Füchse", 2), "Fü");
+}
+
 TEST(Fortschritt, OhneTerminalNurMeldungen) {
     std::ostringstream aus;
     {
-        Fortschritt f(aus, false);
+        Fortschritt f(aus, 0);
         f.melde(1, 2, "a", 10s);
         f.meldung("x");
         f.melde(2, 2, "a", 20s);

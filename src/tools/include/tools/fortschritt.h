@@ -18,13 +18,17 @@ namespace fuh {
 std::string fortschrittZeile(uint64_t gespielt, uint64_t gesamt, const std::string& stand,
                              std::chrono::duration<double> dauer);
 
-// Writes messages to `fehler`. On a terminal it also keeps one progress line there: shown once a run has
-// taken a few seconds, redrawn at most a few times a second, cleared before each message and at the end.
+// The columns of the terminal on file descriptor `fd`; 0 when it is none (a pipe, a file).
+std::size_t terminalSpalten(int fd);
+
+// Writes messages to `fehler`. On a terminal of `spalten` columns (0: none) it also keeps one progress line
+// there, cut to fit: shown once a run has taken a few seconds, redrawn at most a few times a second,
+// cleared before each message and at the end.
 class Fortschritt {
   public:
     using Dauer = std::chrono::steady_clock::duration;
 
-    Fortschritt(std::ostream& fehler, bool terminal) : fehler_(fehler), terminal_(terminal) {}
+    Fortschritt(std::ostream& fehler, std::size_t spalten) : fehler_(fehler), spalten_(spalten) {}
     ~Fortschritt() { beenden(); }
     Fortschritt(const Fortschritt&) = delete;
     Fortschritt& operator=(const Fortschritt&) = delete;
@@ -38,7 +42,7 @@ class Fortschritt {
 
   private:
     std::ostream& fehler_;
-    bool terminal_;
+    std::size_t spalten_;
     std::size_t breite_ = 0; // characters of the line on screen, 0 when none is
     std::optional<Dauer> gezeigt_;
 };

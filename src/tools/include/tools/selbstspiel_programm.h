@@ -16,7 +16,7 @@ struct Konsole {
     std::ostream& aus;
     std::ostream& fehler;
     bool ausTerminal = false;
-    bool fehlerTerminal = false;
+    std::size_t fehlerSpalten = 0; // the width of `fehler` when it is a terminal, else 0
 };
 
 // Exit status of a run in which a file could not be saved.

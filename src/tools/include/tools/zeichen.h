@@ -16,4 +16,14 @@ inline std::size_t zeichen(const std::string& text) {
     return n;
 }
 
+// The first `n` characters of UTF-8 text.
+inline std::string vorne(const std::string& text, std::size_t n) {
+    std::size_t i = 0;
+    for (std::size_t gezaehlt = 0; i < text.size(); ++i) {
+        const bool neu = (static_cast<unsigned char>(text[i]) & 0xC0) != 0x80;
+        if (neu && gezaehlt++ == n) break;
+    }
+    return text.substr(0, i);
+}
+
 } // namespace fuh
