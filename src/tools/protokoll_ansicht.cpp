@@ -16,6 +16,11 @@ void ProtokollAnsicht::meldung(const std::string& text) {
     if (aus_) *aus_ << "meldung " << text << '\n';
 }
 
+void ProtokollAnsicht::speicherfehler(const std::string& text) {
+    meldung(text);
+    if (beiSpeicherfehler_) beiSpeicherfehler_(text);
+}
+
 void ProtokollAnsicht::oeffnen(Fenster f) {
     if (!aus_ || !spiel_) return;
     *aus_ << "liste " << (f == Fenster::highh ? 'h' : 'f') << ' ' << spiel_->score << ' ';

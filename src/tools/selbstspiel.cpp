@@ -3,31 +3,19 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 // selbstspiel: the game without a window, for tests, learning runs and benchmarks.
-#include <ctime>
+#include <unistd.h>
+
 #include <filesystem>
 #include <iostream>
 
-#include "tools/selbstspiel_lauf.h"
-
-namespace {
-uint32_t sekundenSeitMitternacht() {
-    const std::time_t jetzt = std::time(nullptr);
-    std::tm lokal{};
-    localtime_r(&jetzt, &lokal);
-    return static_cast<uint32_t>(lokal.tm_hour * 3600 + lokal.tm_min * 60 + lokal.tm_sec);
-}
-} // namespace
+#include "tools/fortschritt.h"
+#include "tools/selbstspiel_programm.h"
 
 int main(int argc, char** argv) {
     std::ios::sync_with_stdio(false);
-    std::string fehler;
-    const auto optionen = fuh::optionenLesen(std::vector<std::string>(argv + 1, argv + argc), fehler);
-    if (!optionen) {
-        std::cerr << "selbstspiel: " << fehler << '\n';
-        return 2;
-    }
-    fuh::selbstspiel(*optionen, optionen->seed.value_or(sekundenSeitMitternacht()),
-                     std::filesystem::current_path(), std::cout);
+    const int status = fuh::selbstspielProgramm(
+        std::vector<std::string>(argv + 1, argv + argc), std::filesystem::current_path(),
+        {std::cout, std::cerr, isatty(1) == 1, fuh::terminalSpalten(2)});
     std::cout.flush();
-    return 0;
+    return status;
 }

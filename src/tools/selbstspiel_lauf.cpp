@@ -50,11 +50,15 @@ bool menschSpielt(Spiel& spiel, Zufall& zufall) {
 }
 } // namespace
 
-Summe selbstspiel(const Optionen& o, uint32_t seed, const std::filesystem::path& ordner, std::ostream& aus) {
+Summe selbstspiel(const Optionen& o, uint32_t seed, const std::filesystem::path& ordner, std::ostream& aus,
+                  Beobachter* beobachter) {
     Summe summe;
     Zufall zufall(seed);
     const Oeffentlich* oeffentlich = nullptr;
-    ProtokollAnsicht ansicht(oeffentlich, o.protokoll ? &aus : nullptr);
+    ProtokollAnsicht ansicht(oeffentlich, o.protokoll ? &aus : nullptr, [&](const std::string& text) {
+        ++summe.nichtGespeichert;
+        if (beobachter) beobachter->nichtGespeichert(text);
+    });
     Spiel spiel(ansicht, zufall, ordner);
     oeffentlich = &spiel.oeffentlich();
     Einstellungen e;
@@ -74,6 +78,7 @@ Summe selbstspiel(const Optionen& o, uint32_t seed, const std::filesystem::path&
         if (o.protokoll) aus << "ende " << ergebnis << ' ' << spiel.spielzug() << '\n';
         ++summe.spiele;
         ++summe.nachErgebnis[ergebnis >= 0 && ergebnis <= 3 ? ergebnis : 0];
+        if (beobachter) beobachter->partieGespielt(summe);
     }
     aus << "summe " << summe.spiele << ' ' << summe.nachErgebnis[1] << ' ' << summe.nachErgebnis[2] << ' '
         << summe.nachErgebnis[3] << ' ' << summe.nachErgebnis[0] << '\n';

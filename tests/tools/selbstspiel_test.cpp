@@ -9,8 +9,10 @@
 #include <sstream>
 
 #include "memory/positionscode.h"
+#include "memory/satzdatei.h"
 #include "temp_ordner.h"
 #include "tools/selbstspiel_lauf.h"
+#include "tools/selbstspiel_programm.h"
 
 namespace fuh {
 namespace {
@@ -31,10 +33,11 @@ std::vector<std::string> worte(const std::string& text) {
 }
 
 Optionen optionen(const std::string& text) {
-    std::string fehler;
-    const auto o = optionenLesen(worte(text), fehler);
-    EXPECT_TRUE(o.has_value()) << fehler;
-    return o.value_or(Optionen{});
+    Optionen o;
+    std::ostringstream aus, fehler;
+    EXPECT_EQ(befehlszeileLesen(selbstspielAufruf(o), worte(text), aus, fehler), std::nullopt)
+        << fehler.str();
+    return o;
 }
 
 // Games recorded by an independent implementation of the same rules: log and files, byte for byte.
@@ -102,26 +105,27 @@ TEST(Selbstspiel, NullSpieleBeruehrenKeineDatei) {
     EXPECT_TRUE(fs::is_empty(ordner.pfad()));
 }
 
-TEST(Selbstspiel, Argumente) {
-    const Optionen o = optionen("--pc 0 --pc 1 --seed 16777217 --spiele 7 --staerke 3");
-    EXPECT_EQ(o.pc, 1);
-    EXPECT_EQ(o.seed, 1u);
-    EXPECT_EQ(o.spiele, 7u);
-    EXPECT_EQ(o.staerke, 3);
-    const Optionen seiten = optionen("--fuchs 1 --hennen 3 --bedenkzeit 250");
-    ASSERT_TRUE(seiten.spieler.fuchs && seiten.spieler.hennen);
-    EXPECT_EQ(seiten.spieler.fuchs->Staerke, 0);
-    EXPECT_EQ(seiten.spieler.hennen->Staerke, 2);
-    EXPECT_EQ(seiten.spieler.bedenkzeit.count(), 250);
-    EXPECT_EQ(optionen("--seed 99999999999999999999999").seed, 8388607u); // any length, modulo 2^24
-    for (const char* schlecht :
-         {"--pc 3", "--pc -1", "--pc +1", "--staerke 0", "--staerke 4", "--spiele", "--spiele x", "--seed -5",
-          "--lernen extra", "--unbekannt", "--pc 1.0", "--fuchs 0", "--hennen 4", "--fuchs", "--bedenkzeit 0",
-          "--bedenkzeit 501"}) {
-        std::string fehler;
-        EXPECT_FALSE(optionenLesen(worte(schlecht), fehler).has_value()) << schlecht;
-        EXPECT_FALSE(fehler.empty());
-    }
+// A statistics file that cannot be written (a folder in its place): every game is still played, the
+// game's message names the file once on standard error, and the exit status says that data was lost.
+TEST(Selbstspiel, NichtGespeichertGibtStatusEins) {
+    auto lauf = [](const test::TempOrdner& ordner, const std::string& args, std::string& fehler) {
+        std::ostringstream aus, err;
+        const int status = selbstspielProgramm(worte(args), ordner.pfad(), {aus, err, false, false});
+        fehler = err.str();
+        return std::to_string(status) + "\n" + aus.str();
+    };
+    test::TempOrdner gut, schlecht;
+    fs::create_directory(schlecht / "QZ.sta");
+    std::string fehler;
+    EXPECT_EQ(lauf(gut, "--spiele 3 --seed 7", fehler), "0\nsumme 3 0 3 0 0\n");
+    EXPECT_EQ(fehler, "");
+    EXPECT_EQ(lauf(schlecht, "--spiele 3 --seed 7", fehler), "1\nsumme 3 0 3 0 0\n");
+    EXPECT_EQ(fehler, "selbstspiel: " + schreibfehler("QZ.sta") + "\n");
+    EXPECT_TRUE(fs::is_directory(schlecht / "QZ.sta"));
+    // The log keeps the message where the window would show it.
+    const std::string log = lauf(schlecht, "--spiele 1 --seed 7 --protokoll", fehler);
+    EXPECT_NE(log.find("\nmeldung " + schreibfehler("QZ.sta") + "\n"), std::string::npos);
+    EXPECT_EQ(log.substr(0, 2), "1\n");
 }
 
 } // namespace

@@ -4,7 +4,9 @@
 
 #pragma once
 // A view without a window: it writes the game's events to a log.
+#include <functional>
 #include <ostream>
+#include <utility>
 
 #include "dialogs/oeffentlich.h"
 #include "game/ansicht.h"
@@ -13,8 +15,12 @@ namespace fuh {
 
 class ProtokollAnsicht : public Ansicht {
   public:
-    // `spiel` is read when a high-score list would open; `aus` is null when nothing is logged.
-    ProtokollAnsicht(const Oeffentlich*& spiel, std::ostream* aus) : spiel_(spiel), aus_(aus) {}
+    using Speicherfehler = std::function<void(const std::string&)>;
+
+    // `spiel` is read when a high-score list would open; `aus` is null when nothing is logged. Files that
+    // could not be saved are logged as messages and also handed to `beiSpeicherfehler`.
+    ProtokollAnsicht(const Oeffentlich*& spiel, std::ostream* aus, Speicherfehler beiSpeicherfehler = {})
+        : spiel_(spiel), aus_(aus), beiSpeicherfehler_(std::move(beiSpeicherfehler)) {}
 
     void figurBewegt(int, int, int) override {}
     void figurSichtbar(int, bool) override {}
@@ -22,12 +28,14 @@ class ProtokollAnsicht : public Ansicht {
     void hinweis(Hinweis, bool) override {}
     void status(Statusfeld, const std::string&) override {}
     void meldung(const std::string& text) override;
+    void speicherfehler(const std::string& text) override;
     void oeffnen(Fenster f) override;
     void zugAusgefuehrt(int vonX, int vonY, int nachX, int nachY, bool normal) override;
 
   private:
     const Oeffentlich*& spiel_;
     std::ostream* aus_;
+    Speicherfehler beiSpeicherfehler_;
 };
 
 } // namespace fuh

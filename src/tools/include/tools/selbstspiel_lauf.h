@@ -8,6 +8,7 @@
 #include <cstdint>
 #include <filesystem>
 #include <ostream>
+#include <string>
 
 #include "tools/selbstspiel_optionen.h"
 
@@ -16,9 +17,20 @@ namespace fuh {
 struct Summe {
     uint64_t spiele = 0;
     std::array<uint64_t, 4> nachErgebnis{}; // 0 abandoned, 1 hens, 2 foxes, 3 draw
+    uint64_t nichtGespeichert = 0;          // messages about files that could not be saved
+};
+
+// What a run reports besides its log, as it happens.
+class Beobachter {
+  public:
+    virtual ~Beobachter() = default;
+    // The game's message naming the files that could not be saved just now.
+    virtual void nichtGespeichert(const std::string& meldung) = 0;
+    virtual void partieGespielt(const Summe& bisher) = 0;
 };
 
 // Runs the games in `ordner`; the log goes to `aus` when the options ask for it, the summary always.
-Summe selbstspiel(const Optionen& o, uint32_t seed, const std::filesystem::path& ordner, std::ostream& aus);
+Summe selbstspiel(const Optionen& o, uint32_t seed, const std::filesystem::path& ordner, std::ostream& aus,
+                  Beobachter* beobachter = nullptr);
 
 } // namespace fuh

@@ -4,12 +4,12 @@
 
 #pragma once
 // The command line of the headless driver.
+#include <chrono>
 #include <cstdint>
 #include <optional>
-#include <string>
-#include <vector>
 
 #include "game/spielerwahl.h"
+#include "tools/befehlszeile.h"
 
 namespace fuh {
 
@@ -23,7 +23,10 @@ struct Optionen {
     Spielerwahl spieler; // --fuchs, --hennen, --bedenkzeit: each side at its own strength
 };
 
-// Parses the arguments (without the program name). On a bad argument returns nullopt and sets `fehler`.
-std::optional<Optionen> optionenLesen(const std::vector<std::string>& args, std::string& fehler);
+// --bedenkzeit: the Meister's time per move, for every program that lets it play.
+Option bedenkzeitOption(std::chrono::milliseconds& ziel);
+
+// selbstspiel's options, bound to `o`.
+Programm selbstspielAufruf(Optionen& o);
 
 } // namespace fuh
