@@ -18,6 +18,7 @@
 #include "dialogs/statistikdatei.h"
 #include "memory/lerndatei.h"
 #include "memory/positionscode.h"
+#include "tools/befehlszeile.h"
 #include "tools/selbstspiel_lauf.h"
 
 namespace {
@@ -50,7 +51,13 @@ long gueltigeSaetze(const fs::path& datei) {
 } // namespace
 
 int main(int argc, char** argv) {
-    const long spiele = argc > 1 ? std::stol(argv[1]) : 10000;
+    const auto anzahl = argc > 1 ? fuh::zahlLesen(argv[1], 1, 100000000) : std::optional<uint64_t>{10000};
+    if (argc > 2 || !anzahl) {
+        std::fprintf(
+            stderr, "dauerlauf: die Zahl der Spiele muss 1 bis 100000000 sein\nAufruf: dauerlauf [SPIELE]\n");
+        return fuh::kAufruffehler;
+    }
+    const long spiele = static_cast<long>(*anzahl);
     const fs::path ordner = fs::temp_directory_path() / ("fuh-dauerlauf-" + std::to_string(::getpid()));
     fs::create_directories(ordner);
     fuh::Optionen o;
