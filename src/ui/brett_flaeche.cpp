@@ -28,10 +28,15 @@ struct HinweisLage {
 
 // In the order of the Hinweis enumerators.
 constexpr std::array<HinweisLage, 4> kHinweise = {{
-    {Hinweis::f_zug, "f_zug", "Die Füchse sind am Zug.", 360, 600, 1575, 615},
-    {Hinweis::h_zug, "h_zug", "Die Hennen sind am Zug.", 480, 600, 1335, 615},
-    {Hinweis::speichern_msg, "speichern_msg", "Lernmodus: Daten werden gespeichert !", 4200, 4440, 1575, 855},
-    {Hinweis::spr_msg, "spr_msg", "Sprung mit rechter Maustaste abschließen !", 4080, 600, 1455, 1095},
+    {Hinweis::f_zug, "f_zug", QT_TRANSLATE_NOOP("fuh::BrettFlaeche", "Die Füchse sind am Zug."), 360, 600,
+     1575, 615},
+    {Hinweis::h_zug, "h_zug", QT_TRANSLATE_NOOP("fuh::BrettFlaeche", "Die Hennen sind am Zug."), 480, 600,
+     1335, 615},
+    {Hinweis::speichern_msg, "speichern_msg",
+     QT_TRANSLATE_NOOP("fuh::BrettFlaeche", "Lernmodus: Daten werden gespeichert !"), 4200, 4440, 1575, 855},
+    {Hinweis::spr_msg, "spr_msg",
+     QT_TRANSLATE_NOOP("fuh::BrettFlaeche", "Sprung mit rechter Maustaste abschließen !"), 4080, 600, 1455,
+     1095},
 }};
 
 const QColor kRand(0x1d, 0x3a, 0x10); // around the board where the window is not square
@@ -78,7 +83,7 @@ BrettFlaeche::BrettFlaeche(std::function<bool()> ziehbar, QWidget* parent)
 
     // The prompts lie over empty corners of the board; the pieces are created later and so stay on top.
     for (const HinweisLage& lage : kHinweise) {
-        auto* label = new QLabel(QString::fromUtf8(lage.text), this);
+        auto* label = new QLabel(this); // its text comes with its place, in hinweiseAnordnen
         label->setObjectName(QString::fromLatin1(lage.name));
         label->setWordWrap(true);
         label->setAlignment(Qt::AlignCenter);
@@ -131,8 +136,7 @@ void BrettFlaeche::hinweiseAnordnen() {
         return QRectF(a, b).toRect();
     };
     for (const HinweisLage& lage : kHinweise) {
-        const QFont passend =
-            passendeSchrift(schrift, QString::fromUtf8(lage.text), rechteck(lage).size() - rand, s);
+        const QFont passend = passendeSchrift(schrift, tr(lage.text), rechteck(lage).size() - rand, s);
         if (passend.pointSizeF() < schrift.pointSizeF()) schrift = passend;
     }
     const QString stil =
@@ -145,10 +149,16 @@ void BrettFlaeche::hinweiseAnordnen() {
             .arg(std::lround(2 * s));
     for (const HinweisLage& lage : kHinweise) {
         QLabel* label = hinweisLabel(lage.h);
+        label->setText(tr(lage.text));
         label->setFont(schrift);
         label->setStyleSheet(stil);
         label->setGeometry(rechteck(lage));
     }
+}
+
+void BrettFlaeche::changeEvent(QEvent* event) {
+    if (event->type() == QEvent::LanguageChange) hinweiseAnordnen(); // another text may need a smaller face
+    QWidget::changeEvent(event);
 }
 
 void BrettFlaeche::paintEvent(QPaintEvent*) {
