@@ -73,14 +73,13 @@ void HilfeFenster::changeEvent(QEvent* e) {
         texte_.erneuern();
         // The other language's guide, from its start: its pages and anchors are its own.
         browser_->clearHistory();
-        browser_->setSource(startseite());
         zumAnfang();
     }
     QWidget::changeEvent(e);
 }
 
 void HilfeFenster::zumAnfang() {
-    browser_->home();
+    browser_->setSource(startseite());
     browser_->verticalScrollBar()->setValue(0);
 }
 
