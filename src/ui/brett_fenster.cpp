@@ -4,8 +4,6 @@
 
 #include "ui/brett_fenster.h"
 
-#include <QApplication>
-#include <QIcon>
 #include <QLabel>
 #include <QMenuBar>
 #include <QScreen>
@@ -113,14 +111,6 @@ BrettFenster::BrettFenster(std::filesystem::path ordner, uint32_t startzeit, QWi
 
 BrettFenster::~BrettFenster() {
     fensterEinstellungen().setValue(QStringLiteral("geometrie"), saveGeometry());
-}
-
-void BrettFenster::anwendungEinrichten(QApplication& /*app*/) {
-    QApplication::setApplicationName(QString::fromUtf8(kTitel));
-    QApplication::setApplicationDisplayName(QString::fromUtf8(kTitel));
-    QGuiApplication::setDesktopFileName(QStringLiteral("org.example.FuchsUndHennen"));
-    QApplication::setWindowIcon(QIcon(QStringLiteral(":/bilder/app.svg")));
-    spracheSetzen(gespeicherteSprache(), false);
 }
 
 void BrettFenster::groesseLaden() {

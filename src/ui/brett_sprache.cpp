@@ -2,20 +2,32 @@
 //
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// The main window in the player's language: its menu, the status bar and the choice of language.
+// The application's names and language, and the main window in that language: its menu, the status
+// bar and the choice of language.
 #include <QAction>
 #include <QActionGroup>
+#include <QApplication>
 #include <QEvent>
+#include <QIcon>
 #include <QLabel>
 #include <QMenu>
 #include <QStatusBar>
 
 #include "ui/brett_fenster.h"
+#include "ui/titel.h"
 
 namespace fuh {
 
 namespace {
 const char* const kZugbegrenzung = QT_TRANSLATE_NOOP("fuh::BrettFenster", "Remis: Zugbegrenzung erreicht");
+}
+
+void BrettFenster::anwendungEinrichten(QApplication& /*app*/) {
+    QApplication::setApplicationName(QString::fromUtf8(kTitel));
+    QApplication::setApplicationDisplayName(QString::fromUtf8(kTitel));
+    QGuiApplication::setDesktopFileName(QStringLiteral("org.example.FuchsUndHennen"));
+    QApplication::setWindowIcon(QIcon(QStringLiteral(":/bilder/app.svg")));
+    spracheSetzen(gespeicherteSprache(), false);
 }
 
 void BrettFenster::spracheMenue(QMenu* menue) {

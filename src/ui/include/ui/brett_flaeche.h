@@ -79,6 +79,8 @@ class BrettFlaeche : public QWidget {
 
   private:
     QRect figurRechteck(int k) const;
+    // The prompts (brett_hinweise.cpp).
+    void hinweiseAnlegen();
     void hinweiseAnordnen();
     void zeigerSetzen(QPoint p);
 
