@@ -51,7 +51,8 @@ void installieren(const QString& datei, const QString& ordner, const char* name 
 
 using Teil = std::function<QString(const QString&)>;
 
-// `text` translated if it was built from `vorlage`: each inserted value goes through `teil`.
+// `text` translated if it was built from `vorlage`: each inserted value goes through `teil`. The core's
+// templates hold one or two values.
 std::optional<QString> nachVorlage(const QString& text, const char* vorlage, const Teil& teil) {
     static const QRegularExpression platzhalter(QStringLiteral("%([1-9])"));
     const QString v = QString::fromUtf8(vorlage);
