@@ -34,7 +34,7 @@ void BrettFenster::spracheMenue(QMenu* menue) {
     QMenu* sprache = menue->addMenu(QString());
     texte_.text(sprache->menuAction(), QT_TR_NOOP("S&prache"));
     sprache->setObjectName(QStringLiteral("sprache"));
-    auto* gruppe = new QActionGroup(sprache);
+    sprachen_ = new QActionGroup(sprache);
     // Each language is named in itself, so that a player who cannot read the other one finds it.
     const std::array<std::pair<Sprache, const char*>, 2> sprachen = {
         {{Sprache::deutsch, "deutsch"}, {Sprache::englisch, "englisch"}}};
@@ -46,7 +46,8 @@ void BrettFenster::spracheMenue(QMenu* menue) {
         a->setObjectName(QStringLiteral("sprache_") + QString::fromLatin1(name));
         a->setCheckable(true);
         a->setChecked(s == aktuelleSprache());
-        gruppe->addAction(a);
+        a->setData(static_cast<int>(s));
+        sprachen_->addAction(a);
         connect(a, &QAction::triggered, this, [s] { spracheSetzen(s); });
     }
 }
@@ -58,6 +59,9 @@ void BrettFenster::changeEvent(QEvent* e) {
 
 void BrettFenster::texteSetzen() {
     texte_.erneuern();
+    // The language may also have been chosen elsewhere, e.g. in another main window.
+    for (QAction* a : sprachen_->actions())
+        a->setChecked(a->data().toInt() == static_cast<int>(aktuelleSprache()));
     for (size_t i = 0; i < panels_.size(); ++i)
         panels_[i]->setText(kernText(panelTexte_[i]));
     // The only message the status bar shows.

@@ -134,6 +134,12 @@ class SpracheTest : public QObject {
         QCOMPARE(kindText(liste, "sieg0"), QStringLiteral("Ja"));
         QCOMPARE(hilfe->browser()->source().fileName(), QStringLiteral("ratgeber.html"));
         QCOMPARE(abbrechenKnopf(), QStringLiteral("Abbrechen"));
+
+        // Chosen elsewhere, e.g. in another main window: the menu shows it.
+        spracheSetzen(Sprache::englisch, false);
+        QCoreApplication::processEvents();
+        QVERIFY(a.fenster->findChild<QAction*>(QStringLiteral("sprache_englisch"))->isChecked());
+        spracheSetzen(Sprache::deutsch, false);
     }
 
     void kernTexteMitEingesetztenWerten_data() {

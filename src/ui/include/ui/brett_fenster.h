@@ -24,6 +24,7 @@
 #include "ui/wiedergabe.h"
 
 class QAction;
+class QActionGroup;
 class QApplication;
 class QLabel;
 class QMenu;
@@ -136,6 +137,7 @@ class BrettFenster : public QMainWindow, public Ansicht {
     std::optional<bool> wartenderMeister_;
     std::vector<QAction*> wartendeBefehle_; // disabled while busy
     std::array<QAction*, 3> tempoAktionen_{};
+    QActionGroup* sprachen_ = nullptr; // Deutsch and English in Spiel -> Sprache
     QAction* tippAktion_ = nullptr;
     QTimer tippUhr_; // how long a hint stays on the board
     bool meister_ = false;
