@@ -9,11 +9,11 @@ namespace fuh {
 std::optional<std::string> pcStatustext(int PC) {
     switch (PC) {
     case 0:
-        return "PC spielt Fuchs";
+        return FUH_TR_NOOP("Kern", "PC spielt Fuchs");
     case 1:
-        return "PC spielt Hennen";
+        return FUH_TR_NOOP("Kern", "PC spielt Hennen");
     case 2:
-        return "PC spielt Fuchs und Hennen";
+        return FUH_TR_NOOP("Kern", "PC spielt Fuchs und Hennen");
     default:
         return std::nullopt;
     }
@@ -21,12 +21,12 @@ std::optional<std::string> pcStatustext(int PC) {
 
 std::optional<std::string> staerkeStatustext(int Staerke) {
     if (Staerke < 0 || Staerke > 2) return std::nullopt;
-    return "Spielstärke " + std::to_string(Staerke + 1);
+    return einsetzen(kStaerkeStatustext, {std::to_string(Staerke + 1)});
 }
 
 std::optional<std::string> staerkeStatustextDialog(int Staerke) {
     // The dialog has always written this one with a capital P; players know the status bar that way.
-    if (Staerke == 2) return "SPielstärke 3";
+    if (Staerke == 2) return FUH_TR_NOOP("Kern", "SPielstärke 3");
     return staerkeStatustext(Staerke);
 }
 

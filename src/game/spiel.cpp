@@ -7,6 +7,7 @@
 #include "dialogs/einstellungsdatei.h"
 #include "dialogs/statistikdatei.h"
 #include "dialogs/statustexte.h"
+#include "game/texte.h"
 #include "game/zug.h"
 #include "memory/satzdatei.h"
 
@@ -97,11 +98,11 @@ void Spiel::meldeSchreibfehler(const std::vector<std::string>& dateien) {
         ansicht_.speicherfehler(schreibfehler(dateien.front()));
         return;
     }
-    std::string namen;
-    for (std::size_t i = 0; i < dateien.size(); ++i)
-        namen += (i == 0 ? "" : i + 1 == dateien.size() ? " und " : ", ") + ("„" + dateien[i] + "“");
-    ansicht_.speicherfehler("Die Dateien " + namen +
-                            " konnten nicht gespeichert werden. Das Spiel geht ohne diese Daten weiter.");
+    std::string namen = einsetzen(kDateiname, {dateien.front()});
+    for (std::size_t i = 1; i < dateien.size(); ++i)
+        namen = einsetzen(i + 1 == dateien.size() ? kAufzaehlungEnde : kAufzaehlung,
+                          {namen, einsetzen(kDateiname, {dateien[i]})});
+    ansicht_.speicherfehler(einsetzen(kSchreibfehlerMehrere, {namen}));
 }
 
 void Spiel::zug(bool normal) {

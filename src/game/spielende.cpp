@@ -6,6 +6,7 @@
 #include "board/gewichte.h"
 #include "board/zahlen.h"
 #include "game/spiel.h"
+#include "game/texte.h"
 
 namespace fuh {
 
@@ -34,7 +35,7 @@ bool Spiel::endecheck(int16_t figur) {
         }
     }
     const auto p = punkte();
-    ansicht_.status(Statusfeld::punkte, "Punkte: " + (p ? std::to_string(*p) : std::string()));
+    ansicht_.status(Statusfeld::punkte, einsetzen(kPunkteText, {p ? std::to_string(*p) : std::string()}));
     if (oeff_.sw_spielende) beende();
     return ergebnis;
 }
@@ -53,15 +54,14 @@ void Spiel::spielende(int16_t figur) {
         ergebnis_ = e;
         ansicht_.meldung(text);
         sperren(false);
-        oeff_.u_is_sieger = menschGewinnt ? "Ja" : "Nein";
+        oeff_.u_is_sieger = menschGewinnt ? kSiegJa : kSiegNein;
     };
-    if (z == 9) ende(Ergebnis::hennen, "Die Hennen haben gewonnen!", PC == Computer::fuchs);
-    if (n < 9) ende(Ergebnis::fuchs, "Der Fuchs hat gewonnen!", PC == Computer::hennen);
+    if (z == 9) ende(Ergebnis::hennen, kHennenGewinnen, PC == Computer::fuchs);
+    if (n < 9) ende(Ergebnis::fuchs, kFuchsGewinnt, PC == Computer::hennen);
     if (zugregister_.nachX == 0 && zugregister_.nachY == 0) {
         // The side to move found no move (or the last fox would have been parked).
-        if (figur == henne) ende(Ergebnis::fuchs, "Der Fuchs hat gewonnen", PC == Computer::hennen);
-        if (figur == fuchs)
-            ende(Ergebnis::remis, "Remis: Die Hennen können ihr Ziel nicht erreichen.", false);
+        if (figur == henne) ende(Ergebnis::fuchs, kFuchsGewinntOhneZug, PC == Computer::hennen);
+        if (figur == fuchs) ende(Ergebnis::remis, kRemisZiel, false);
     }
 }
 

@@ -80,8 +80,7 @@ void setzeLe16(Bytes& b, std::size_t pos, int16_t wert) {
 }
 
 std::string schreibfehler(const std::string& name) {
-    return "Die Datei „" + name +
-           "“ konnte nicht gespeichert werden. Das Spiel geht ohne diese Daten weiter.";
+    return einsetzen(kSchreibfehler, {name});
 }
 
 } // namespace fuh

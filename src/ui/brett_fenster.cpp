@@ -4,17 +4,12 @@
 
 #include "ui/brett_fenster.h"
 
-#include <QApplication>
-#include <QIcon>
 #include <QLabel>
-#include <QLibraryInfo>
-#include <QLocale>
 #include <QMenuBar>
 #include <QScreen>
 #include <QSettings>
 #include <QStatusBar>
 #include <QTime>
-#include <QTranslator>
 #include <algorithm>
 #include <utility>
 
@@ -116,21 +111,6 @@ BrettFenster::BrettFenster(std::filesystem::path ordner, uint32_t startzeit, QWi
 
 BrettFenster::~BrettFenster() {
     fensterEinstellungen().setValue(QStringLiteral("geometrie"), saveGeometry());
-}
-
-void BrettFenster::anwendungEinrichten(QApplication& app) {
-    QApplication::setApplicationName(QString::fromUtf8(kTitel));
-    QApplication::setApplicationDisplayName(QString::fromUtf8(kTitel));
-    QGuiApplication::setDesktopFileName(QStringLiteral("org.example.FuchsUndHennen"));
-    QApplication::setWindowIcon(QIcon(QStringLiteral(":/bilder/app.svg")));
-    // Without a configured locale Qt writes dates in an English "C" format; the game speaks German.
-    if (QLocale::system().language() == QLocale::C)
-        QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
-    auto* uebersetzung = new QTranslator(&app);
-    if (uebersetzung->load(QStringLiteral("qtbase_de"), QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
-        QApplication::installTranslator(uebersetzung);
-    else
-        delete uebersetzung;
 }
 
 void BrettFenster::groesseLaden() {
@@ -239,10 +219,10 @@ void BrettFenster::zeigen(const Ereignis& e) {
         brett_->hinweisZeigen(static_cast<Hinweis>(e.a), e.ja);
         break;
     case Ereignis::Art::status:
-        panel(e.a)->setText(e.text);
+        panelSetzen(static_cast<Statusfeld>(e.a), e.text);
         break;
     case Ereignis::Art::zugbegrenzung:
-        statusBar()->showMessage(QStringLiteral("Remis: Zugbegrenzung erreicht"));
+        zugbegrenzungZeigen();
         break;
     case Ereignis::Art::zug:
         if (e.ja)
@@ -251,10 +231,10 @@ void BrettFenster::zeigen(const Ereignis& e) {
             brett_->markierungLoeschen();
         break;
     case Ereignis::Art::meldung:
-        meldungZeigen(this, QMessageBox::NoIcon, e.text);
+        meldungZeigen(this, QMessageBox::NoIcon, kernText(e.text));
         break;
     case Ereignis::Art::speicherfehler:
-        meldungZeigen(this, QMessageBox::Warning, e.text);
+        meldungZeigen(this, QMessageBox::Warning, kernText(e.text));
         break;
     case Ereignis::Art::oeffnen:
         highscoreNachDemSpiel(static_cast<Fenster>(e.a) == Fenster::highf ? Seite::Fuchs : Seite::Hennen);

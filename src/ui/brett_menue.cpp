@@ -62,61 +62,75 @@ template <class W, class Neu> void neuZeigen(QPointer<W>& offen, Neu neu) {
 } // namespace
 
 void BrettFenster::menueAnlegen() {
-    auto aktion = [this](QMenu* menue, const char* name, const QString& text, auto slot) {
-        QAction* a = menue->addAction(text);
+    auto aktion = [this](QMenu* menue, const char* name, const char* text, auto slot) {
+        QAction* a = menue->addAction(QString());
+        texte_.text(a, text);
         a->setObjectName(QString::fromLatin1(name));
         connect(a, &QAction::triggered, this, slot);
         return a;
     };
 
-    QMenu* spielMenue = menuBar()->addMenu(QStringLiteral("&Spiel"));
+    QMenu* spielMenue = menuBar()->addMenu(QString());
+    texte_.text(spielMenue->menuAction(), QT_TR_NOOP("&Spiel"));
     spielMenue->setObjectName(QStringLiteral("spiel"));
     // "Neu" also stops a game being shown; "Start" waits until what the game reported has been seen.
-    wartendeBefehle_.push_back(aktion(spielMenue, "start", QStringLiteral("&Start"), [this] { neu(); }));
-    aktion(spielMenue, "Neu", QStringLiteral("&Neu"), [this] { neu(); });
-    tippAktion_ = aktion(spielMenue, "tipp", QStringLiteral("&Tipp"), [this] { tippZeigen(); });
+    wartendeBefehle_.push_back(aktion(spielMenue, "start", QT_TR_NOOP("&Start"), [this] { neu(); }));
+    aktion(spielMenue, "Neu", QT_TR_NOOP("&Neu"), [this] { neu(); });
+    tippAktion_ = aktion(spielMenue, "tipp", QT_TR_NOOP("&Tipp"), [this] { tippZeigen(); });
     tippAktion_->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_T));
     connect(spielMenue, &QMenu::aboutToShow, this, &BrettFenster::befehleAbgleichen);
     spielMenue->addSeparator();
     tempoMenue(spielMenue);
+    spracheMenue(spielMenue);
     spielMenue->addSeparator();
-    aktion(spielMenue, "Beenden", QStringLiteral("&Beenden"), [] { QApplication::quit(); });
+    aktion(spielMenue, "Beenden", QT_TR_NOOP("&Beenden"), [] { QApplication::quit(); });
 
     // A command right on the menu bar, as the game has always had it.
-    QAction* einstellungen = menuBar()->addAction(QStringLiteral("&Einstellungen"));
+    QAction* einstellungen = menuBar()->addAction(QString());
+    texte_.text(einstellungen, QT_TR_NOOP("&Einstellungen"));
     einstellungen->setObjectName(QStringLiteral("Einstellungen"));
     connect(einstellungen, &QAction::triggered, this, &BrettFenster::einstellungenZeigen);
     wartendeBefehle_.push_back(einstellungen);
 
-    QMenu* ergebnisse = menuBar()->addMenu(QStringLiteral("E&rgebnisse"));
+    QMenu* ergebnisse = menuBar()->addMenu(QString());
+    texte_.text(ergebnisse->menuAction(), QT_TR_NOOP("E&rgebnisse"));
     ergebnisse->setObjectName(QStringLiteral("erg"));
-    aktion(ergebnisse, "Stt", QStringLiteral("&Statistik"), [this] { statistikZeigen(); });
+    aktion(ergebnisse, "Stt", QT_TR_NOOP("&Statistik"), [this] { statistikZeigen(); });
     // A list enters a just finished game, so it waits until the game's end has been shown.
-    wartendeBefehle_.push_back(aktion(ergebnisse, "highfu", QStringLiteral("Highscore &Fuchs"),
+    wartendeBefehle_.push_back(aktion(ergebnisse, "highfu", QT_TR_NOOP("Highscore &Fuchs"),
                                       [this] { highscoreZeigen(Seite::Fuchs); }));
-    wartendeBefehle_.push_back(aktion(ergebnisse, "highhe", QStringLiteral("Highscore &Hennen"),
+    wartendeBefehle_.push_back(aktion(ergebnisse, "highhe", QT_TR_NOOP("Highscore &Hennen"),
                                       [this] { highscoreZeigen(Seite::Hennen); }));
 
-    QMenu* hilfe = menuBar()->addMenu(QStringLiteral("&Hilfe"));
+    QMenu* hilfe = menuBar()->addMenu(QString());
+    texte_.text(hilfe->menuAction(), QT_TR_NOOP("&Hilfe"));
     hilfe->setObjectName(QStringLiteral("hilfe"));
-    aktion(hilfe, "help", QStringLiteral("&Hilfe"), [this] {
+    aktion(hilfe, "help", QT_TR_NOOP("&Hilfe"), [this] {
         // The help always opens at its first topic, also when it was left open elsewhere.
         einmalZeigen(hilfe_, [this] { return new HilfeFenster(this); });
         hilfe_->zumAnfang();
     });
-    aktion(hilfe, "info", QStringLiteral("&Info"),
+    aktion(hilfe, "info", QT_TR_NOOP("&Info"),
            [this] { einmalZeigen(info_, [this] { return new InfoWin(this); }); });
 }
 
 void BrettFenster::tempoMenue(QMenu* menue) {
-    QMenu* tempo = menue->addMenu(QStringLiteral("&Tempo"));
+    QMenu* tempo = menue->addMenu(QString());
+    texte_.text(tempo->menuAction(), QT_TR_NOOP("&Tempo"));
     tempo->setObjectName(QStringLiteral("tempo"));
     auto* gruppe = new QActionGroup(tempo);
-    const std::array<std::pair<Tempo, const char*>, 3> stufen = {
-        {{Tempo::schnell, "schnell"}, {Tempo::normal, "normal"}, {Tempo::langsam, "langsam"}}};
+    struct Stufe {
+        Tempo t;
+        const char* name;
+        const char* text;
+    };
+    const std::array<Stufe, 3> stufen = {{{Tempo::schnell, "schnell", QT_TR_NOOP("&schnell")},
+                                          {Tempo::normal, "normal", QT_TR_NOOP("&normal")},
+                                          {Tempo::langsam, "langsam", QT_TR_NOOP("&langsam")}}};
     for (size_t i = 0; i < stufen.size(); ++i) {
-        const auto [t, name] = stufen[i];
-        QAction* a = tempo->addAction(QStringLiteral("&") + QString::fromLatin1(name));
+        const auto [t, name, text] = stufen[i];
+        QAction* a = tempo->addAction(QString());
+        texte_.text(a, text);
         a->setObjectName(QStringLiteral("tempo_") + QString::fromLatin1(name));
         a->setCheckable(true);
         gruppe->addAction(a);
@@ -142,7 +156,9 @@ void BrettFenster::einstellungenZeigen() {
     einmalZeigen(einst_, [this] {
         return new EinstDialog(
             spiel_->oeffentlich().einst, meister_, spiel_->ordner(),
-            [this](Statusfeld feld, const QString& text) { panel(static_cast<int>(feld))->setText(text); },
+            [this](Statusfeld feld, const std::string& text) {
+                panelSetzen(feld, QString::fromStdString(text));
+            },
             [this](const Einstellungen& e, bool meister) {
                 // A game the computer plays itself keeps its settings and players until it ends.
                 if (spiel_->selbstspielLaeuft()) {

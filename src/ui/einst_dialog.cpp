@@ -6,6 +6,7 @@
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QEvent>
 #include <QLabel>
 #include <QPalette>
 #include <QPushButton>
@@ -40,40 +41,80 @@ int eintrag(int wert) {
 } // namespace
 
 EinstDialog::EinstDialog(const Einstellungen& einst, bool meister, std::filesystem::path ordner,
-                         std::function<void(Statusfeld feld, const QString& text)> statusSetzen,
+                         std::function<void(Statusfeld feld, const std::string& text)> statusSetzen,
                          std::function<void(const Einstellungen&, bool)> uebernehmen, QWidget* parent)
     : QDialog(parent), ordner_(std::move(ordner)), statusSetzen_(std::move(statusSetzen)),
       uebernehmen_(std::move(uebernehmen)) {
     setAttribute(Qt::WA_DeleteOnClose);
-    setWindowTitle(QStringLiteral("Einstellungen"));
     setAutoFillBackground(true);
     QPalette pal = palette();
     pal.setColor(QPalette::Window, Qt::white);
     setPalette(pal);
 
-    auto* staerkeText = new QLabel(QStringLiteral("Spielstärke:"), this);
-    staerkeText->setObjectName(QStringLiteral("Spielstärke"));
-    auto* ok = new QPushButton(QStringLiteral("Übernehmen"), this);
-    ok->setObjectName(QStringLiteral("ok"));
-    auto* abbruch = new QPushButton(QStringLiteral("Abbrechen"), this);
-    abbruch->setObjectName(QStringLiteral("Abbruch"));
+    staerkeText_ = new QLabel(this);
+    staerkeText_->setObjectName(QStringLiteral("Spielstärke"));
+    ok_ = new QPushButton(this);
+    ok_->setObjectName(QStringLiteral("ok"));
+    abbruch_ = new QPushButton(this);
+    abbruch_->setObjectName(QStringLiteral("Abbruch"));
     pc_spielt_ = new QComboBox(this);
     pc_spielt_->setObjectName(QStringLiteral("pc_spielt"));
-    pc_spielt_->addItems(
-        {QStringLiteral("Fuchs"), QStringLiteral("Hennen"), QStringLiteral("Fuchs und Hennen")});
+    pc_spielt_->addItems(QStringList(3, QString()));
     Staerke_ = new QComboBox(this);
     Staerke_->setObjectName(QStringLiteral("Staerke"));
-    Staerke_->addItems({QStringLiteral("1 leicht"), QStringLiteral("2 mittel"), QStringLiteral("3 stark"),
-                        QStringLiteral("4 Meister")});
-    Lernen_ = new QCheckBox(QStringLiteral("Lernmodus (ab Spielstärke 2)"), this);
+    Staerke_->addItems(QStringList(4, QString()));
+    Lernen_ = new QCheckBox(this);
     Lernen_->setObjectName(QStringLiteral("Lernen"));
-    Einzelzug_ = new QCheckBox(QStringLiteral("Einzelzugmodus"), this);
+    Einzelzug_ = new QCheckBox(this);
     Einzelzug_->setObjectName(QStringLiteral("Einzelzug"));
-    auto* pcText = new QLabel(QStringLiteral("Computer spielt:"), this);
-    pcText->setObjectName(QStringLiteral("Label1"));
-    staerkeText->setBuddy(Staerke_);
-    pcText->setBuddy(pc_spielt_);
+    pcText_ = new QLabel(this);
+    pcText_->setObjectName(QStringLiteral("Label1"));
+    staerkeText_->setBuddy(Staerke_);
+    pcText_->setBuddy(pc_spielt_);
+    texteSetzen();
 
+    setTabOrder(ok_, abbruch_);
+    setTabOrder(abbruch_, pc_spielt_);
+    setTabOrder(pc_spielt_, Staerke_);
+    setTabOrder(Staerke_, Lernen_);
+    setTabOrder(Lernen_, Einzelzug_);
+    ok_->setDefault(true);
+
+    // Form_Load: the values are unchecked file contents, so anything outside the lists shows entry 0.
+    pc_spielt_->setCurrentIndex(eintrag(einst.PC));
+    Staerke_->setCurrentIndex(meister && einst.Staerke == 2 ? kMeister : eintrag(einst.Staerke));
+    Lernen_->setChecked(einst.Lernmodus == 1);
+    Einzelzug_->setChecked(einst.Einzelzug == 1);
+    ausgleich();
+
+    connect(Staerke_, &QComboBox::currentIndexChanged, this, &EinstDialog::ausgleich);
+    connect(ok_, &QPushButton::clicked, this, &EinstDialog::ok_Click);
+    connect(abbruch_, &QPushButton::clicked, this, &QDialog::close);
+}
+
+void EinstDialog::changeEvent(QEvent* e) {
+    if (e->type() == QEvent::LanguageChange) texteSetzen();
+    QDialog::changeEvent(e);
+}
+
+void EinstDialog::texteSetzen() {
+    setWindowTitle(tr("Einstellungen"));
+    staerkeText_->setText(tr("Spielstärke:"));
+    ok_->setText(tr("Übernehmen"));
+    abbruch_->setText(tr("Abbrechen"));
+    const QString seiten[] = {tr("Fuchs"), tr("Hennen"), tr("Fuchs und Hennen")};
+    for (int i = 0; i < pc_spielt_->count(); ++i)
+        pc_spielt_->setItemText(i, seiten[i]);
+    const QString staerken[] = {tr("1 leicht"), tr("2 mittel"), tr("3 stark"), tr("4 Meister")};
+    for (int i = 0; i < Staerke_->count(); ++i)
+        Staerke_->setItemText(i, staerken[i]);
+    Lernen_->setText(tr("Lernmodus (ab Spielstärke 2)"));
+    Einzelzug_->setText(tr("Einzelzugmodus"));
+    pcText_->setText(tr("Computer spielt:"));
+    anordnen();
+}
+
+void EinstDialog::anordnen() {
     // The layout is drawn in twips; where the font needs more room than the drawing gives, the whole
     // window grows by one factor so that the proportions stay.
     const QFontMetrics fm(font());
@@ -85,14 +126,14 @@ EinstDialog::EinstDialog(const Einstellungen& einst, bool meister, std::filesyst
     };
     const int haken = style()->pixelMetric(QStyle::PM_IndicatorWidth) + 12;
     const Lage lagen[] = {
-        {staerkeText, 120, 600, 975, 255, fm.horizontalAdvance(staerkeText->text())},
-        {ok, 240, 1920, 1335, 375, fm.horizontalAdvance(ok->text()) + 16},
-        {abbruch, 1920, 1920, 1575, 375, fm.horizontalAdvance(abbruch->text()) + 16},
+        {staerkeText_, 120, 600, 975, 255, fm.horizontalAdvance(staerkeText_->text())},
+        {ok_, 240, 1920, 1335, 375, fm.horizontalAdvance(ok_->text()) + 16},
+        {abbruch_, 1920, 1920, 1575, 375, fm.horizontalAdvance(abbruch_->text()) + 16},
         {pc_spielt_, 1560, 120, 2175, 315, comboBreite(pc_spielt_)},
         {Staerke_, 1560, 600, 2175, 315, comboBreite(Staerke_)},
         {Lernen_, 840, 1080, 2415, 255, fm.horizontalAdvance(Lernen_->text()) + haken},
         {Einzelzug_, 840, 1440, 2655, 255, fm.horizontalAdvance(Einzelzug_->text()) + haken},
-        {pcText, 120, 120, 1215, 255, fm.horizontalAdvance(pcText->text())},
+        {pcText_, 120, 120, 1215, 255, fm.horizontalAdvance(pcText_->text())},
     };
     double faktor = 1.0;
     for (const Lage& l : lagen) {
@@ -104,24 +145,6 @@ EinstDialog::EinstDialog(const Einstellungen& einst, bool meister, std::filesyst
     for (const Lage& l : lagen)
         l.w->setGeometry(px(l.links), px(l.oben), px(l.breite), px(l.hoehe));
     setFixedSize(px(kBreite), px(kHoehe));
-
-    setTabOrder(ok, abbruch);
-    setTabOrder(abbruch, pc_spielt_);
-    setTabOrder(pc_spielt_, Staerke_);
-    setTabOrder(Staerke_, Lernen_);
-    setTabOrder(Lernen_, Einzelzug_);
-    ok->setDefault(true);
-
-    // Form_Load: the values are unchecked file contents, so anything outside the lists shows entry 0.
-    pc_spielt_->setCurrentIndex(eintrag(einst.PC));
-    Staerke_->setCurrentIndex(meister && einst.Staerke == 2 ? kMeister : eintrag(einst.Staerke));
-    Lernen_->setChecked(einst.Lernmodus == 1);
-    Einzelzug_->setChecked(einst.Einzelzug == 1);
-    ausgleich();
-
-    connect(Staerke_, &QComboBox::currentIndexChanged, this, &EinstDialog::ausgleich);
-    connect(ok, &QPushButton::clicked, this, &EinstDialog::ok_Click);
-    connect(abbruch, &QPushButton::clicked, this, &QDialog::close);
 }
 
 void EinstDialog::ausgleich() {
@@ -141,15 +164,15 @@ void EinstDialog::ok_Click() {
     if (!einstellungenSchreiben(ordner_, e)) {
         // The next new game reads the file again, so the settings last only for the game being played.
         meldungZeigen(this, QMessageBox::Warning,
-                      QStringLiteral("Die Einstellungen konnten nicht in „%1“ gespeichert werden. "
-                                     "Sie gelten nur für das laufende Spiel.")
+                      tr("Die Einstellungen konnten nicht in „%1“ gespeichert werden. "
+                         "Sie gelten nur für das laufende Spiel.")
                           .arg(QString::fromUtf8(kEinstellungsdatei)));
     }
     if (statusSetzen_) {
-        if (const auto t = pcStatustext(e.PC)) statusSetzen_(Statusfeld::seite, QString::fromStdString(*t));
+        if (const auto t = pcStatustext(e.PC)) statusSetzen_(Statusfeld::seite, *t);
         if (const auto t =
                 meister ? std::optional<std::string>(kMeisterStatustext) : staerkeStatustextDialog(e.Staerke))
-            statusSetzen_(Statusfeld::staerke, QString::fromStdString(*t));
+            statusSetzen_(Statusfeld::staerke, *t);
     }
     close();
 }

@@ -5,6 +5,7 @@
 #include "ui/highscore_fenster.h"
 
 #include <QDate>
+#include <QEvent>
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -15,6 +16,7 @@
 #include <cmath>
 
 #include "ui/meldung.h"
+#include "ui/sprache.h"
 
 namespace fuh {
 
@@ -33,6 +35,7 @@ QString feldText(const std::string& bytes) {
 QLabel* zelle(const QString& name, QWidget* eltern) {
     auto* l = new QLabel(eltern);
     l->setObjectName(name);
+    l->setTextFormat(Qt::PlainText); // names and flags come from the file
     return l;
 }
 
@@ -55,8 +58,8 @@ HighscoreFenster::HighscoreFenster(Seite seite, Oeffentlich& spiel, std::filesys
                                    QWidget* parent)
     : QDialog(parent), liste_(seite), ordner_(std::move(ordner)) {
     setAttribute(Qt::WA_DeleteOnClose);
-    setWindowTitle(seite == Seite::Fuchs ? QStringLiteral("Highscores Fuchs")
-                                         : QStringLiteral("Highscore Hennen"));
+    texte_.titel(this,
+                 seite == Seite::Fuchs ? QT_TR_NOOP("Highscores Fuchs") : QT_TR_NOOP("Highscore Hennen"));
 
     liste_.laden(ordner_);
     const int neu = liste_.anzeigen(spiel, oleDatumHeute());
@@ -64,10 +67,11 @@ HighscoreFenster::HighscoreFenster(Seite seite, Oeffentlich& spiel, std::filesys
     auto* haupt = new QVBoxLayout(this);
     auto* tabelle = new QGridLayout;
     tabelle->setHorizontalSpacing(16);
-    const QString koepfe[4] = {QStringLiteral("Datum"), QStringLiteral("Punkte"), QStringLiteral("Name"),
-                               QStringLiteral("Sieg")};
+    const char* const koepfe[4] = {QT_TR_NOOP("Datum"), QT_TR_NOOP("Punkte"), QT_TR_NOOP("Name"),
+                                   QT_TR_NOOP("Sieg")};
     for (int c = 0; c < 4; ++c) {
-        auto* k = new QLabel(koepfe[c], this);
+        auto* k = new QLabel(this);
+        texte_.text(k, koepfe[c]);
         QFont f = k->font();
         f.setBold(true);
         k->setFont(f);
@@ -78,7 +82,6 @@ HighscoreFenster::HighscoreFenster(Seite seite, Oeffentlich& spiel, std::filesys
     for (int i = 0; i < kListenzeilen; ++i) {
         const Eintrag& e = liste_.eintraege()[static_cast<std::size_t>(i)];
         auto* datum = zelle(QStringLiteral("datum%1").arg(i), this);
-        datum->setText(datumText(e.datum));
         auto* score = zelle(QStringLiteral("score%1").arg(i), this);
         score->setText(QString::number(e.score));
         score->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
@@ -86,7 +89,6 @@ HighscoreFenster::HighscoreFenster(Seite seite, Oeffentlich& spiel, std::filesys
         user->setText(feldText(e.user));
         user->setMinimumWidth(fm.horizontalAdvance(QLatin1Char('W')) * 12);
         auto* sieg = zelle(QStringLiteral("sieg%1").arg(i), this);
-        sieg->setText(feldText(e.sieg));
         tabelle->addWidget(datum, i + 1, 0);
         tabelle->addWidget(score, i + 1, 1);
         tabelle->addWidget(user, i + 1, 2);
@@ -103,13 +105,16 @@ HighscoreFenster::HighscoreFenster(Seite seite, Oeffentlich& spiel, std::filesys
         }
     }
     haupt->addLayout(tabelle);
+    zeilenSetzen();
 
     auto* knoepfe = new QHBoxLayout;
     knoepfe->addStretch();
-    auto* ok = new QPushButton(QStringLiteral("OK"), this);
+    auto* ok = new QPushButton(this);
+    texte_.text(ok, QT_TR_NOOP("OK"));
     ok->setObjectName(QStringLiteral("ok"));
     ok->setDefault(true);
-    auto* abbruch = new QPushButton(QStringLiteral("Abbruch"), this);
+    auto* abbruch = new QPushButton(this);
+    texte_.text(abbruch, QT_TR_NOOP("Abbruch"));
     abbruch->setObjectName(QStringLiteral("Abbruch"));
     knoepfe->addWidget(ok);
     knoepfe->addWidget(abbruch);
@@ -121,10 +126,27 @@ HighscoreFenster::HighscoreFenster(Seite seite, Oeffentlich& spiel, std::filesys
     if (name) name->setFocus();
 }
 
+void HighscoreFenster::zeilenSetzen() {
+    for (int i = 0; i < kListenzeilen; ++i) {
+        const Eintrag& e = liste_.eintraege()[static_cast<std::size_t>(i)];
+        findChild<QLabel*>(QStringLiteral("datum%1").arg(i))->setText(datumText(e.datum));
+        // The file keeps the German flag; it is shown in the player's language.
+        findChild<QLabel*>(QStringLiteral("sieg%1").arg(i))->setText(kernText(feldText(e.sieg)));
+    }
+}
+
+void HighscoreFenster::changeEvent(QEvent* e) {
+    if (e->type() == QEvent::LanguageChange) {
+        texte_.erneuern();
+        zeilenSetzen();
+    }
+    QDialog::changeEvent(e);
+}
+
 void HighscoreFenster::ok_Click() {
     if (!liste_.speichern(ordner_)) {
         meldungZeigen(this, QMessageBox::Warning,
-                      QStringLiteral("Die Highscore-Liste „%1“ konnte nicht gespeichert werden.")
+                      tr("Die Highscore-Liste „%1“ konnte nicht gespeichert werden.")
                           .arg(QString::fromLatin1(bestenlistendatei(liste_.seite()))));
         return;
     }

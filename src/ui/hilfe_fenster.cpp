@@ -4,6 +4,7 @@
 
 #include "ui/hilfe_fenster.h"
 
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QKeySequence>
 #include <QPushButton>
@@ -13,25 +14,36 @@
 #include <QUrl>
 #include <QVBoxLayout>
 
+#include "ui/sprache.h"
+
 namespace fuh {
 
 namespace {
-const QUrl kStartseite(QStringLiteral("qrc:/hilfe/ratgeber.html"));
+
+// The guide in the language spoken now.
+QUrl startseite() {
+    return QUrl(aktuelleSprache() == Sprache::englisch ? QStringLiteral("qrc:/hilfe/ratgeber_en.html")
+                                                       : QStringLiteral("qrc:/hilfe/ratgeber.html"));
+}
+
 } // namespace
 
 HilfeFenster::HilfeFenster(QWidget* parent) : QWidget(parent, Qt::Window) {
     setAttribute(Qt::WA_DeleteOnClose);
     // The platform adds the application's name to the caption.
-    setWindowTitle(QStringLiteral("Hilfe"));
+    texte_.titel(this, QT_TR_NOOP("Hilfe"));
 
     auto* haupt = new QVBoxLayout(this);
     auto* leiste = new QHBoxLayout;
-    auto* zurueck = new QPushButton(QStringLiteral("Zurück"), this);
+    auto* zurueck = new QPushButton(this);
+    texte_.text(zurueck, QT_TR_NOOP("Zurück"));
     zurueck->setObjectName(QStringLiteral("zurueck"));
     zurueck->setEnabled(false);
-    auto* start = new QPushButton(QStringLiteral("Inhalt"), this);
+    auto* start = new QPushButton(this);
+    texte_.text(start, QT_TR_NOOP("Inhalt"));
     start->setObjectName(QStringLiteral("inhalt"));
-    auto* schliessen = new QPushButton(QStringLiteral("Schließen"), this);
+    auto* schliessen = new QPushButton(this);
+    texte_.text(schliessen, QT_TR_NOOP("Schließen"));
     schliessen->setObjectName(QStringLiteral("schliessen"));
     leiste->addWidget(zurueck);
     leiste->addWidget(start);
@@ -43,7 +55,7 @@ HilfeFenster::HilfeFenster(QWidget* parent) : QWidget(parent, Qt::Window) {
     browser_->setObjectName(QStringLiteral("browser"));
     browser_->setOpenExternalLinks(true);
     haupt->addWidget(browser_);
-    browser_->setSource(kStartseite);
+    browser_->setSource(startseite());
     resize(640, 560);
 
     connect(browser_, &QTextBrowser::backwardAvailable, zurueck, &QPushButton::setEnabled);
@@ -56,8 +68,18 @@ HilfeFenster::HilfeFenster(QWidget* parent) : QWidget(parent, Qt::Window) {
     connect(escape, &QShortcut::activated, this, &QWidget::close);
 }
 
+void HilfeFenster::changeEvent(QEvent* e) {
+    if (e->type() == QEvent::LanguageChange) {
+        texte_.erneuern();
+        // The other language's guide, from its start: its pages and anchors are its own.
+        browser_->clearHistory();
+        zumAnfang();
+    }
+    QWidget::changeEvent(e);
+}
+
 void HilfeFenster::zumAnfang() {
-    browser_->home();
+    browser_->setSource(startseite());
     browser_->verticalScrollBar()->setValue(0);
 }
 

@@ -4,6 +4,7 @@
 
 #include "ui/info_win.h"
 
+#include <QEvent>
 #include <QFont>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -15,7 +16,7 @@ namespace fuh {
 
 InfoWin::InfoWin(QWidget* parent) : QDialog(parent) {
     setAttribute(Qt::WA_DeleteOnClose);
-    setWindowTitle(QStringLiteral("Info"));
+    texte_.titel(this, QT_TR_NOOP("Info"));
 
     auto* haupt = new QHBoxLayout(this);
     auto* bilder = new QVBoxLayout;
@@ -29,32 +30,37 @@ InfoWin::InfoWin(QWidget* parent) : QDialog(parent) {
     haupt->addLayout(bilder);
 
     auto* texte = new QVBoxLayout;
-    auto text = [&](const QString& name, const QString& inhalt) {
-        auto* l = new QLabel(inhalt, this);
+    auto text = [&](const QString& name, const char* inhalt) {
+        auto* l = new QLabel(this);
+        texte_.text(l, inhalt);
         l->setObjectName(name);
         l->setWordWrap(true);
         texte->addWidget(l);
         return l;
     };
-    QLabel* titel = text(QStringLiteral("Label1"), QStringLiteral("Fuchs und Hennen 2026"));
+    QLabel* titel = text(QStringLiteral("Label1"), QT_TR_NOOP("Fuchs und Hennen 2026"));
     QFont f = titel->font();
     f.setBold(true);
     titel->setFont(f);
-    text(QStringLiteral("Label2"), QStringLiteral("© 2026 Das Fuchs-und-Hennen-Team"));
+    text(QStringLiteral("Label2"), QT_TR_NOOP("© 2026 Das Fuchs-und-Hennen-Team"));
     text(QStringLiteral("Label3"),
-         QStringLiteral("Dank an Anna Gärtner und Paul Hofmann für ihre Geduld beim Testen"));
-    QLabel* mail = text(
-        QStringLiteral("email"),
-        QStringLiteral("<a href=\"mailto:fuchs-und-hennen@example.org\">fuchs-und-hennen@example.org</a>"));
+         QT_TR_NOOP("Dank an Anna Gärtner und Paul Hofmann für ihre Geduld beim Testen"));
+    auto* mail = new QLabel(
+        QStringLiteral("<a href=\"mailto:fuchs-und-hennen@example.org\">fuchs-und-hennen@example.org</a>"),
+        this);
+    mail->setObjectName(QStringLiteral("email"));
+    mail->setWordWrap(true);
+    texte->addWidget(mail);
     // It looks like a mail link, but like every label here it does nothing when clicked.
     mail->setTextFormat(Qt::RichText);
     mail->setTextInteractionFlags(Qt::NoTextInteraction);
     // The address gets a line of its own and is never broken inside.
-    text(QStringLiteral("Label4"),
-         QStringLiteral("Neue Versionen, Informationen und Neuigkeiten:<br>"
-                        "<span style=\"white-space: nowrap\">https://example.org/fuchs-und-hennen</span>"))
+    text(QStringLiteral("Label4"), QT_TR_NOOP("Neue Versionen, Informationen und Neuigkeiten:<br>"
+                                              "<span style=\"white-space: nowrap\">"
+                                              "https://example.org/fuchs-und-hennen</span>"))
         ->setTextFormat(Qt::RichText);
-    auto* ok = new QPushButton(QStringLiteral("Ok"), this);
+    auto* ok = new QPushButton(this);
+    texte_.text(ok, QT_TR_NOOP("Ok"));
     ok->setObjectName(QStringLiteral("Command1"));
     ok->setDefault(true);
     texte->addWidget(ok, 0, Qt::AlignRight);
@@ -62,6 +68,11 @@ InfoWin::InfoWin(QWidget* parent) : QDialog(parent) {
     setMinimumWidth(420);
 
     connect(ok, &QPushButton::clicked, this, &QDialog::close);
+}
+
+void InfoWin::changeEvent(QEvent* e) {
+    if (e->type() == QEvent::LanguageChange) texte_.erneuern();
+    QDialog::changeEvent(e);
 }
 
 } // namespace fuh

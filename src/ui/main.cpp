@@ -34,7 +34,7 @@ int main(int argc, char* argv[]) {
     if (!fehler) std::filesystem::current_path(ordner, fehler);
     if (fehler) {
         fuh::meldungZeigen(nullptr, QMessageBox::Critical,
-                           QStringLiteral("Der Datenordner %1 ist nicht nutzbar: %2")
+                           QCoreApplication::translate("main", "Der Datenordner %1 ist nicht nutzbar: %2")
                                .arg(QString::fromStdString(ordner.string()),
                                     QString::fromLocal8Bit(fehler.message().c_str())));
         return 1;

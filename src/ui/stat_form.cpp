@@ -4,6 +4,7 @@
 
 #include "ui/stat_form.h"
 
+#include <QEvent>
 #include <QFrame>
 #include <QGridLayout>
 #include <QGroupBox>
@@ -34,11 +35,13 @@ QFrame* linie(QFrame::Shape form, QWidget* eltern) {
 }
 
 // Rows of "text: value", the values in one right-aligned column.
-QGridLayout* zeilen(std::initializer_list<std::pair<QString, QLabel*>> paare) {
+QGridLayout* zeilen(Beschriftung& texte, std::initializer_list<std::pair<const char*, QLabel*>> paare) {
     auto* g = new QGridLayout;
     int r = 0;
     for (const auto& [text, label] : paare) {
-        g->addWidget(new QLabel(text), r, 0);
+        auto* l = new QLabel;
+        texte.text(l, text);
+        g->addWidget(l, r, 0);
         g->addWidget(label, r, 1);
         ++r;
     }
@@ -50,35 +53,39 @@ QGridLayout* zeilen(std::initializer_list<std::pair<QString, QLabel*>> paare) {
 
 StatForm::StatForm(std::filesystem::path ordner, QWidget* parent) : QDialog(parent) {
     setAttribute(Qt::WA_DeleteOnClose);
-    setWindowTitle(QStringLiteral("Statistik"));
+    texte_.titel(this, QT_TR_NOOP("Statistik"));
     const Statistik s = statistikLesen(ordner);
 
     auto* haupt = new QVBoxLayout(this);
 
     auto* oben = new QHBoxLayout;
     // Started minus finished: games left by a new game or by closing the program.
-    oben->addLayout(
-        zeilen({{QStringLiteral("Spiele gesamt:"), wert(QStringLiteral("Spiele"), s.gestartet(), this)},
-                {QStringLiteral("abgebrochene:"),
-                 wert(QStringLiteral("abbruch"), s.gestartet() - s.beendet(), this)}}));
+    oben->addLayout(zeilen(
+        texte_,
+        {{QT_TR_NOOP("Spiele gesamt:"), wert(QStringLiteral("Spiele"), s.gestartet(), this)},
+         {QT_TR_NOOP("abgebrochene:"), wert(QStringLiteral("abbruch"), s.gestartet() - s.beendet(), this)}}));
     oben->addSpacing(24);
-    auto* ok = new QPushButton(QStringLiteral("Ok"), this);
+    auto* ok = new QPushButton(this);
+    texte_.text(ok, QT_TR_NOOP("Ok"));
     ok->setObjectName(QStringLiteral("Command1"));
     ok->setDefault(true);
     oben->addWidget(ok, 0, Qt::AlignTop);
     haupt->addLayout(oben);
 
-    auto* lernen = new QGroupBox(QStringLiteral("Lernmodus"), this);
+    auto* lernen = new QGroupBox(this);
+    texte_.titel(lernen, QT_TR_NOOP("Lernmodus"));
     lernen->setLayout(zeilen(
-        {{QStringLiteral("Spiele im Lernmodus:"), wert(QStringLiteral("gelernte"), s.imLernmodus(), lernen)},
-         {QStringLiteral("Bewertete Züge:"), wert(QStringLiteral("Zuge"), s.gelernt(), lernen)},
-         {QStringLiteral("Neue Züge aus letztem Spiel:"),
+        texte_,
+        {{QT_TR_NOOP("Spiele im Lernmodus:"), wert(QStringLiteral("gelernte"), s.imLernmodus(), lernen)},
+         {QT_TR_NOOP("Bewertete Züge:"), wert(QStringLiteral("Zuge"), s.gelernt(), lernen)},
+         {QT_TR_NOOP("Neue Züge aus letztem Spiel:"),
           wert(QStringLiteral("Zugaenge"), s.gelerntLetztes(), lernen)}}));
     haupt->addWidget(lernen);
 
     // Columns: 0 row heads, 1 rule, 2..4 computer, 5 rule, 6..8 user.
     // Rows: 0 side heads, 1 rule, 2 strengths, 3 rule, 4 hens, 5 foxes, 6 rule, 7 totals.
-    auto* siege = new QGroupBox(QStringLiteral("Siege"), this);
+    auto* siege = new QGroupBox(this);
+    texte_.titel(siege, QT_TR_NOOP("Siege"));
     auto* t = new QGridLayout(siege);
     t->setHorizontalSpacing(8);
     t->setVerticalSpacing(2);
@@ -86,17 +93,23 @@ StatForm::StatForm(std::filesystem::path ordner, QWidget* parent) : QDialog(pare
         auto* l = new QLabel(text, siege);
         l->setAlignment(Qt::AlignCenter);
         t->addWidget(l, r, c, 1, spalten);
+        return l;
     };
-    kopf(QStringLiteral("Computer"), 0, 2, 3);
-    kopf(QStringLiteral("User"), 0, 6, 3);
-    t->addWidget(new QLabel(QStringLiteral("Stärke"), siege), 2, 0);
+    texte_.text(kopf(QString(), 0, 2, 3), QT_TR_NOOP("Computer"));
+    texte_.text(kopf(QString(), 0, 6, 3), QT_TR_NOOP("User"));
     for (int k = 0; k < 3; ++k) {
         kopf(QString::number(k + 1), 2, 2 + k);
         kopf(QString::number(k + 1), 2, 6 + k);
     }
-    t->addWidget(new QLabel(QStringLiteral("Hennen"), siege), 4, 0);
-    t->addWidget(new QLabel(QStringLiteral("Fuchs"), siege), 5, 0);
-    t->addWidget(new QLabel(QStringLiteral("Gesamt"), siege), 7, 0);
+    auto zeilenkopf = [&](const char* text, int r) {
+        auto* l = new QLabel(siege);
+        texte_.text(l, text);
+        t->addWidget(l, r, 0);
+    };
+    zeilenkopf(QT_TR_NOOP("Stärke"), 2);
+    zeilenkopf(QT_TR_NOOP("Hennen"), 4);
+    zeilenkopf(QT_TR_NOOP("Fuchs"), 5);
+    zeilenkopf(QT_TR_NOOP("Gesamt"), 7);
     auto zelle = [&](int nr, int zahl) {
         return wert(QStringLiteral("wert%1").arg(nr), zahl, siege, Qt::AlignHCenter);
     };
@@ -122,6 +135,11 @@ StatForm::StatForm(std::filesystem::path ordner, QWidget* parent) : QDialog(pare
 
     haupt->setSizeConstraint(QLayout::SetFixedSize);
     connect(ok, &QPushButton::clicked, this, &QDialog::close);
+}
+
+void StatForm::changeEvent(QEvent* e) {
+    if (e->type() == QEvent::LanguageChange) texte_.erneuern();
+    QDialog::changeEvent(e);
 }
 
 } // namespace fuh

@@ -98,8 +98,8 @@ class FensterTest : public QObject {
             spiel.einst = e;
             d = new EinstDialog(
                 spiel.einst, mitMeister, ordner,
-                [this](Statusfeld feld, const QString& t) {
-                    status.append({static_cast<int>(feld), t});
+                [this](Statusfeld feld, const std::string& t) {
+                    status.append({static_cast<int>(feld), QString::fromStdString(t)});
                 },
                 [this](const Einstellungen& neu, bool m) {
                     ++uebernommen;

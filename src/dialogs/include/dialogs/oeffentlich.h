@@ -8,6 +8,7 @@
 #include <string>
 
 #include "board/regeln.h"
+#include "board/text.h"
 
 namespace fuh {
 
@@ -21,10 +22,14 @@ struct Einstellungen {
     Computer computer() const { return static_cast<Computer>(PC); }
 };
 
+// Whether the player won, as the high-score lists store it (German in every language).
+inline constexpr const char* kSiegJa = FUH_TR_NOOP("Kern", "Ja");
+inline constexpr const char* kSiegNein = FUH_TR_NOOP("Kern", "Nein");
+
 struct Oeffentlich {
     Einstellungen einst;
     int16_t score = 0;                // points of the human side
-    std::string u_is_sieger = "    "; // "Ja", "Nein" or four blanks
+    std::string u_is_sieger = "    "; // kSiegJa, kSiegNein or four blanks
     bool fuchs_null = false;          // the penalty rule would have parked the last fox
     bool sw_spielende = false;        // a finished game may still be entered in a high-score list
 };

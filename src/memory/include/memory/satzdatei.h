@@ -14,6 +14,8 @@
 #include <string>
 #include <vector>
 
+#include "board/text.h"
+
 #include "memory/dateizugriff.h"
 
 namespace fuh {
@@ -45,7 +47,9 @@ void setzeLe16(Bytes& b, std::size_t pos, int16_t wert);
 // Writes raw bytes at `pos`, growing `b` with zeros when needed.
 void setzeBytes(Bytes& b, std::size_t pos, const uint8_t* daten, std::size_t n);
 
-// The message shown when a file cannot be written.
+// The message shown when a file cannot be written; %1 is the file's name.
+inline constexpr const char* kSchreibfehler = FUH_TR_NOOP(
+    "Kern", "Die Datei „%1“ konnte nicht gespeichert werden. Das Spiel geht ohne diese Daten weiter.");
 std::string schreibfehler(const std::string& name);
 
 } // namespace fuh

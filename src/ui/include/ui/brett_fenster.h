@@ -19,9 +19,12 @@
 #include "board/zufall.h"
 #include "dialogs/bestenliste.h"
 #include "game/ansicht.h"
+#include "ui/beschriftung.h"
+#include "ui/sprache.h"
 #include "ui/wiedergabe.h"
 
 class QAction;
+class QActionGroup;
 class QApplication;
 class QLabel;
 class QMenu;
@@ -48,8 +51,8 @@ class BrettFenster : public QMainWindow, public Ansicht {
     BrettFenster(std::filesystem::path ordner, uint32_t startzeit, QWidget* parent = nullptr);
     ~BrettFenster() override;
 
-    // Application names, Qt's German texts for standard buttons, German dates where the system sets no
-    // locale; call once before any window.
+    // Application names and the player's language (German unless English was chosen), also for Qt's
+    // standard buttons and the dates; call once before any window.
     static void anwendungEinrichten(QApplication& app);
 
     Spiel& spiel() { return *spiel_; }
@@ -87,6 +90,9 @@ class BrettFenster : public QMainWindow, public Ansicht {
   public slots:
     void Timer1_Timer();
 
+  protected:
+    void changeEvent(QEvent* e) override;
+
   private:
     void meisterAnwenden();
     // Commands and their pacing.
@@ -102,6 +108,11 @@ class BrettFenster : public QMainWindow, public Ansicht {
     void menueAnlegen();
     void tempoMenue(QMenu* menue);
     void statusleisteAnlegen();
+    // The player's language (brett_sprache.cpp).
+    void spracheMenue(QMenu* menue);
+    void texteSetzen();
+    void panelSetzen(Statusfeld feld, const QString& deutsch);
+    void zugbegrenzungZeigen();
     void einstellungenZeigen();
     void statistikZeigen();
     // From the menu: brings forward a list whose new row waits for a name, else shows a fresh one.
@@ -115,6 +126,8 @@ class BrettFenster : public QMainWindow, public Ansicht {
     std::unique_ptr<Spiel> spiel_;
     BrettFlaeche* brett_ = nullptr;
     std::array<QLabel*, 3> panels_{};
+    std::array<QString, 3> panelTexte_{}; // as the game wrote them, in German
+    Beschriftung texte_{staticMetaObject};
     QTimer timer1_;
     Wiedergabe wiedergabe_;
     QTimer naechsterZug_; // the rest between two moves of a game the computer plays itself
@@ -124,6 +137,7 @@ class BrettFenster : public QMainWindow, public Ansicht {
     std::optional<bool> wartenderMeister_;
     std::vector<QAction*> wartendeBefehle_; // disabled while busy
     std::array<QAction*, 3> tempoAktionen_{};
+    QActionGroup* sprachen_ = nullptr; // Deutsch and English in Spiel -> Sprache
     QAction* tippAktion_ = nullptr;
     QTimer tippUhr_; // how long a hint stays on the board
     bool meister_ = false;

@@ -70,6 +70,7 @@ class BrettFlaeche : public QWidget {
     void figurVersetzt(int k, int left, int top); // the image of piece k now stands there (twips)
 
   protected:
+    void changeEvent(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
@@ -78,6 +79,8 @@ class BrettFlaeche : public QWidget {
 
   private:
     QRect figurRechteck(int k) const;
+    // The prompts (brett_hinweise.cpp).
+    void hinweiseAnlegen();
     void hinweiseAnordnen();
     void zeigerSetzen(QPoint p);
 

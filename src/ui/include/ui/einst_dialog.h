@@ -7,6 +7,7 @@
 #include <QDialog>
 #include <filesystem>
 #include <functional>
+#include <string>
 
 #include "game/ansicht.h"
 
@@ -14,6 +15,8 @@
 
 class QCheckBox;
 class QComboBox;
+class QLabel;
+class QPushButton;
 
 namespace fuh {
 
@@ -21,20 +24,31 @@ class EinstDialog : public QDialog {
     Q_OBJECT
   public:
     // Opens showing `einst` (and the Meister as the fourth strength when `meister` is set and the file
-    // says strength 3). `statusSetzen` writes a status bar panel; `uebernehmen` lets the game take the new
+    // says strength 3). `statusSetzen` writes a status bar panel (the game's German text); `uebernehmen`
+    // lets the game take the new
     // settings and the Meister choice. QZ.INI stores the Meister as strength 3.
     EinstDialog(const Einstellungen& einst, bool meister, std::filesystem::path ordner,
-                std::function<void(Statusfeld feld, const QString& text)> statusSetzen,
+                std::function<void(Statusfeld feld, const std::string& text)> statusSetzen,
                 std::function<void(const Einstellungen&, bool meister)> uebernehmen,
                 QWidget* parent = nullptr);
 
+  protected:
+    void changeEvent(QEvent* e) override;
+
   private:
+    // The texts in the player's language, and the layout they need.
+    void texteSetzen();
+    void anordnen();
     void ausgleich();
     void ok_Click();
 
     std::filesystem::path ordner_;
-    std::function<void(Statusfeld, const QString&)> statusSetzen_;
+    std::function<void(Statusfeld, const std::string&)> statusSetzen_;
     std::function<void(const Einstellungen&, bool)> uebernehmen_;
+    QLabel* pcText_;
+    QLabel* staerkeText_;
+    QPushButton* ok_;
+    QPushButton* abbruch_;
     QComboBox* pc_spielt_;
     QComboBox* Staerke_;
     QCheckBox* Lernen_;

@@ -8,6 +8,7 @@
 #include <filesystem>
 
 #include "dialogs/bestenliste.h"
+#include "ui/beschriftung.h"
 
 namespace fuh {
 
@@ -19,10 +20,16 @@ class HighscoreFenster : public QDialog {
 
     const Bestenliste& liste() const { return liste_; }
 
+  protected:
+    void changeEvent(QEvent* e) override;
+
   private:
     void ok_Click();
+    // The dates and win flags of the rows, in the player's language.
+    void zeilenSetzen();
 
     Bestenliste liste_;
+    Beschriftung texte_{staticMetaObject};
     std::filesystem::path ordner_;
 };
 

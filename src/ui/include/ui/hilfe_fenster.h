@@ -3,8 +3,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #pragma once
-// The help window: the guide from the program's resources in a browser with back and home.
+// The help window: the guide from the program's resources, in the player's language, in a browser with
+// back and home.
 #include <QWidget>
+
+#include "ui/beschriftung.h"
 
 class QTextBrowser;
 
@@ -19,8 +22,12 @@ class HilfeFenster : public QWidget {
     // Back to the guide's first topic, at the top even when the page was already shown.
     void zumAnfang();
 
+  protected:
+    void changeEvent(QEvent* e) override;
+
   private:
     QTextBrowser* browser_;
+    Beschriftung texte_{staticMetaObject};
 };
 
 } // namespace fuh

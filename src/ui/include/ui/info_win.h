@@ -6,12 +6,20 @@
 // The about box: title, credits, contact address and four pictures; Ok closes it.
 #include <QDialog>
 
+#include "ui/beschriftung.h"
+
 namespace fuh {
 
 class InfoWin : public QDialog {
     Q_OBJECT
   public:
     explicit InfoWin(QWidget* parent = nullptr);
+
+  protected:
+    void changeEvent(QEvent* e) override;
+
+  private:
+    Beschriftung texte_{staticMetaObject};
 };
 
 } // namespace fuh

@@ -5,6 +5,8 @@
 #pragma once
 // The statistics window: counters of "QZ.sta" as read when the window opens.
 #include <QDialog>
+
+#include "ui/beschriftung.h"
 #include <filesystem>
 
 namespace fuh {
@@ -13,6 +15,12 @@ class StatForm : public QDialog {
     Q_OBJECT
   public:
     explicit StatForm(std::filesystem::path ordner, QWidget* parent = nullptr);
+
+  protected:
+    void changeEvent(QEvent* e) override;
+
+  private:
+    Beschriftung texte_{staticMetaObject};
 };
 
 } // namespace fuh

@@ -1,0 +1,75 @@
+// SPDX-FileCopyrightText: 2026 The Fuchs und Hennen authors
+//
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "ui/beschriftung.h"
+
+#include <QAbstractButton>
+#include <QAction>
+#include <QComboBox>
+#include <QCoreApplication>
+#include <QGroupBox>
+#include <QLabel>
+#include <QMetaObject>
+#include <QPointer>
+#include <utility>
+
+namespace fuh {
+
+Beschriftung::Beschriftung(const QMetaObject& fenster) : kontext_(fenster.className()) {}
+
+QString Beschriftung::uebersetzt(const char* quelle) const {
+    return QCoreApplication::translate(kontext_, quelle);
+}
+
+void Beschriftung::merken(std::function<void()> setzen) {
+    setzen();
+    setzer_.push_back(std::move(setzen));
+}
+
+void Beschriftung::text(QLabel* l, const char* quelle) {
+    merken([this, z = QPointer(l), quelle] {
+        if (z) z->setText(uebersetzt(quelle));
+    });
+}
+
+void Beschriftung::text(QAbstractButton* b, const char* quelle) {
+    merken([this, z = QPointer(b), quelle] {
+        if (z) z->setText(uebersetzt(quelle));
+    });
+}
+
+void Beschriftung::text(QAction* a, const char* quelle) {
+    merken([this, z = QPointer(a), quelle] {
+        if (z) z->setText(uebersetzt(quelle));
+    });
+}
+
+void Beschriftung::titel(QGroupBox* g, const char* quelle) {
+    merken([this, z = QPointer(g), quelle] {
+        if (z) z->setTitle(uebersetzt(quelle));
+    });
+}
+
+void Beschriftung::titel(QWidget* fenster, const char* quelle) {
+    merken([this, z = QPointer(fenster), quelle] {
+        if (z) z->setWindowTitle(uebersetzt(quelle));
+    });
+}
+
+void Beschriftung::eintraege(QComboBox* c, std::initializer_list<const char*> quellen) {
+    const std::vector<const char*> liste(quellen);
+    while (c->count() < static_cast<int>(liste.size()))
+        c->addItem(QString());
+    merken([this, z = QPointer(c), liste] {
+        for (std::size_t i = 0; z && i < liste.size(); ++i)
+            z->setItemText(static_cast<int>(i), uebersetzt(liste[i]));
+    });
+}
+
+void Beschriftung::erneuern() const {
+    for (const auto& setzen : setzer_)
+        setzen();
+}
+
+} // namespace fuh

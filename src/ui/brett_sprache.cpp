@@ -1,0 +1,81 @@
+// SPDX-FileCopyrightText: 2026 The Fuchs und Hennen authors
+//
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// The application's names and language, and the main window in that language: its menu, the status
+// bar and the choice of language.
+#include <QAction>
+#include <QActionGroup>
+#include <QApplication>
+#include <QEvent>
+#include <QIcon>
+#include <QLabel>
+#include <QMenu>
+#include <QStatusBar>
+
+#include "ui/brett_fenster.h"
+#include "ui/titel.h"
+
+namespace fuh {
+
+namespace {
+const char* const kZugbegrenzung = QT_TRANSLATE_NOOP("fuh::BrettFenster", "Remis: Zugbegrenzung erreicht");
+}
+
+void BrettFenster::anwendungEinrichten(QApplication& /*app*/) {
+    QApplication::setApplicationName(QString::fromUtf8(kTitel));
+    QApplication::setApplicationDisplayName(QString::fromUtf8(kTitel));
+    QGuiApplication::setDesktopFileName(QStringLiteral("org.example.FuchsUndHennen"));
+    QApplication::setWindowIcon(QIcon(QStringLiteral(":/bilder/app.svg")));
+    spracheSetzen(gespeicherteSprache(), false);
+}
+
+void BrettFenster::spracheMenue(QMenu* menue) {
+    QMenu* sprache = menue->addMenu(QString());
+    texte_.text(sprache->menuAction(), QT_TR_NOOP("S&prache"));
+    sprache->setObjectName(QStringLiteral("sprache"));
+    sprachen_ = new QActionGroup(sprache);
+    // Each language is named in itself, so that a player who cannot read the other one finds it.
+    const std::array<std::pair<Sprache, const char*>, 2> sprachen = {
+        {{Sprache::deutsch, "deutsch"}, {Sprache::englisch, "englisch"}}};
+    const std::array<const char*, 2> namen = {QT_TR_NOOP("&Deutsch"), QT_TR_NOOP("&English")};
+    for (size_t i = 0; i < sprachen.size(); ++i) {
+        const auto [s, name] = sprachen[i];
+        QAction* a = sprache->addAction(QString());
+        texte_.text(a, namen[i]);
+        a->setObjectName(QStringLiteral("sprache_") + QString::fromLatin1(name));
+        a->setCheckable(true);
+        a->setChecked(s == aktuelleSprache());
+        a->setData(static_cast<int>(s));
+        sprachen_->addAction(a);
+        connect(a, &QAction::triggered, this, [s] { spracheSetzen(s); });
+    }
+}
+
+void BrettFenster::changeEvent(QEvent* e) {
+    if (e->type() == QEvent::LanguageChange) texteSetzen();
+    QMainWindow::changeEvent(e);
+}
+
+void BrettFenster::texteSetzen() {
+    texte_.erneuern();
+    // The language may also have been chosen elsewhere, e.g. in another main window.
+    for (QAction* a : sprachen_->actions())
+        a->setChecked(a->data().toInt() == static_cast<int>(aktuelleSprache()));
+    for (size_t i = 0; i < panels_.size(); ++i)
+        panels_[i]->setText(kernText(panelTexte_[i]));
+    // The only message the status bar shows.
+    if (!statusBar()->currentMessage().isEmpty()) zugbegrenzungZeigen();
+}
+
+void BrettFenster::panelSetzen(Statusfeld feld, const QString& deutsch) {
+    const auto i = static_cast<size_t>(feld) - 1;
+    panelTexte_.at(i) = deutsch;
+    panels_.at(i)->setText(kernText(deutsch));
+}
+
+void BrettFenster::zugbegrenzungZeigen() {
+    statusBar()->showMessage(tr(kZugbegrenzung));
+}
+
+} // namespace fuh

@@ -1,0 +1,26 @@
+// SPDX-FileCopyrightText: 2026 The Fuchs und Hennen authors
+//
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+// The language of the windows. The game is German; English is the one translation. The player's choice
+// is kept in the window settings, so every start is German until the player picks English.
+#include <QString>
+
+namespace fuh {
+
+enum class Sprache { deutsch, englisch };
+
+// The language chosen in the window settings (German when none is).
+Sprache gespeicherteSprache();
+// The language the windows speak now.
+Sprache aktuelleSprache();
+// Speaks `s` from now on: the game's and Qt's translations, the locale for dates; every open window
+// follows with its next event loop turn. `merken` also keeps the choice for the next start.
+void spracheSetzen(Sprache s, bool merken = true);
+
+// A text of the game's core, which always produces German, in the language spoken now. Texts built
+// from a template are recognised and translated with their inserted values.
+QString kernText(const QString& deutsch);
+
+} // namespace fuh

@@ -1,0 +1,196 @@
+// SPDX-FileCopyrightText: 2026 The Fuchs und Hennen authors
+//
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// The windows in German and English: the first start, switching while windows are open, and the core's
+// German texts shown translated.
+#include <QComboBox>
+#include <QDialogButtonBox>
+#include <QLocale>
+#include <QMenu>
+#include <QPushButton>
+#include <QTextBrowser>
+#include <QtTest>
+#include <fstream>
+
+#include "fenster_aufbau.h"
+#include "game/texte.h"
+#include "testdateien.h"
+#include "ui/einst_dialog.h"
+#include "ui/highscore_fenster.h"
+#include "ui/hilfe_fenster.h"
+#include "ui/sprache.h"
+#include "ui/stat_form.h"
+
+using namespace fuh;
+using test::Aufbau;
+
+namespace {
+
+// Qt's own text for a standard button, which Qt's translation gives in the chosen language.
+QString abbrechenKnopf() {
+    QDialogButtonBox knoepfe(QDialogButtonBox::Cancel);
+    return knoepfe.button(QDialogButtonBox::Cancel)->text();
+}
+
+QString menue(Aufbau& a, const char* name) {
+    return a.fenster->findChild<QMenu*>(QString::fromLatin1(name))->title();
+}
+
+QString befehl(Aufbau& a, const char* name) {
+    return a.fenster->findChild<QAction*>(QString::fromLatin1(name))->text();
+}
+
+template <class W> QString kindText(W* w, const char* name) {
+    if (auto* l = w->template findChild<QLabel*>(QString::fromLatin1(name))) return l->text();
+    return w->template findChild<QAbstractButton*>(QString::fromLatin1(name))->text();
+}
+
+// Switches through the menu as a player does; the windows follow when the change is delivered.
+void waehle(Aufbau& a, const char* sprache) {
+    a.aktion(sprache);
+    QCoreApplication::processEvents();
+}
+
+} // namespace
+
+class SpracheTest : public QObject {
+    Q_OBJECT
+  private slots:
+    void ersterStartDeutschAuchAufEnglischemSystem() {
+        QCOMPARE(QLocale::system().language(), QLocale::English); // set in main, as on such a system
+        Aufbau a;
+        QCOMPARE(aktuelleSprache(), Sprache::deutsch);
+        QCOMPARE(QLocale().language(), QLocale::German);
+        QCOMPARE(menue(a, "spiel"), QStringLiteral("&Spiel"));
+        QCOMPARE(a.panel(1), QStringLiteral("PC spielt Fuchs"));
+        QCOMPARE(abbrechenKnopf(), QStringLiteral("Abbrechen"));
+        QVERIFY(a.fenster->findChild<QAction*>(QStringLiteral("sprache_deutsch"))->isChecked());
+    }
+
+    void umschaltenUndZurueckMitOffenenFenstern() {
+        Aufbau a;
+        const std::vector<uint8_t> zeile = test::hsSatz(44000, 100, "Hugo", "Ja");
+        std::ofstream(a.pfad() / "QZF.sco", std::ios::binary)
+            .write(reinterpret_cast<const char*>(zeile.data()), static_cast<std::streamsize>(zeile.size()));
+        a.aktion("Neu");
+        a.ziehe(24, 17);
+        QCOMPARE(a.panel(3), QStringLiteral("Punkte: 237"));
+        // Opened after the move: lying over the board, they would take the drag.
+        a.aktion("Einstellungen");
+        a.aktion("Stt");
+        a.aktion("highfu");
+        a.aktion("help");
+        auto* einst = a.fenster->findChild<EinstDialog*>();
+        auto* stat = a.fenster->findChild<StatForm*>();
+        auto* liste = a.fenster->findChild<HighscoreFenster*>();
+        auto* hilfe = a.fenster->findChild<HilfeFenster*>();
+        const int breiteDeutsch = einst->width();
+
+        waehle(a, "sprache_englisch");
+        QCOMPARE(aktuelleSprache(), Sprache::englisch);
+        QCOMPARE(gespeicherteSprache(), Sprache::englisch);
+        QCOMPARE(menue(a, "spiel"), QStringLiteral("&Game"));
+        QCOMPARE(menue(a, "tempo"), QStringLiteral("&Pace"));
+        QCOMPARE(befehl(a, "Neu"), QStringLiteral("&New"));
+        QCOMPARE(befehl(a, "Einstellungen"), QStringLiteral("&Settings"));
+        // What the game wrote into the status bar and the board's prompts.
+        QCOMPARE(a.panel(1), QStringLiteral("PC plays fox"));
+        QCOMPARE(a.panel(2), QStringLiteral("Strength 1"));
+        QCOMPARE(a.panel(3), QStringLiteral("Points: 237"));
+        QCOMPARE(a.brett()->findChild<QLabel*>(QStringLiteral("f_zug"))->text(),
+                 QStringLiteral("The foxes are to move."));
+        // Every open window follows; the settings grow where English needs more room.
+        QCOMPARE(einst->windowTitle(), QStringLiteral("Settings"));
+        QCOMPARE(kindText(einst, "ok"), QStringLiteral("Apply"));
+        QCOMPARE(einst->findChild<QComboBox*>(QStringLiteral("Staerke"))->itemText(3),
+                 QStringLiteral("4 Master"));
+        QVERIFY(einst->width() >= breiteDeutsch);
+        QCOMPARE(stat->windowTitle(), QStringLiteral("Statistics"));
+        QCOMPARE(liste->windowTitle(), QStringLiteral("High scores fox"));
+        QCOMPARE(kindText(liste, "sieg0"), QStringLiteral("Yes")); // the file keeps "Ja"
+        QCOMPARE(hilfe->browser()->source().fileName(), QStringLiteral("ratgeber_en.html"));
+        QCOMPARE(abbrechenKnopf(), QStringLiteral("Cancel"));
+        QCOMPARE(QLocale().language(), QLocale::English);
+
+        // A message of the game, and the fox's reply with its prompt, in English.
+        test::Antworter antworter;
+        a.fenster->meldung(kHennenGewinnen);
+        a.fenster->Timer1_Timer();
+        QTRY_COMPARE(antworter.texte.size(), std::size_t{1});
+        QCOMPARE(antworter.texte[0], QStringLiteral("The hens have won!"));
+
+        // A window opened now is English from the start.
+        a.aktion("Stt");
+        QCOMPARE(a.fenster->findChild<StatForm*>()->windowTitle(), QStringLiteral("Statistics"));
+
+        waehle(a, "sprache_deutsch");
+        QCOMPARE(aktuelleSprache(), Sprache::deutsch);
+        QCOMPARE(gespeicherteSprache(), Sprache::deutsch);
+        QCOMPARE(menue(a, "spiel"), QStringLiteral("&Spiel"));
+        QCOMPARE(a.panel(1), QStringLiteral("PC spielt Fuchs"));
+        QCOMPARE(einst->windowTitle(), QStringLiteral("Einstellungen"));
+        QCOMPARE(einst->width(), breiteDeutsch);
+        QCOMPARE(kindText(liste, "sieg0"), QStringLiteral("Ja"));
+        QCOMPARE(hilfe->browser()->source().fileName(), QStringLiteral("ratgeber.html"));
+        QCOMPARE(abbrechenKnopf(), QStringLiteral("Abbrechen"));
+
+        // Chosen elsewhere, e.g. in another main window: the menu shows it.
+        spracheSetzen(Sprache::englisch, false);
+        QCoreApplication::processEvents();
+        QVERIFY(a.fenster->findChild<QAction*>(QStringLiteral("sprache_englisch"))->isChecked());
+        spracheSetzen(Sprache::deutsch, false);
+    }
+
+    void kernTexteMitEingesetztenWerten_data() {
+        QTest::addColumn<QString>("deutsch");
+        QTest::addColumn<QString>("englisch");
+        const auto zeile = [](const char* d, const char* e) {
+            QTest::newRow(d) << QString::fromUtf8(d) << QString::fromUtf8(e);
+        };
+        zeile("Die Datei „QZ.sta“ konnte nicht gespeichert werden. Das Spiel geht ohne diese Daten weiter.",
+              "The file “QZ.sta” could not be saved. The game goes on without this data.");
+        zeile(
+            "Die Dateien „QZ.sta“ und „QZ3.DAT“ konnten nicht gespeichert werden. Das Spiel geht ohne diese "
+            "Daten weiter.",
+            "The files “QZ.sta” and “QZ3.DAT” could not be saved. The game goes on without this data.");
+        zeile(
+            "Die Dateien „QZ.sta“, „QZ2.DAT“ und „QZF.sco“ konnten nicht gespeichert werden. Das Spiel geht "
+            "ohne diese Daten weiter.",
+            "The files “QZ.sta”, “QZ2.DAT” and “QZF.sco” could not be saved. The game goes on without this "
+            "data.");
+        zeile("Punkte: ", "Points: ");
+        zeile("Punkte: -12", "Points: -12");
+        zeile("Spielstärke 2", "Strength 2");
+        zeile("SPielstärke 3", "Strength 3");
+        // A fixed text is never taken apart at a word that a template joins with.
+        zeile("PC spielt Fuchs und Hennen", "PC plays fox and hens");
+        zeile("Der ausgeschlossene Fuchs wird wieder eingesetzt",
+              "The excluded fox is put back on the board");
+        zeile("QZH.sco", "QZH.sco");
+    }
+
+    void kernTexteMitEingesetztenWerten() {
+        QFETCH(QString, deutsch);
+        QFETCH(QString, englisch);
+        spracheSetzen(Sprache::englisch, false);
+        QCOMPARE(kernText(deutsch), englisch);
+        spracheSetzen(Sprache::deutsch, false);
+        QCOMPARE(kernText(deutsch), deutsch);
+    }
+};
+
+int main(int argc, char** argv) {
+    // The system speaks English; the game must not follow it.
+    qputenv("LC_ALL", "en_US.UTF-8");
+    qputenv("LANG", "en_US.UTF-8");
+    qunsetenv("LANGUAGE");
+    QTemporaryDir einstellungen;
+    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, einstellungen.path());
+    QApplication app(argc, argv);
+    BrettFenster::anwendungEinrichten(app);
+    SpracheTest test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "sprache_test.moc"

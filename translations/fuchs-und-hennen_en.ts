@@ -1,0 +1,407 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="en" sourcelanguage="de">
+<context>
+    <name>Kern</name>
+    <message>
+        <source>Ja</source>
+        <translation>Yes</translation>
+    </message>
+    <message>
+        <source>Nein</source>
+        <translation>No</translation>
+    </message>
+    <message>
+        <source>Spielstärke %1</source>
+        <translation>Strength %1</translation>
+    </message>
+    <message>
+        <source>Meister</source>
+        <translation>Master</translation>
+    </message>
+    <message>
+        <source>PC spielt Fuchs</source>
+        <translation>PC plays fox</translation>
+    </message>
+    <message>
+        <source>PC spielt Hennen</source>
+        <translation>PC plays hens</translation>
+    </message>
+    <message>
+        <source>PC spielt Fuchs und Hennen</source>
+        <translation>PC plays fox and hens</translation>
+    </message>
+    <message>
+        <source>SPielstärke 3</source>
+        <translation>Strength 3</translation>
+    </message>
+    <message>
+        <source>Die Hennen haben gewonnen!</source>
+        <translation>The hens have won!</translation>
+    </message>
+    <message>
+        <source>Der Fuchs hat gewonnen!</source>
+        <translation>The fox has won!</translation>
+    </message>
+    <message>
+        <source>Der Fuchs hat gewonnen</source>
+        <translation>The fox has won</translation>
+    </message>
+    <message>
+        <source>Remis: Die Hennen können ihr Ziel nicht erreichen.</source>
+        <translation>Draw: the hens cannot reach their goal.</translation>
+    </message>
+    <message>
+        <source>Punkte: %1</source>
+        <translation>Points: %1</translation>
+    </message>
+    <message>
+        <source>Die Dateien %1 konnten nicht gespeichert werden. Das Spiel geht ohne diese Daten weiter.</source>
+        <translation>The files %1 could not be saved. The game goes on without this data.</translation>
+    </message>
+    <message>
+        <source>„%1“</source>
+        <translation>“%1”</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>%1 und %2</source>
+        <translation>%1 and %2</translation>
+    </message>
+    <message>
+        <source>Die Datei „%1“ konnte nicht gespeichert werden. Das Spiel geht ohne diese Daten weiter.</source>
+        <translation>The file “%1” could not be saved. The game goes on without this data.</translation>
+    </message>
+    <message>
+        <source>Der Fuchs hätte springen können. Bis zum nächsten Sprung wird er vom Feld genommen.</source>
+        <translation>The fox could have jumped. It is taken off the board until the next jump.</translation>
+    </message>
+    <message>
+        <source>Der ausgeschlossene Fuchs wird wieder eingesetzt</source>
+        <translation>The excluded fox is put back on the board</translation>
+    </message>
+</context>
+<context>
+    <name>fuh::BrettFenster</name>
+    <message>
+        <source>&amp;Spiel</source>
+        <translation>&amp;Game</translation>
+    </message>
+    <message>
+        <source>&amp;Start</source>
+        <translation>&amp;Start</translation>
+    </message>
+    <message>
+        <source>&amp;Neu</source>
+        <translation>&amp;New</translation>
+    </message>
+    <message>
+        <source>&amp;Tipp</source>
+        <translation>&amp;Hint</translation>
+    </message>
+    <message>
+        <source>&amp;Beenden</source>
+        <translation>&amp;Quit</translation>
+    </message>
+    <message>
+        <source>&amp;Einstellungen</source>
+        <translation>&amp;Settings</translation>
+    </message>
+    <message>
+        <source>E&amp;rgebnisse</source>
+        <translation>&amp;Results</translation>
+    </message>
+    <message>
+        <source>&amp;Statistik</source>
+        <translation>&amp;Statistics</translation>
+    </message>
+    <message>
+        <source>Highscore &amp;Fuchs</source>
+        <translation>High scores &amp;fox</translation>
+    </message>
+    <message>
+        <source>Highscore &amp;Hennen</source>
+        <translation>High scores &amp;hens</translation>
+    </message>
+    <message>
+        <source>&amp;Hilfe</source>
+        <translation>&amp;Help</translation>
+    </message>
+    <message>
+        <source>&amp;Info</source>
+        <translation>&amp;About</translation>
+    </message>
+    <message>
+        <source>&amp;Tempo</source>
+        <translation>&amp;Pace</translation>
+    </message>
+    <message>
+        <source>&amp;schnell</source>
+        <translation>&amp;fast</translation>
+    </message>
+    <message>
+        <source>&amp;normal</source>
+        <translation>&amp;normal</translation>
+    </message>
+    <message>
+        <source>&amp;langsam</source>
+        <translation>&amp;slow</translation>
+    </message>
+    <message>
+        <source>Remis: Zugbegrenzung erreicht</source>
+        <translation>Draw: move limit reached</translation>
+    </message>
+    <message>
+        <source>S&amp;prache</source>
+        <translation>&amp;Language</translation>
+    </message>
+    <message>
+        <source>&amp;Deutsch</source>
+        <translation>&amp;Deutsch</translation>
+    </message>
+    <message>
+        <source>&amp;English</source>
+        <translation>&amp;English</translation>
+    </message>
+</context>
+<context>
+    <name>fuh::BrettFlaeche</name>
+    <message>
+        <source>Die Füchse sind am Zug.</source>
+        <translation>The foxes are to move.</translation>
+    </message>
+    <message>
+        <source>Die Hennen sind am Zug.</source>
+        <translation>The hens are to move.</translation>
+    </message>
+    <message>
+        <source>Lernmodus: Daten werden gespeichert !</source>
+        <translation>Learning mode: saving data!</translation>
+    </message>
+    <message>
+        <source>Sprung mit rechter Maustaste abschließen !</source>
+        <translation>End the jump with the right mouse button!</translation>
+    </message>
+</context>
+<context>
+    <name>fuh::EinstDialog</name>
+    <message>
+        <source>Einstellungen</source>
+        <translation>Settings</translation>
+    </message>
+    <message>
+        <source>Spielstärke:</source>
+        <translation>Strength:</translation>
+    </message>
+    <message>
+        <source>Übernehmen</source>
+        <translation>Apply</translation>
+    </message>
+    <message>
+        <source>Abbrechen</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>Fuchs</source>
+        <translation>Fox</translation>
+    </message>
+    <message>
+        <source>Hennen</source>
+        <translation>Hens</translation>
+    </message>
+    <message>
+        <source>Fuchs und Hennen</source>
+        <translation>Fox and hens</translation>
+    </message>
+    <message>
+        <source>1 leicht</source>
+        <translation>1 easy</translation>
+    </message>
+    <message>
+        <source>2 mittel</source>
+        <translation>2 medium</translation>
+    </message>
+    <message>
+        <source>3 stark</source>
+        <translation>3 strong</translation>
+    </message>
+    <message>
+        <source>4 Meister</source>
+        <translation>4 Master</translation>
+    </message>
+    <message>
+        <source>Lernmodus (ab Spielstärke 2)</source>
+        <translation>Learning mode (from strength 2)</translation>
+    </message>
+    <message>
+        <source>Einzelzugmodus</source>
+        <translation>Single-move mode</translation>
+    </message>
+    <message>
+        <source>Computer spielt:</source>
+        <translation>Computer plays:</translation>
+    </message>
+    <message>
+        <source>Die Einstellungen konnten nicht in „%1“ gespeichert werden. Sie gelten nur für das laufende Spiel.</source>
+        <translation>The settings could not be saved in “%1”. They apply to the current game only.</translation>
+    </message>
+</context>
+<context>
+    <name>fuh::HighscoreFenster</name>
+    <message>
+        <source>Highscores Fuchs</source>
+        <translation>High scores fox</translation>
+    </message>
+    <message>
+        <source>Highscore Hennen</source>
+        <translation>High scores hens</translation>
+    </message>
+    <message>
+        <source>Datum</source>
+        <translation>Date</translation>
+    </message>
+    <message>
+        <source>Punkte</source>
+        <translation>Points</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Sieg</source>
+        <translation>Won</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Abbruch</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>Die Highscore-Liste „%1“ konnte nicht gespeichert werden.</source>
+        <translation>The high-score list “%1” could not be saved.</translation>
+    </message>
+</context>
+<context>
+    <name>fuh::HilfeFenster</name>
+    <message>
+        <source>Hilfe</source>
+        <translation>Help</translation>
+    </message>
+    <message>
+        <source>Zurück</source>
+        <translation>Back</translation>
+    </message>
+    <message>
+        <source>Inhalt</source>
+        <translation>Contents</translation>
+    </message>
+    <message>
+        <source>Schließen</source>
+        <translation>Close</translation>
+    </message>
+</context>
+<context>
+    <name>fuh::InfoWin</name>
+    <message>
+        <source>Info</source>
+        <translation>About</translation>
+    </message>
+    <message>
+        <source>Fuchs und Hennen 2026</source>
+        <translation>Fuchs und Hennen 2026</translation>
+    </message>
+    <message>
+        <source>© 2026 Das Fuchs-und-Hennen-Team</source>
+        <translation>© 2026 The Fuchs und Hennen team</translation>
+    </message>
+    <message>
+        <source>Dank an Anna Gärtner und Paul Hofmann für ihre Geduld beim Testen</source>
+        <translation>Thanks to Anna Gärtner and Paul Hofmann for their patience in testing</translation>
+    </message>
+    <message>
+        <source>Neue Versionen, Informationen und Neuigkeiten:&lt;br&gt;&lt;span style=&quot;white-space: nowrap&quot;&gt;https://example.org/fuchs-und-hennen&lt;/span&gt;</source>
+        <translation>New versions, information and news:&lt;br&gt;&lt;span style=&quot;white-space: nowrap&quot;&gt;https://example.org/fuchs-und-hennen&lt;/span&gt;</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>fuh::StatForm</name>
+    <message>
+        <source>Statistik</source>
+        <translation>Statistics</translation>
+    </message>
+    <message>
+        <source>Spiele gesamt:</source>
+        <translation>Games in total:</translation>
+    </message>
+    <message>
+        <source>abgebrochene:</source>
+        <translation>abandoned:</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Lernmodus</source>
+        <translation>Learning mode</translation>
+    </message>
+    <message>
+        <source>Spiele im Lernmodus:</source>
+        <translation>Games in learning mode:</translation>
+    </message>
+    <message>
+        <source>Bewertete Züge:</source>
+        <translation>Rated moves:</translation>
+    </message>
+    <message>
+        <source>Neue Züge aus letztem Spiel:</source>
+        <translation>New moves from the last game:</translation>
+    </message>
+    <message>
+        <source>Siege</source>
+        <translation>Wins</translation>
+    </message>
+    <message>
+        <source>Computer</source>
+        <translation>Computer</translation>
+    </message>
+    <message>
+        <source>User</source>
+        <translation>Player</translation>
+    </message>
+    <message>
+        <source>Stärke</source>
+        <translation>Strength</translation>
+    </message>
+    <message>
+        <source>Hennen</source>
+        <translation>Hens</translation>
+    </message>
+    <message>
+        <source>Fuchs</source>
+        <translation>Fox</translation>
+    </message>
+    <message>
+        <source>Gesamt</source>
+        <translation>Total</translation>
+    </message>
+</context>
+<context>
+    <name>main</name>
+    <message>
+        <source>Der Datenordner %1 ist nicht nutzbar: %2</source>
+        <translation>The data folder %1 cannot be used: %2</translation>
+    </message>
+</context>
+</TS>
