@@ -5,67 +5,24 @@
 #include "ui/brett_flaeche.h"
 
 #include <QApplication>
-#include <QFont>
-#include <QFontDatabase>
-#include <QFontMetrics>
 #include <QMouseEvent>
 #include <QPainter>
 #include <cmath>
+#include <cstdlib>
 #include <utility>
 
 #include "board/bildlage.h"
+#include "ui/brett_zugang.h"
 
 namespace fuh {
 
 namespace {
 
-struct HinweisLage {
-    Hinweis h;
-    const char* name;
-    const char* text;
-    int left, top, width, height; // twips
-};
-
-// In the order of the Hinweis enumerators.
-constexpr std::array<HinweisLage, 4> kHinweise = {{
-    {Hinweis::f_zug, "f_zug", "Die Füchse sind am Zug.", 360, 600, 1575, 615},
-    {Hinweis::h_zug, "h_zug", "Die Hennen sind am Zug.", 480, 600, 1335, 615},
-    {Hinweis::speichern_msg, "speichern_msg", "Lernmodus: Daten werden gespeichert !", 4200, 4440, 1575, 855},
-    {Hinweis::spr_msg, "spr_msg", "Sprung mit rechter Maustaste abschließen !", 4080, 600, 1455, 1095},
-}};
-
 const QColor kRand(0x1d, 0x3a, 0x10); // around the board where the window is not square
 
-// Bold 9.75 points (at scale 1) in the first of these narrow sans-serif faces the system has, else in
-// its default sans-serif face.
-QFont hinweisSchrift(double skala) {
-    QFont schrift(QStringLiteral("Sans Serif"));
-    for (const char* familie : {"Liberation Sans", "Arial", "Helvetica", "Nimbus Sans"}) {
-        if (QFontDatabase::hasFamily(QString::fromLatin1(familie))) {
-            schrift.setFamily(QString::fromLatin1(familie));
-            break;
-        }
-    }
-    schrift.setStyleHint(QFont::SansSerif);
-    schrift.setPointSizeF(9.75 * skala);
-    schrift.setBold(true);
-    return schrift;
-}
-
-// A face in which a prompt does not fit its box is made smaller until it fits.
-QFont passendeSchrift(QFont schrift, const QString& text, QSize platz, double skala) {
-    const QRect rahmen(QPoint(0, 0), platz);
-    while (schrift.pointSizeF() > 6.5 * skala) {
-        const QRect noetig =
-            QFontMetrics(schrift).boundingRect(rahmen, Qt::AlignCenter | Qt::TextWordWrap, text);
-        if (noetig.width() <= platz.width() && noetig.height() <= platz.height()) break;
-        schrift.setPointSizeF(schrift.pointSizeF() - 0.25 * skala);
-    }
-    return schrift;
-}
-
 QString figurDatei(int k) {
-    return k < 2 ? QStringLiteral(":/bilder/fuchs.svg") : QStringLiteral(":/bilder/henne.svg");
+    return BrettFlaeche::istFuchs(k) ? QStringLiteral(":/bilder/fuchs.svg")
+                                     : QStringLiteral(":/bilder/henne.svg");
 }
 
 } // namespace
@@ -75,17 +32,13 @@ BrettFlaeche::BrettFlaeche(std::function<bool()> ziehbar, QWidget* parent)
     setAttribute(Qt::WA_OpaquePaintEvent);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     setMouseTracking(true); // for the hand cursor over draggable pieces
+    setFocusPolicy(Qt::StrongFocus);
+    setAccessibleName(tr("Spielbrett"));
+    zugangEinrichten();
+    inhalt_.fill(-1);
 
     // The prompts lie over empty corners of the board; the pieces are created later and so stay on top.
-    for (const HinweisLage& lage : kHinweise) {
-        auto* label = new QLabel(QString::fromUtf8(lage.text), this);
-        label->setObjectName(QString::fromLatin1(lage.name));
-        label->setWordWrap(true);
-        label->setAlignment(Qt::AlignCenter);
-        label->setAttribute(Qt::WA_TransparentForMouseEvents);
-        label->hide();
-        hinweise_[static_cast<int>(lage.h)] = label;
-    }
+    hinweiseAnlegen();
     const QSize bild(kBildgroesse / kTwipsProPixel, kBildgroesse / kTwipsProPixel);
     for (int k = 0; k < kFiguren; ++k) {
         auto* figur = new SvgBild(figurDatei(k), bild, this);
@@ -102,7 +55,11 @@ QPointF BrettFlaeche::abbild(double left, double top) const {
 }
 
 QRect BrettFlaeche::figurRechteck(int k) const {
-    const QPointF p = abbild(lagen_[k].x(), lagen_[k].y());
+    return bildRechteck(lagen_[k]);
+}
+
+QRect BrettFlaeche::bildRechteck(QPoint twips) const {
+    const QPointF p = abbild(twips.x(), twips.y());
     const int groesse = static_cast<int>(std::lround(kBildgroesse * skala() / kTwipsProPixel));
     return {static_cast<int>(std::floor(p.x())), static_cast<int>(std::floor(p.y())), groesse, groesse};
 }
@@ -113,42 +70,13 @@ void BrettFlaeche::resizeEvent(QResizeEvent*) {
     brett_ = QPixmap();
     for (int k = 0; k < kFiguren; ++k)
         figuren_[k]->setGeometry(figurRechteck(k));
-    if (schwebend_) {
+    if (schwebend_ && getragen_) {
+        schwebend_->setGeometry(getragenRechteck());
+    } else if (schwebend_) {
         griff_ = griff_ * figurRechteck(gezogen_).width() / std::max(1, schwebend_->width());
         schwebend_->resize(figurRechteck(gezogen_).size());
     }
     hinweiseAnordnen();
-}
-
-void BrettFlaeche::hinweiseAnordnen() {
-    // One size for all four, the largest with which every text fits its box at this scale.
-    const double s = skala();
-    QFont schrift = hinweisSchrift(s);
-    const QSize rand(static_cast<int>(6 * s), static_cast<int>(4 * s));
-    auto rechteck = [this](const HinweisLage& l) {
-        const QPointF a = abbild(l.left, l.top);
-        const QPointF b = abbild(l.left + l.width, l.top + l.height);
-        return QRectF(a, b).toRect();
-    };
-    for (const HinweisLage& lage : kHinweise) {
-        const QFont passend =
-            passendeSchrift(schrift, QString::fromUtf8(lage.text), rechteck(lage).size() - rand, s);
-        if (passend.pointSizeF() < schrift.pointSizeF()) schrift = passend;
-    }
-    const QString stil =
-        QStringLiteral(
-            "QLabel { color: #fffbe0; background-color: rgba(24, 72, 0, 185);"
-            " border: %1px solid rgba(255, 255, 255, 90); border-radius: %2px; padding: %3px %4px; }")
-            .arg(std::max(1, static_cast<int>(s)))
-            .arg(std::lround(5 * s))
-            .arg(std::lround(s))
-            .arg(std::lround(2 * s));
-    for (const HinweisLage& lage : kHinweise) {
-        QLabel* label = hinweisLabel(lage.h);
-        label->setFont(schrift);
-        label->setStyleSheet(stil);
-        label->setGeometry(rechteck(lage));
-    }
 }
 
 void BrettFlaeche::paintEvent(QPaintEvent*) {
@@ -179,6 +107,7 @@ void BrettFlaeche::paintEvent(QPaintEvent*) {
         for (int feld : {tipp_.front(), tipp_.back()})
             painter.drawEllipse(mitteVon(feld), radius, radius);
     }
+    if (hasFocus()) cursorZeichnen(painter);
     if (!markierung_) return;
     // Rings around the two points, just outside a piece standing there; the origin's is fainter.
     const auto [von, nach] = *markierung_;
@@ -189,6 +118,11 @@ void BrettFlaeche::paintEvent(QPaintEvent*) {
 }
 
 void BrettFlaeche::figurSetzen(int k, int left, int top) {
+    figurGleiten(k, left, top);
+    inhaltAbgleichen();
+}
+
+void BrettFlaeche::figurGleiten(int k, int left, int top) {
     lagen_[k] = QPoint(left, top);
     figuren_[k]->setGeometry(figurRechteck(k));
     emit figurVersetzt(k, left, top);
@@ -197,10 +131,7 @@ void BrettFlaeche::figurSetzen(int k, int left, int top) {
 void BrettFlaeche::figurZeigen(int k, bool sichtbar) {
     if (!sichtbar && gezogen_ == k) ziehenAbbrechen();
     figuren_[k]->setVisible(sichtbar);
-}
-
-void BrettFlaeche::hinweisZeigen(Hinweis h, bool sichtbar) {
-    hinweisLabel(h)->setVisible(sichtbar);
+    inhaltAbgleichen();
 }
 
 void BrettFlaeche::zugMarkieren(int von, int nach) {
@@ -210,6 +141,7 @@ void BrettFlaeche::zugMarkieren(int von, int nach) {
     else
         markierung_ = {von, nach};
     update();
+    inhaltAbgleichen(); // the slide has ended
 }
 
 void BrettFlaeche::tippZeigen(std::vector<int> felder) {
@@ -224,6 +156,7 @@ void BrettFlaeche::tippLoeschen() {
 }
 
 void BrettFlaeche::markierungLoeschen() {
+    inhaltAbgleichen();
     if (!markierung_) return;
     markierung_.reset();
     update();
@@ -245,8 +178,19 @@ int BrettFlaeche::platzAn(QPoint p) const {
     return -1;
 }
 
+int BrettFlaeche::figurAuf(int feld) const {
+    // A slide's steps are rounded, so a computer piece may come to rest a little beside its target.
+    constexpr int kSpiel = kBildgroesse / 8;
+    for (int k = 0; k < kFiguren; ++k)
+        if (!figuren_[k]->isHidden() && std::abs(lagen_[k].x() - platzLeft(feld)) <= kSpiel &&
+            std::abs(lagen_[k].y() - platzTop(feld)) <= kSpiel)
+            return k;
+    return -1;
+}
+
 void BrettFlaeche::ziehenAbbrechen() {
     gezogen_ = -1;
+    getragen_ = false;
     if (schwebend_) {
         schwebend_->deleteLater();
         schwebend_->hide();
@@ -269,15 +213,19 @@ void BrettFlaeche::mousePressEvent(QMouseEvent* event) {
     emit figurGedrueckt(k, Maustaste::links);
     if (!ziehbar_()) return;
 
-    // The original image stays where it is until the game makes the move; a copy follows the cursor.
-    gezogen_ = k;
     griff_ = p - figuren_[k]->pos();
+    anheben(k, p - griff_);
+    setCursor(Qt::ClosedHandCursor);
+}
+
+void BrettFlaeche::anheben(int k, QPoint lage) {
+    // The original image stays where it is until the game makes the move; a copy is carried instead.
+    gezogen_ = k;
     schwebend_ = new SvgBild(figuren_[k]->datei(), figuren_[k]->size(), this);
     schwebend_->setDeckkraft(0.75);
-    schwebend_->move(p - griff_);
+    schwebend_->move(lage);
     schwebend_->show();
     schwebend_->raise();
-    setCursor(Qt::ClosedHandCursor);
 }
 
 void BrettFlaeche::mouseMoveEvent(QMouseEvent* event) {
@@ -290,16 +238,20 @@ void BrettFlaeche::mouseMoveEvent(QMouseEvent* event) {
 }
 
 void BrettFlaeche::mouseReleaseEvent(QMouseEvent* event) {
-    if (gezogen_ < 0 || event->button() != Qt::LeftButton) return;
+    if (gezogen_ < 0 || getragen_ || event->button() != Qt::LeftButton) return;
     const int k = gezogen_;
     const QPoint p = event->position().toPoint();
     ziehenAbbrechen();
     zeigerSetzen(p);
 
-    // Only the drop targets accept a drop; a piece image lying over the point takes it instead. The
-    // board holds the mouse during a drag, so a release over another window arrives here as well.
-    if (figurAn(p) >= 0) return;
+    // The board holds the mouse during a drag, so a release over another window arrives here as well.
     if (QApplication::topLevelAt(event->globalPosition().toPoint()) != window()) return;
+    ablegen(k, p);
+}
+
+void BrettFlaeche::ablegen(int k, QPoint p) {
+    // Only the drop targets accept a drop; a piece image lying over the point takes it instead.
+    if (figurAn(p) >= 0) return;
     const int t = platzAn(p);
     if (t >= 0) emit abgelegt(t, k);
 }

@@ -28,6 +28,7 @@ class QMenu;
 
 namespace fuh {
 
+class Ansage;
 class BrettFlaeche;
 class EinstDialog;
 class HighscoreFenster;
@@ -101,6 +102,7 @@ class BrettFenster : public QMainWindow, public Ansicht {
     // Menu and the other windows (brett_menue.cpp).
     void menueAnlegen();
     void tempoMenue(QMenu* menue);
+    void tempoLaden();
     void statusleisteAnlegen();
     void einstellungenZeigen();
     void statistikZeigen();
@@ -114,6 +116,7 @@ class BrettFenster : public QMainWindow, public Ansicht {
     Zufall zufall_;
     std::unique_ptr<Spiel> spiel_;
     BrettFlaeche* brett_ = nullptr;
+    Ansage* ansage_ = nullptr;
     std::array<QLabel*, 3> panels_{};
     QTimer timer1_;
     Wiedergabe wiedergabe_;

@@ -1,0 +1,76 @@
+// SPDX-FileCopyrightText: 2026 The Fuchs und Hennen authors
+//
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "ui/ansage.h"
+
+#include <QAccessible>
+#include <QStringList>
+
+#include "ui/brett_flaeche.h"
+#include "ui/brett_zugang.h"
+
+namespace fuh {
+
+Ansage::Ansage(const BrettFlaeche& brett, QWidget* parent) : QLabel(parent), brett_(brett) {
+    setObjectName(QStringLiteral("ansage"));
+    setTextFormat(Qt::PlainText); // messages may quote a file name
+    setMinimumWidth(1);           // a long text must not widen the window
+}
+
+void Ansage::ereignis(const Ereignis& e) {
+    switch (e.art) {
+    case Ereignis::Art::zug: {
+        if (!e.ja) return abschliessen(); // the player's own move needs no telling
+        if (!zugFelder_.empty() && zugFelder_.back() == e.a) {
+            zugFelder_.push_back(e.b);
+            return;
+        }
+        abschliessen();
+        // By now the piece's image stands on its destination.
+        const int k = brett_.figurAuf(e.b);
+        if (k < 0) return;
+        zugFuchs_ = BrettFlaeche::istFuchs(k);
+        zugFelder_ = {e.a, e.b};
+        return;
+    }
+    case Ereignis::Art::hinweis:
+        if (e.ja) sagen(brett_.hinweisLabel(static_cast<Hinweis>(e.a))->text());
+        return;
+    case Ereignis::Art::status:
+    case Ereignis::Art::meldung:
+    case Ereignis::Art::speicherfehler:
+        return sagen(e.text);
+    default:
+        return;
+    }
+}
+
+void Ansage::sagen(const QString& text) {
+    abschliessen(); // in the order they appeared
+    aussprechen(text);
+}
+
+void Ansage::abschliessen() {
+    if (zugFelder_.empty()) return;
+    QStringList ziele;
+    for (size_t i = 1; i < zugFelder_.size(); ++i)
+        ziele << feldName(zugFelder_[i]);
+    const QString von = feldName(zugFelder_.front());
+    const QString ziel = ziele.join(tr(" nach "));
+    zugFelder_.clear();
+    aussprechen(zugFuchs_ ? tr("Fuchs %1 nach %2").arg(von, ziel) : tr("Henne %1 nach %2").arg(von, ziel));
+}
+
+void Ansage::aussprechen(const QString& text) {
+    // A label tells screen readers of a changed text itself; a repeated one is news all the same.
+    if (text == this->text()) {
+        QAccessibleEvent ereignis(this, QAccessible::NameChanged);
+        QAccessible::updateAccessibility(&ereignis);
+    } else {
+        setText(text);
+    }
+    emit angesagt(text);
+}
+
+} // namespace fuh

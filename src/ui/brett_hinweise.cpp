@@ -1,0 +1,111 @@
+// SPDX-FileCopyrightText: 2026 The Fuchs und Hennen authors
+//
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// The board's four prompts: where they lie and the one face in which all of them fit.
+#include <QFont>
+#include <QFontDatabase>
+#include <QFontMetrics>
+#include <QLabel>
+#include <array>
+#include <cmath>
+
+#include "ui/brett_flaeche.h"
+
+namespace fuh {
+
+namespace {
+
+struct HinweisLage {
+    Hinweis h;
+    const char* name;
+    const char* text;
+    int left, top, width, height; // twips
+};
+
+// In the order of the Hinweis enumerators.
+constexpr std::array<HinweisLage, 4> kHinweise = {{
+    {Hinweis::f_zug, "f_zug", "Die Füchse sind am Zug.", 360, 600, 1575, 615},
+    {Hinweis::h_zug, "h_zug", "Die Hennen sind am Zug.", 480, 600, 1335, 615},
+    {Hinweis::speichern_msg, "speichern_msg", "Lernmodus: Daten werden gespeichert !", 4200, 4440, 1575, 855},
+    {Hinweis::spr_msg, "spr_msg", "Sprung mit rechter Maustaste abschließen !", 4080, 600, 1455, 1095},
+}};
+
+// Bold 9.75 points (at scale 1) in the first of these narrow sans-serif faces the system has, else in
+// its default sans-serif face.
+QFont hinweisSchrift(double skala) {
+    QFont schrift(QStringLiteral("Sans Serif"));
+    for (const char* familie : {"Liberation Sans", "Arial", "Helvetica", "Nimbus Sans"}) {
+        if (QFontDatabase::hasFamily(QString::fromLatin1(familie))) {
+            schrift.setFamily(QString::fromLatin1(familie));
+            break;
+        }
+    }
+    schrift.setStyleHint(QFont::SansSerif);
+    schrift.setPointSizeF(9.75 * skala);
+    schrift.setBold(true);
+    return schrift;
+}
+
+// A face in which a prompt does not fit its box is made smaller until it fits.
+QFont passendeSchrift(QFont schrift, const QString& text, QSize platz, double skala) {
+    const QRect rahmen(QPoint(0, 0), platz);
+    while (schrift.pointSizeF() > 6.5 * skala) {
+        const QRect noetig =
+            QFontMetrics(schrift).boundingRect(rahmen, Qt::AlignCenter | Qt::TextWordWrap, text);
+        if (noetig.width() <= platz.width() && noetig.height() <= platz.height()) break;
+        schrift.setPointSizeF(schrift.pointSizeF() - 0.25 * skala);
+    }
+    return schrift;
+}
+
+} // namespace
+
+void BrettFlaeche::hinweiseAnlegen() {
+    for (const HinweisLage& lage : kHinweise) {
+        auto* label = new QLabel(QString::fromUtf8(lage.text), this);
+        label->setObjectName(QString::fromLatin1(lage.name));
+        label->setWordWrap(true);
+        label->setAlignment(Qt::AlignCenter);
+        label->setAttribute(Qt::WA_TransparentForMouseEvents);
+        label->hide();
+        hinweise_[static_cast<int>(lage.h)] = label;
+    }
+}
+
+void BrettFlaeche::hinweiseAnordnen() {
+    // One size for all four, the largest with which every text fits its box at this scale.
+    const double s = skala();
+    QFont schrift = hinweisSchrift(s);
+    const QSize rand(static_cast<int>(6 * s), static_cast<int>(4 * s));
+    auto rechteck = [this](const HinweisLage& l) {
+        const QPointF a = abbild(l.left, l.top);
+        const QPointF b = abbild(l.left + l.width, l.top + l.height);
+        return QRectF(a, b).toRect();
+    };
+    for (const HinweisLage& lage : kHinweise) {
+        const QFont passend =
+            passendeSchrift(schrift, QString::fromUtf8(lage.text), rechteck(lage).size() - rand, s);
+        if (passend.pointSizeF() < schrift.pointSizeF()) schrift = passend;
+    }
+    const QString stil =
+        QStringLiteral(
+            "QLabel { color: #fffbe0; background-color: rgba(24, 72, 0, 185);"
+            " border: %1px solid rgba(255, 255, 255, 90); border-radius: %2px; padding: %3px %4px; }")
+            .arg(std::max(1, static_cast<int>(s)))
+            .arg(std::lround(5 * s))
+            .arg(std::lround(s))
+            .arg(std::lround(2 * s));
+    for (const HinweisLage& lage : kHinweise) {
+        QLabel* label = hinweisLabel(lage.h);
+        label->setFont(schrift);
+        label->setStyleSheet(stil);
+        label->setGeometry(rechteck(lage));
+    }
+}
+
+void BrettFlaeche::hinweisZeigen(Hinweis h, bool sichtbar) {
+    hinweisLabel(h)->setVisible(sichtbar);
+}
+
+} // namespace fuh
