@@ -16,6 +16,15 @@ Ansage::Ansage(const BrettFlaeche& brett, QWidget* parent) : QLabel(parent), bre
     setObjectName(QStringLiteral("ansage"));
     setTextFormat(Qt::PlainText); // messages may quote a file name
     setMinimumWidth(1);           // a long text must not widen the window
+    gleich_.setSingleShot(true);
+    gleich_.setInterval(0);
+    connect(&gleich_, &QTimer::timeout, this, &Ansage::aussprechen);
+}
+
+void Ansage::verwerfen() {
+    zugFelder_.clear();
+    wartend_.clear();
+    gleich_.stop();
 }
 
 void Ansage::ereignis(const Ereignis& e) {
@@ -37,7 +46,12 @@ void Ansage::ereignis(const Ereignis& e) {
     case Ereignis::Art::hinweis:
         if (e.ja) sagen(brett_.hinweisLabel(static_cast<Hinweis>(e.a))->text());
         return;
-    case Ereignis::Art::status:
+    case Ereignis::Art::status: {
+        QString& alt = status_.at(static_cast<size_t>(e.a - 1));
+        if (e.text != alt) sagen(e.text);
+        alt = e.text;
+        return;
+    }
     case Ereignis::Art::meldung:
     case Ereignis::Art::speicherfehler:
         return sagen(e.text);
@@ -48,7 +62,9 @@ void Ansage::ereignis(const Ereignis& e) {
 
 void Ansage::sagen(const QString& text) {
     abschliessen(); // in the order they appeared
-    aussprechen(text);
+    if (text.isEmpty()) return;
+    wartend_ << text;
+    gleich_.start();
 }
 
 void Ansage::abschliessen() {
@@ -59,10 +75,19 @@ void Ansage::abschliessen() {
     const QString von = feldName(zugFelder_.front());
     const QString ziel = ziele.join(tr(" nach "));
     zugFelder_.clear();
-    aussprechen(zugFuchs_ ? tr("Fuchs %1 nach %2").arg(von, ziel) : tr("Henne %1 nach %2").arg(von, ziel));
+    sagen(zugFuchs_ ? tr("Fuchs %1 nach %2").arg(von, ziel) : tr("Henne %1 nach %2").arg(von, ziel));
 }
 
-void Ansage::aussprechen(const QString& text) {
+void Ansage::aussprechen() {
+    // One text of several sentences; a full stop after each that has no mark of its own.
+    QString text;
+    for (const QString& satz : std::as_const(wartend_)) {
+        if (!text.isEmpty()) text += QLatin1Char(' ');
+        text += satz;
+        if (!satz.back().isPunct()) text += QLatin1Char('.');
+    }
+    if (wartend_.size() == 1) text = wartend_.front();
+    wartend_.clear();
     // A label tells screen readers of a changed text itself; a repeated one is news all the same.
     if (text == this->text()) {
         QAccessibleEvent ereignis(this, QAccessible::NameChanged);

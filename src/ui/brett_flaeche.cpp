@@ -33,8 +33,9 @@ BrettFlaeche::BrettFlaeche(std::function<bool()> ziehbar, QWidget* parent)
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     setMouseTracking(true); // for the hand cursor over draggable pieces
     setFocusPolicy(Qt::StrongFocus);
-    setAccessibleName(tr("Spielbrett"));
+    // Before anything asks for the board's interface: Qt keeps the first one made.
     zugangEinrichten();
+    setAccessibleName(tr("Spielbrett"));
     inhalt_.fill(-1);
 
     // The prompts lie over empty corners of the board; the pieces are created later and so stay on top.

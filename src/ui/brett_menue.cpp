@@ -175,7 +175,7 @@ void BrettFenster::statusleisteAnlegen() {
         panels_[i] = label;
     }
     ansage_ = new Ansage(*brett_, leiste);
-    leiste->addWidget(ansage_, 2);
+    leiste->addWidget(ansage_, 1);
 }
 
 void BrettFenster::einstellungenZeigen() {

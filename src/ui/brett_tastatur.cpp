@@ -8,6 +8,7 @@
 #include <QKeyEvent>
 #include <QPainter>
 #include <algorithm>
+#include <utility>
 
 #include "board/bildlage.h"
 #include "ui/brett_flaeche.h"
@@ -42,10 +43,10 @@ QRect BrettFlaeche::getragenRechteck() const {
 
 void BrettFlaeche::cursorSetzen(int feld) {
     if (feld < 0 || feld >= kFelder || !aufKreuz(feldX(feld), feldY(feld))) return;
-    cursor_ = feld;
+    const int alt = std::exchange(cursor_, feld);
     if (getragen_ && schwebend_) schwebend_->setGeometry(getragenRechteck());
     update();
-    if (hasFocus()) zugangFokus(this, cursor_);
+    if (hasFocus()) zugangFokus(this, alt, cursor_);
 }
 
 void BrettFlaeche::cursorZeichnen(QPainter& painter) const {
@@ -127,7 +128,7 @@ void BrettFlaeche::contextMenuEvent(QContextMenuEvent* event) {
 void BrettFlaeche::focusInEvent(QFocusEvent* event) {
     QWidget::focusInEvent(event);
     update();
-    zugangFokus(this, cursor_);
+    zugangFokus(this, cursor_, cursor_);
 }
 
 void BrettFlaeche::focusOutEvent(QFocusEvent* event) {

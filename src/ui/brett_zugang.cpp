@@ -115,10 +115,9 @@ QAccessibleInterface* brettFabrik(const QString&, QObject* objekt) {
     return nullptr;
 }
 
-void melden(BrettFlaeche* brett, int feld, QAccessible::Event art) {
+void melden(QAccessibleEvent& ereignis, int feld) {
     const int i = punktIndex(feld);
     if (i < 0) return;
-    QAccessibleEvent ereignis(brett, art);
     ereignis.setChild(i);
     QAccessible::updateAccessibility(&ereignis);
 }
@@ -142,12 +141,21 @@ QString punktName(const BrettFlaeche& brett, int feld) {
         .arg(feldName(feld));
 }
 
-void zugangFokus(BrettFlaeche* brett, int feld) {
-    melden(brett, feld, QAccessible::Focus);
+void zugangFokus(BrettFlaeche* brett, int alt, int feld) {
+    if (alt != feld) {
+        // Screen readers keep the states they were told; the old point is no longer focused.
+        QAccessible::State fokus;
+        fokus.focused = true;
+        QAccessibleStateChangeEvent verlassen(brett, fokus);
+        melden(verlassen, alt);
+    }
+    QAccessibleEvent ereignis(brett, QAccessible::Focus);
+    melden(ereignis, feld);
 }
 
 void zugangNameGeaendert(BrettFlaeche* brett, int feld) {
-    melden(brett, feld, QAccessible::NameChanged);
+    QAccessibleEvent ereignis(brett, QAccessible::NameChanged);
+    melden(ereignis, feld);
 }
 
 void BrettFlaeche::inhaltAbgleichen() {

@@ -3,11 +3,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #pragma once
-// What a screen reader hears as it appears on the screen: the computer's moves, the prompts, the status
-// texts and the game's messages. The label shows the last of them, and every new one is sent to screen
-// readers as a change of its name, also when it repeats the one before.
+// What a screen reader hears as it appears on the screen: the computer's moves, the prompts, the changed
+// status texts and the game's messages. A screen reader reads the label's name some time after it was
+// told of a change, so what appears in one go (a move, then the points) is said as one text, and a
+// repeated text is told again all the same. The label shows the last text said.
 #include <QLabel>
 #include <QString>
+#include <QStringList>
+#include <QTimer>
+#include <array>
 #include <vector>
 
 #include "ui/wiedergabe.h"
@@ -24,19 +28,23 @@ class Ansage : public QLabel {
     // One report of the game, at the moment it is shown. The jumps of one computer piece are collected
     // into one sentence ("Fuchs c5 nach c3 nach e3"), said when anything else is shown or all is shown.
     void ereignis(const Ereignis& e);
+    // Said when control returns to the event loop, together with whatever else is said until then.
     void sagen(const QString& text);
     // Everything reported so far has been shown.
     void abschliessen();
-    // The game was abandoned: a move still being collected is not said.
-    void verwerfen() { zugFelder_.clear(); }
+    // The game was abandoned: nothing of it still waiting is said.
+    void verwerfen();
 
   signals:
     void angesagt(const QString& text);
 
   private:
-    void aussprechen(const QString& text);
+    void aussprechen();
 
     const BrettFlaeche& brett_;
+    QStringList wartend_;
+    QTimer gleich_;
+    std::array<QString, 3> status_; // the panels' texts, so that only a change is said
     bool zugFuchs_ = false;
     std::vector<int> zugFelder_; // the computer move being collected: its origin, then every landing
 };

@@ -20,8 +20,8 @@ QString feldName(int feld);
 // What a screen reader says for a point of the cross.
 QString punktName(const BrettFlaeche& brett, int feld);
 
-// Tell screen readers that the cursor is now on `feld`, or that what stands on `feld` changed.
-void zugangFokus(BrettFlaeche* brett, int feld);
+// Tell screen readers that the cursor went from `alt` to `feld`, or that what stands on `feld` changed.
+void zugangFokus(BrettFlaeche* brett, int alt, int feld);
 void zugangNameGeaendert(BrettFlaeche* brett, int feld);
 
 } // namespace fuh
