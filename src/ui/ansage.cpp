@@ -12,6 +12,19 @@
 
 namespace fuh {
 
+namespace {
+
+// Several texts said at once become sentences: a full stop after each that has no mark of its own.
+QString saetze(const QStringList& texte) {
+    if (texte.size() == 1) return texte.front();
+    QStringList saetze;
+    for (const QString& t : texte)
+        saetze << (t.back().isPunct() ? t : t + QLatin1Char('.'));
+    return saetze.join(QLatin1Char(' '));
+}
+
+} // namespace
+
 Ansage::Ansage(const BrettFlaeche& brett, QWidget* parent) : QLabel(parent), brett_(brett) {
     setObjectName(QStringLiteral("ansage"));
     setTextFormat(Qt::PlainText); // messages may quote a file name
@@ -79,14 +92,7 @@ void Ansage::abschliessen() {
 }
 
 void Ansage::aussprechen() {
-    // One text of several sentences; a full stop after each that has no mark of its own.
-    QString text;
-    for (const QString& satz : std::as_const(wartend_)) {
-        if (!text.isEmpty()) text += QLatin1Char(' ');
-        text += satz;
-        if (!satz.back().isPunct()) text += QLatin1Char('.');
-    }
-    if (wartend_.size() == 1) text = wartend_.front();
+    const QString text = saetze(wartend_);
     wartend_.clear();
     // A label tells screen readers of a changed text itself; a repeated one is news all the same.
     if (text == this->text()) {

@@ -64,19 +64,17 @@ class TastaturTest : public QObject {
         aktivieren(a);
         QCOMPARE(QApplication::focusWidget(), a.brett());
         QCOMPARE(a.brett()->cursor(), feldNummer(3, 3));
-        // From the left arm's corner neither up nor left leads anywhere; along the row it does.
-        fahren(a, feldNummer(0, 2));
-        for (Qt::Key k : {Qt::Key_Up, Qt::Key_Left})
-            taste(a, k);
-        QCOMPARE(a.brett()->cursor(), feldNummer(0, 2));
-        fahren(a, feldNummer(2, 0));
-        for (Qt::Key k : {Qt::Key_Up, Qt::Key_Left})
-            taste(a, k);
-        QCOMPARE(a.brett()->cursor(), feldNummer(2, 0));
-        fahren(a, feldNummer(4, 6));
-        for (Qt::Key k : {Qt::Key_Down, Qt::Key_Right})
-            taste(a, k);
-        QCOMPARE(a.brett()->cursor(), feldNummer(4, 6));
+        // At the cross's outer corners the keys that lead off it leave the cursor where it is.
+        const std::vector<std::pair<int, std::vector<Qt::Key>>> ecken = {
+            {feldNummer(0, 2), {Qt::Key_Up, Qt::Key_Left}},
+            {feldNummer(2, 0), {Qt::Key_Up, Qt::Key_Left}},
+            {feldNummer(4, 6), {Qt::Key_Down, Qt::Key_Right}}};
+        for (const auto& [ecke, tasten] : ecken) {
+            fahren(a, ecke);
+            for (Qt::Key k : tasten)
+                taste(a, k);
+            QCOMPARE(a.brett()->cursor(), ecke);
+        }
     }
 
     void punkteFuerDenScreenreader() {
@@ -95,7 +93,7 @@ class TastaturTest : public QObject {
         QCOMPARE(punkte.last(), QStringLiteral("e1: Henne"));
         QCOMPARE(punkte.filter(QStringLiteral("Henne")).size(), 20);
 
-        // The cursor's point is the focused child, and every step is told.
+        // The cursor's point is the focused child.
         QCOMPARE(name(brett->focusChild()), QStringLiteral("d4: Henne"));
         QVERIFY(brett->focusChild()->state().focused);
         taste(a, Qt::Key_Up);
