@@ -71,7 +71,7 @@ void BrettFlaeche::resizeEvent(QResizeEvent*) {
     brett_ = QPixmap();
     for (int k = 0; k < kFiguren; ++k)
         figuren_[k]->setGeometry(figurRechteck(k));
-    if (schwebend_ && getragen_) {
+    if (schwebend_ && getragenVon_ >= 0) {
         schwebend_->setGeometry(getragenRechteck());
     } else if (schwebend_) {
         griff_ = griff_ * figurRechteck(gezogen_).width() / std::max(1, schwebend_->width());
@@ -191,7 +191,7 @@ int BrettFlaeche::figurAuf(int feld) const {
 
 void BrettFlaeche::ziehenAbbrechen() {
     gezogen_ = -1;
-    getragen_ = false;
+    if (const int von = std::exchange(getragenVon_, -1); von >= 0) zugangNameGeaendert(this, von);
     if (schwebend_) {
         schwebend_->deleteLater();
         schwebend_->hide();
@@ -239,7 +239,7 @@ void BrettFlaeche::mouseMoveEvent(QMouseEvent* event) {
 }
 
 void BrettFlaeche::mouseReleaseEvent(QMouseEvent* event) {
-    if (gezogen_ < 0 || getragen_ || event->button() != Qt::LeftButton) return;
+    if (gezogen_ < 0 || getragenVon_ >= 0 || event->button() != Qt::LeftButton) return;
     const int k = gezogen_;
     const QPoint p = event->position().toPoint();
     ziehenAbbrechen();

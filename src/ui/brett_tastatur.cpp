@@ -44,7 +44,7 @@ QRect BrettFlaeche::getragenRechteck() const {
 void BrettFlaeche::cursorSetzen(int feld) {
     if (feld < 0 || feld >= kFelder || !aufKreuz(feldX(feld), feldY(feld))) return;
     const int alt = std::exchange(cursor_, feld);
-    if (getragen_ && schwebend_) schwebend_->setGeometry(getragenRechteck());
+    if (getragenVon_ >= 0 && schwebend_) schwebend_->setGeometry(getragenRechteck());
     update();
     if (hasFocus()) zugangFokus(this, alt, cursor_);
 }
@@ -81,7 +81,7 @@ void BrettFlaeche::keyPressEvent(QKeyEvent* event) {
         aufnehmenOderAblegen();
         break;
     case Qt::Key_Escape:
-        if (!getragen_) return QWidget::keyPressEvent(event);
+        if (getragenVon_ < 0) return QWidget::keyPressEvent(event);
         ziehenAbbrechen();
         break;
     case Qt::Key_F10:
@@ -98,7 +98,7 @@ void BrettFlaeche::keyPressEvent(QKeyEvent* event) {
 }
 
 void BrettFlaeche::aufnehmenOderAblegen() {
-    if (getragen_) {
+    if (getragenVon_ >= 0) {
         const int k = gezogen_;
         ziehenAbbrechen();
         ablegen(k, mitte(cursor_));
@@ -111,7 +111,8 @@ void BrettFlaeche::aufnehmenOderAblegen() {
     emit figurGedrueckt(k, Maustaste::links);
     if (!ziehbar_()) return;
     anheben(k, getragenRechteck().topLeft());
-    getragen_ = true;
+    getragenVon_ = cursor_;
+    zugangNameGeaendert(this, cursor_);
 }
 
 void BrettFlaeche::rechtsDruecken() {

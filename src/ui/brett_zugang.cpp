@@ -135,10 +135,14 @@ QString feldName(int feld) {
 
 QString punktName(const BrettFlaeche& brett, int feld) {
     const int k = brett.angesagteFigur(feld);
-    if (k < 0) return QCoreApplication::translate("BrettZugang", "%1: leer").arg(feldName(feld));
-    return (BrettFlaeche::istFuchs(k) ? QCoreApplication::translate("BrettZugang", "%1: Fuchs")
-                                      : QCoreApplication::translate("BrettZugang", "%1: Henne"))
-        .arg(feldName(feld));
+    const bool aufgenommen = brett.getragenVon() == feld;
+    const char* text = k < 0 ? QT_TRANSLATE_NOOP("BrettZugang", "%1: leer")
+                       : !BrettFlaeche::istFuchs(k)
+                           ? (aufgenommen ? QT_TRANSLATE_NOOP("BrettZugang", "%1: Henne, aufgenommen")
+                                          : QT_TRANSLATE_NOOP("BrettZugang", "%1: Henne"))
+                       : aufgenommen ? QT_TRANSLATE_NOOP("BrettZugang", "%1: Fuchs, aufgenommen")
+                                     : QT_TRANSLATE_NOOP("BrettZugang", "%1: Fuchs");
+    return QCoreApplication::translate("BrettZugang", text).arg(feldName(feld));
 }
 
 void zugangFokus(BrettFlaeche* brett, int alt, int feld) {

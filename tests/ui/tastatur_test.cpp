@@ -128,11 +128,14 @@ class TastaturTest : public QObject {
 
         a.aktion("Neu");
         const Stellung anfang = a.spiel().stellung();
+        QAccessibleInterface* d4 = QAccessible::queryAccessibleInterface(a.brett())->focusChild();
         taste(a, Qt::Key_Space);
         QVERIFY(a.brett()->ziehtGerade());
+        QCOMPARE(name(d4), QStringLiteral("d4: Henne, aufgenommen"));
         taste(a, Qt::Key_Up);
         taste(a, Qt::Key_Escape);
         QVERIFY(!a.brett()->ziehtGerade());
+        QCOMPARE(name(d4), QStringLiteral("d4: Henne"));
         taste(a, Qt::Key_Return); // the cursor's point is empty: nothing to pick up
         QVERIFY(!a.brett()->ziehtGerade());
         QCOMPARE(abgelegt.count(), 0);

@@ -76,6 +76,7 @@ class BrettFlaeche : public QWidget {
     // the keyboard travels with it until it is dropped or put back.
     static constexpr int kMitte = 24;
     int cursor() const { return cursor_; }
+    int getragenVon() const { return getragenVon_; } // -1 when the keyboard carries no piece
     void cursorSetzen(int feld);
 
     QSize minimumSizeHint() const override { return {kSeite, kSeite}; }
@@ -127,8 +128,8 @@ class BrettFlaeche : public QWidget {
     std::vector<int> tipp_;
     SvgBild* schwebend_ = nullptr; // the copy that follows the cursor during a drag
     int gezogen_ = -1;
-    QPoint griff_;          // cursor offset inside the dragged image
-    bool getragen_ = false; // the dragged piece is carried by the keyboard cursor
+    QPoint griff_;         // cursor offset inside the dragged image
+    int getragenVon_ = -1; // the point a piece carried by the keyboard cursor was picked up from
     int cursor_ = kMitte;
     std::array<int, kFelder> inhalt_{}; // the piece screen readers know on each point, or -1
 };
