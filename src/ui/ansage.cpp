@@ -82,13 +82,23 @@ void Ansage::sagen(const QString& text) {
 
 void Ansage::abschliessen() {
     if (zugFelder_.empty()) return;
-    QStringList ziele;
-    for (size_t i = 1; i < zugFelder_.size(); ++i)
-        ziele << feldName(zugFelder_[i]);
-    const QString von = feldName(zugFelder_.front());
-    const QString ziel = ziele.join(tr(" nach "));
+    const QString satz = zugSatz(zugFuchs_, zugFelder_);
     zugFelder_.clear();
-    sagen(zugFuchs_ ? tr("Fuchs %1 nach %2").arg(von, ziel) : tr("Henne %1 nach %2").arg(von, ziel));
+    sagen(satz);
+}
+
+void Ansage::tipp(const std::vector<int>& felder) {
+    const int k = felder.empty() ? -1 : brett_.figurAuf(felder.front());
+    if (k >= 0) sagen(tr("Tipp: %1").arg(zugSatz(BrettFlaeche::istFuchs(k), felder)));
+}
+
+QString Ansage::zugSatz(bool fuchs, const std::vector<int>& felder) const {
+    QStringList ziele;
+    for (size_t i = 1; i < felder.size(); ++i)
+        ziele << feldName(felder[i]);
+    const QString von = feldName(felder.front());
+    const QString ziel = ziele.join(tr(" nach "));
+    return fuchs ? tr("Fuchs %1 nach %2").arg(von, ziel) : tr("Henne %1 nach %2").arg(von, ziel);
 }
 
 void Ansage::aussprechen() {

@@ -186,8 +186,9 @@ class TastaturTest : public QObject {
         QTRY_VERIFY(!antworter.texte.empty()); // the result was announced
         QTRY_VERIFY(a.fenster->findChild<HighscoreFenster*>() &&
                     a.fenster->findChild<HighscoreFenster*>()->isVisible());
-        // The end was said to a screen reader as well.
+        // The hints and the end were said to a screen reader as well.
         QTRY_VERIFY(ansagen(gesagt).contains(antworter.texte.front()));
+        QVERIFY(ansagen(gesagt).contains(QStringLiteral("Tipp: Fuchs ")));
     }
 
     void computerzugWirdAngesagt() {

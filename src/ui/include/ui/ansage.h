@@ -28,6 +28,8 @@ class Ansage : public QLabel {
     // One report of the game, at the moment it is shown. The jumps of one computer piece are collected
     // into one sentence ("Fuchs c5 nach c3 nach e3"), said when anything else is shown or all is shown.
     void ereignis(const Ereignis& e);
+    // A suggested move (origin, then each landing square), said as the computer's moves are.
+    void tipp(const std::vector<int>& felder);
     // Said when control returns to the event loop, together with whatever else is said until then.
     void sagen(const QString& text);
     // Everything reported so far has been shown.
@@ -39,6 +41,7 @@ class Ansage : public QLabel {
     void angesagt(const QString& text);
 
   private:
+    QString zugSatz(bool fuchs, const std::vector<int>& felder) const;
     void aussprechen();
 
     const BrettFlaeche& brett_;
