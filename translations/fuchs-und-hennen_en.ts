@@ -2,6 +2,29 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="en" sourcelanguage="de">
 <context>
+    <name>BrettZugang</name>
+    <message>
+        <source>%1: leer</source>
+        <translation>%1: empty</translation>
+    </message>
+    <message>
+        <source>%1: Henne, aufgenommen</source>
+        <translation>%1: hen, picked up</translation>
+    </message>
+    <message>
+        <source>%1: Henne</source>
+        <translation>%1: hen</translation>
+    </message>
+    <message>
+        <source>%1: Fuchs, aufgenommen</source>
+        <translation>%1: fox, picked up</translation>
+    </message>
+    <message>
+        <source>%1: Fuchs</source>
+        <translation>%1: fox</translation>
+    </message>
+</context>
+<context>
     <name>Kern</name>
     <message>
         <source>Ja</source>
@@ -82,6 +105,25 @@
     <message>
         <source>Der ausgeschlossene Fuchs wird wieder eingesetzt</source>
         <translation>The excluded fox is put back on the board</translation>
+    </message>
+</context>
+<context>
+    <name>fuh::Ansage</name>
+    <message>
+        <source>Tipp: %1</source>
+        <translation>Hint: %1</translation>
+    </message>
+    <message>
+        <source> nach </source>
+        <translation> to </translation>
+    </message>
+    <message>
+        <source>Fuchs %1 nach %2</source>
+        <translation>Fox %1 to %2</translation>
+    </message>
+    <message>
+        <source>Henne %1 nach %2</source>
+        <translation>Hen %1 to %2</translation>
     </message>
 </context>
 <context>
@@ -185,6 +227,10 @@
         <source>Sprung mit rechter Maustaste abschließen !</source>
         <translation>End the jump with the right mouse button!</translation>
     </message>
+    <message>
+        <source>Spielbrett</source>
+        <translation>Game board</translation>
+    </message>
 </context>
 <context>
     <name>fuh::EinstDialog</name>
@@ -287,6 +333,10 @@
         <source>Die Highscore-Liste „%1“ konnte nicht gespeichert werden.</source>
         <translation>The high-score list “%1” could not be saved.</translation>
     </message>
+    <message>
+        <source>Ihr Name für Platz %1</source>
+        <translation>Your name for place %1</translation>
+    </message>
 </context>
 <context>
     <name>fuh::HilfeFenster</name>
@@ -305,6 +355,10 @@
     <message>
         <source>Schließen</source>
         <translation>Close</translation>
+    </message>
+    <message>
+        <source>Hilfetext</source>
+        <translation>Help text</translation>
     </message>
 </context>
 <context>

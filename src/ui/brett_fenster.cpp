@@ -14,6 +14,7 @@
 #include <utility>
 
 #include "game/spiel.h"
+#include "ui/ansage.h"
 #include "ui/brett_flaeche.h"
 #include "ui/meldung.h"
 #include "ui/titel.h"
@@ -31,26 +32,6 @@ uint32_t sekundenSeitMitternacht() {
     return static_cast<uint32_t>(QTime::currentTime().msecsSinceStartOfDay() / 1000);
 }
 
-const char* tempoName(Tempo t) {
-    switch (t) {
-    case Tempo::sofort:
-        return "sofort";
-    case Tempo::schnell:
-        return "schnell";
-    case Tempo::normal:
-        break;
-    case Tempo::langsam:
-        return "langsam";
-    }
-    return "normal";
-}
-
-Tempo tempoAusName(const QString& name) {
-    for (Tempo t : {Tempo::sofort, Tempo::schnell, Tempo::langsam})
-        if (name == QLatin1String(tempoName(t))) return t;
-    return Tempo::normal;
-}
-
 } // namespace
 
 BrettFenster::BrettFenster(std::filesystem::path ordner, QWidget* parent)
@@ -65,8 +46,7 @@ BrettFenster::BrettFenster(std::filesystem::path ordner, uint32_t startzeit, QWi
     setCentralWidget(brett_);
     menueAnlegen();
     statusleisteAnlegen();
-    wiedergabe_.setTempo(tempoAusName(fensterEinstellungen().value(QStringLiteral("tempo")).toString()));
-    tempoSetzen(wiedergabe_.tempo());
+    tempoLaden();
     groesseLaden();
 
     spiel_ = std::make_unique<Spiel>(*this, zufall_, std::move(ordner));
@@ -107,6 +87,7 @@ BrettFenster::BrettFenster(std::filesystem::path ordner, uint32_t startzeit, QWi
     timer1_.setInterval(500);
     connect(&timer1_, &QTimer::timeout, this, &BrettFenster::Timer1_Timer);
     timer1_.start();
+    brett_->setFocus(); // the board is played with the keyboard as well
 }
 
 BrettFenster::~BrettFenster() {
@@ -122,14 +103,6 @@ void BrettFenster::groesseLaden() {
         seite = std::max(seite, std::min(frei.width(), frei.height()) * 3 / 5);
     }
     resize(seite, seite + menuBar()->sizeHint().height() + statusBar()->sizeHint().height());
-}
-
-void BrettFenster::tempoSetzen(Tempo t) {
-    wiedergabe_.setTempo(t);
-    fensterEinstellungen().setValue(QStringLiteral("tempo"), QString::fromLatin1(tempoName(t)));
-    const std::array<Tempo, 3> stufen = {Tempo::schnell, Tempo::normal, Tempo::langsam};
-    for (size_t i = 0; i < stufen.size(); ++i)
-        if (tempoAktionen_[i]) tempoAktionen_[i]->setChecked(stufen[i] == t);
 }
 
 bool BrettFenster::beschaeftigt() const {
@@ -156,6 +129,7 @@ void BrettFenster::neu() {
     });
     brett_->ziehenAbbrechen();
     brett_->markierungLoeschen();
+    ansage_->verwerfen();
     statusBar()->clearMessage();
     spiel_->Neu_Click();
     spielWeiter();
@@ -168,6 +142,7 @@ void BrettFenster::spielWeiter() {
 }
 
 void BrettFenster::wiedergabeFertig() {
+    ansage_->abschliessen();
     if (selbstspielSchleife_) return;
     if (spiel_->selbstspielLaeuft()) {
         if (wiedergabe_.gleitdauer() > 0) {
@@ -204,10 +179,13 @@ void BrettFenster::befehleAbgleichen() {
 }
 
 void BrettFenster::zeigen(const Ereignis& e) {
+    ansage_->ereignis(e); // before a message box holds the playback
     switch (e.art) {
     case Ereignis::Art::bewegt:
-    case Ereignis::Art::gleitet:
         brett_->figurSetzen(e.a, e.b, e.c);
+        break;
+    case Ereignis::Art::gleitet:
+        brett_->figurGleiten(e.a, e.b, e.c);
         break;
     case Ereignis::Art::sichtbar:
         brett_->figurZeigen(e.a, e.ja);
@@ -223,6 +201,7 @@ void BrettFenster::zeigen(const Ereignis& e) {
         break;
     case Ereignis::Art::zugbegrenzung:
         zugbegrenzungZeigen();
+        ansage_->sagen(statusBar()->currentMessage());
         break;
     case Ereignis::Art::zug:
         if (e.ja)

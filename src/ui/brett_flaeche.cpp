@@ -8,9 +8,11 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <cmath>
+#include <cstdlib>
 #include <utility>
 
 #include "board/bildlage.h"
+#include "ui/brett_zugang.h"
 
 namespace fuh {
 
@@ -19,7 +21,8 @@ namespace {
 const QColor kRand(0x1d, 0x3a, 0x10); // around the board where the window is not square
 
 QString figurDatei(int k) {
-    return k < 2 ? QStringLiteral(":/bilder/fuchs.svg") : QStringLiteral(":/bilder/henne.svg");
+    return BrettFlaeche::istFuchs(k) ? QStringLiteral(":/bilder/fuchs.svg")
+                                     : QStringLiteral(":/bilder/henne.svg");
 }
 
 } // namespace
@@ -29,8 +32,14 @@ BrettFlaeche::BrettFlaeche(std::function<bool()> ziehbar, QWidget* parent)
     setAttribute(Qt::WA_OpaquePaintEvent);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     setMouseTracking(true); // for the hand cursor over draggable pieces
+    setFocusPolicy(Qt::StrongFocus);
+    // Before anything asks for the board's interface: Qt keeps the first one made.
+    zugangEinrichten();
+    setAccessibleName(tr("Spielbrett"));
+    inhalt_.fill(-1);
 
-    hinweiseAnlegen(); // before the pieces, which so stay on top
+    // The prompts lie over empty corners of the board; the pieces are created later and so stay on top.
+    hinweiseAnlegen();
     const QSize bild(kBildgroesse / kTwipsProPixel, kBildgroesse / kTwipsProPixel);
     for (int k = 0; k < kFiguren; ++k) {
         auto* figur = new SvgBild(figurDatei(k), bild, this);
@@ -47,7 +56,11 @@ QPointF BrettFlaeche::abbild(double left, double top) const {
 }
 
 QRect BrettFlaeche::figurRechteck(int k) const {
-    const QPointF p = abbild(lagen_[k].x(), lagen_[k].y());
+    return bildRechteck(lagen_[k]);
+}
+
+QRect BrettFlaeche::bildRechteck(QPoint twips) const {
+    const QPointF p = abbild(twips.x(), twips.y());
     const int groesse = static_cast<int>(std::lround(kBildgroesse * skala() / kTwipsProPixel));
     return {static_cast<int>(std::floor(p.x())), static_cast<int>(std::floor(p.y())), groesse, groesse};
 }
@@ -58,7 +71,9 @@ void BrettFlaeche::resizeEvent(QResizeEvent*) {
     brett_ = QPixmap();
     for (int k = 0; k < kFiguren; ++k)
         figuren_[k]->setGeometry(figurRechteck(k));
-    if (schwebend_) {
+    if (schwebend_ && getragenVon_ >= 0) {
+        schwebend_->setGeometry(getragenRechteck());
+    } else if (schwebend_) {
         griff_ = griff_ * figurRechteck(gezogen_).width() / std::max(1, schwebend_->width());
         schwebend_->resize(figurRechteck(gezogen_).size());
     }
@@ -93,6 +108,7 @@ void BrettFlaeche::paintEvent(QPaintEvent*) {
         for (int feld : {tipp_.front(), tipp_.back()})
             painter.drawEllipse(mitteVon(feld), radius, radius);
     }
+    if (hasFocus()) cursorZeichnen(painter);
     if (!markierung_) return;
     // Rings around the two points, just outside a piece standing there; the origin's is fainter.
     const auto [von, nach] = *markierung_;
@@ -103,6 +119,11 @@ void BrettFlaeche::paintEvent(QPaintEvent*) {
 }
 
 void BrettFlaeche::figurSetzen(int k, int left, int top) {
+    figurGleiten(k, left, top);
+    inhaltAbgleichen();
+}
+
+void BrettFlaeche::figurGleiten(int k, int left, int top) {
     lagen_[k] = QPoint(left, top);
     figuren_[k]->setGeometry(figurRechteck(k));
     emit figurVersetzt(k, left, top);
@@ -111,10 +132,7 @@ void BrettFlaeche::figurSetzen(int k, int left, int top) {
 void BrettFlaeche::figurZeigen(int k, bool sichtbar) {
     if (!sichtbar && gezogen_ == k) ziehenAbbrechen();
     figuren_[k]->setVisible(sichtbar);
-}
-
-void BrettFlaeche::hinweisZeigen(Hinweis h, bool sichtbar) {
-    hinweisLabel(h)->setVisible(sichtbar);
+    inhaltAbgleichen();
 }
 
 void BrettFlaeche::zugMarkieren(int von, int nach) {
@@ -124,6 +142,7 @@ void BrettFlaeche::zugMarkieren(int von, int nach) {
     else
         markierung_ = {von, nach};
     update();
+    inhaltAbgleichen(); // the slide has ended
 }
 
 void BrettFlaeche::tippZeigen(std::vector<int> felder) {
@@ -138,6 +157,7 @@ void BrettFlaeche::tippLoeschen() {
 }
 
 void BrettFlaeche::markierungLoeschen() {
+    inhaltAbgleichen();
     if (!markierung_) return;
     markierung_.reset();
     update();
@@ -159,8 +179,19 @@ int BrettFlaeche::platzAn(QPoint p) const {
     return -1;
 }
 
+int BrettFlaeche::figurAuf(int feld) const {
+    // A slide's steps are rounded, so a computer piece may come to rest a little beside its target.
+    constexpr int kSpiel = kBildgroesse / 8;
+    for (int k = 0; k < kFiguren; ++k)
+        if (!figuren_[k]->isHidden() && std::abs(lagen_[k].x() - platzLeft(feld)) <= kSpiel &&
+            std::abs(lagen_[k].y() - platzTop(feld)) <= kSpiel)
+            return k;
+    return -1;
+}
+
 void BrettFlaeche::ziehenAbbrechen() {
     gezogen_ = -1;
+    if (const int von = std::exchange(getragenVon_, -1); von >= 0) zugangNameGeaendert(this, von);
     if (schwebend_) {
         schwebend_->deleteLater();
         schwebend_->hide();
@@ -183,15 +214,19 @@ void BrettFlaeche::mousePressEvent(QMouseEvent* event) {
     emit figurGedrueckt(k, Maustaste::links);
     if (!ziehbar_()) return;
 
-    // The original image stays where it is until the game makes the move; a copy follows the cursor.
-    gezogen_ = k;
     griff_ = p - figuren_[k]->pos();
+    anheben(k, p - griff_);
+    setCursor(Qt::ClosedHandCursor);
+}
+
+void BrettFlaeche::anheben(int k, QPoint lage) {
+    // The original image stays where it is until the game makes the move; a copy is carried instead.
+    gezogen_ = k;
     schwebend_ = new SvgBild(figuren_[k]->datei(), figuren_[k]->size(), this);
     schwebend_->setDeckkraft(0.75);
-    schwebend_->move(p - griff_);
+    schwebend_->move(lage);
     schwebend_->show();
     schwebend_->raise();
-    setCursor(Qt::ClosedHandCursor);
 }
 
 void BrettFlaeche::mouseMoveEvent(QMouseEvent* event) {
@@ -204,16 +239,20 @@ void BrettFlaeche::mouseMoveEvent(QMouseEvent* event) {
 }
 
 void BrettFlaeche::mouseReleaseEvent(QMouseEvent* event) {
-    if (gezogen_ < 0 || event->button() != Qt::LeftButton) return;
+    if (gezogen_ < 0 || getragenVon_ >= 0 || event->button() != Qt::LeftButton) return;
     const int k = gezogen_;
     const QPoint p = event->position().toPoint();
     ziehenAbbrechen();
     zeigerSetzen(p);
 
-    // Only the drop targets accept a drop; a piece image lying over the point takes it instead. The
-    // board holds the mouse during a drag, so a release over another window arrives here as well.
-    if (figurAn(p) >= 0) return;
+    // The board holds the mouse during a drag, so a release over another window arrives here as well.
     if (QApplication::topLevelAt(event->globalPosition().toPoint()) != window()) return;
+    ablegen(k, p);
+}
+
+void BrettFlaeche::ablegen(int k, QPoint p) {
+    // Only the drop targets accept a drop; a piece image lying over the point takes it instead.
+    if (figurAn(p) >= 0) return;
     const int t = platzAn(p);
     if (t >= 0) emit abgelegt(t, k);
 }

@@ -110,8 +110,15 @@ void BrettFlaeche::hinweiseAnordnen() {
     }
 }
 
+void BrettFlaeche::hinweisZeigen(Hinweis h, bool sichtbar) {
+    hinweisLabel(h)->setVisible(sichtbar);
+}
+
 void BrettFlaeche::changeEvent(QEvent* event) {
-    if (event->type() == QEvent::LanguageChange) hinweiseAnordnen(); // another text may need a smaller face
+    if (event->type() == QEvent::LanguageChange) {
+        hinweiseAnordnen(); // another text may need a smaller face
+        setAccessibleName(tr("Spielbrett"));
+    }
     QWidget::changeEvent(event);
 }
 

@@ -15,6 +15,7 @@
 #include <algorithm>
 
 #include "game/spiel.h"
+#include "ui/ansage.h"
 #include "ui/brett_fenster.h"
 #include "ui/einst_dialog.h"
 #include "ui/highscore_fenster.h"
@@ -59,6 +60,26 @@ template <class W, class Neu> void neuZeigen(QPointer<W>& offen, Neu neu) {
     hervorholen(offen);
 }
 
+const char* tempoName(Tempo t) {
+    switch (t) {
+    case Tempo::sofort:
+        return "sofort";
+    case Tempo::schnell:
+        return "schnell";
+    case Tempo::normal:
+        break;
+    case Tempo::langsam:
+        return "langsam";
+    }
+    return "normal";
+}
+
+Tempo tempoAusName(const QString& name) {
+    for (Tempo t : {Tempo::sofort, Tempo::schnell, Tempo::langsam})
+        if (name == QLatin1String(tempoName(t))) return t;
+    return Tempo::normal;
+}
+
 } // namespace
 
 void BrettFenster::menueAnlegen() {
@@ -75,7 +96,9 @@ void BrettFenster::menueAnlegen() {
     spielMenue->setObjectName(QStringLiteral("spiel"));
     // "Neu" also stops a game being shown; "Start" waits until what the game reported has been seen.
     wartendeBefehle_.push_back(aktion(spielMenue, "start", QT_TR_NOOP("&Start"), [this] { neu(); }));
-    aktion(spielMenue, "Neu", QT_TR_NOOP("&Neu"), [this] { neu(); });
+    aktion(spielMenue, "Neu", QT_TR_NOOP("&Neu"), [this] {
+        neu();
+    })->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_N));
     tippAktion_ = aktion(spielMenue, "tipp", QT_TR_NOOP("&Tipp"), [this] { tippZeigen(); });
     tippAktion_->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_T));
     connect(spielMenue, &QMenu::aboutToShow, this, &BrettFenster::befehleAbgleichen);
@@ -83,7 +106,9 @@ void BrettFenster::menueAnlegen() {
     tempoMenue(spielMenue);
     spracheMenue(spielMenue);
     spielMenue->addSeparator();
-    aktion(spielMenue, "Beenden", QT_TR_NOOP("&Beenden"), [] { QApplication::quit(); });
+    aktion(spielMenue, "Beenden", QT_TR_NOOP("&Beenden"), [] {
+        QApplication::quit();
+    })->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Q));
 
     // A command right on the menu bar, as the game has always had it.
     QAction* einstellungen = menuBar()->addAction(QString());
@@ -109,9 +134,22 @@ void BrettFenster::menueAnlegen() {
         // The help always opens at its first topic, also when it was left open elsewhere.
         einmalZeigen(hilfe_, [this] { return new HilfeFenster(this); });
         hilfe_->zumAnfang();
-    });
+    })->setShortcut(QKeySequence(Qt::Key_F1));
     aktion(hilfe, "info", QT_TR_NOOP("&Info"),
            [this] { einmalZeigen(info_, [this] { return new InfoWin(this); }); });
+}
+
+void BrettFenster::tempoLaden() {
+    wiedergabe_.setTempo(tempoAusName(fensterEinstellungen().value(QStringLiteral("tempo")).toString()));
+    tempoSetzen(wiedergabe_.tempo());
+}
+
+void BrettFenster::tempoSetzen(Tempo t) {
+    wiedergabe_.setTempo(t);
+    fensterEinstellungen().setValue(QStringLiteral("tempo"), QString::fromLatin1(tempoName(t)));
+    const std::array<Tempo, 3> stufen = {Tempo::schnell, Tempo::normal, Tempo::langsam};
+    for (size_t i = 0; i < stufen.size(); ++i)
+        if (tempoAktionen_[i]) tempoAktionen_[i]->setChecked(stufen[i] == t);
 }
 
 void BrettFenster::tempoMenue(QMenu* menue) {
@@ -150,6 +188,8 @@ void BrettFenster::statusleisteAnlegen() {
         leiste->addWidget(label, anteile[i]);
         panels_[i] = label;
     }
+    ansage_ = new Ansage(*brett_, leiste);
+    leiste->addWidget(ansage_, 1);
 }
 
 void BrettFenster::einstellungenZeigen() {

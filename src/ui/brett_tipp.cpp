@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "game/spiel.h"
+#include "ui/ansage.h"
 #include "ui/brett_fenster.h"
 #include "ui/brett_flaeche.h"
 
@@ -37,6 +38,7 @@ void BrettFenster::tippZeigen() {
     std::vector<int> felder{feldNummer(wahl.begin()->vonX, wahl.begin()->vonY)};
     for (const Teilzug& z : wahl)
         felder.push_back(feldNummer(z.nachX, z.nachY));
+    ansage_->tipp(felder);
     brett_->tippZeigen(std::move(felder));
     tippUhr_.start(kTippDauer);
 }

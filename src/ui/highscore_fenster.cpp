@@ -99,6 +99,7 @@ HighscoreFenster::HighscoreFenster(Seite seite, Oeffentlich& spiel, std::filesys
             name = new QLineEdit(this);
             name->setObjectName(QStringLiteral("name1_%1").arg(i));
             name->setMaxLength(kNamenlaenge);
+            name->setAccessibleName(tr("Ihr Name für Platz %1").arg(i + 1));
             tabelle->addWidget(name, i + 1, 2);
             connect(name, &QLineEdit::textEdited, this,
                     [this](const QString& text) { liste_.nameSetzen(text.toStdString()); });

@@ -53,6 +53,7 @@ HilfeFenster::HilfeFenster(QWidget* parent) : QWidget(parent, Qt::Window) {
 
     browser_ = new QTextBrowser(this);
     browser_->setObjectName(QStringLiteral("browser"));
+    browser_->setAccessibleName(tr("Hilfetext"));
     browser_->setOpenExternalLinks(true);
     haupt->addWidget(browser_);
     browser_->setSource(startseite());

@@ -31,6 +31,7 @@ class QMenu;
 
 namespace fuh {
 
+class Ansage;
 class BrettFlaeche;
 class EinstDialog;
 class HighscoreFenster;
@@ -107,6 +108,7 @@ class BrettFenster : public QMainWindow, public Ansicht {
     // Menu and the other windows (brett_menue.cpp).
     void menueAnlegen();
     void tempoMenue(QMenu* menue);
+    void tempoLaden();
     void statusleisteAnlegen();
     // The player's language (brett_sprache.cpp).
     void spracheMenue(QMenu* menue);
@@ -125,6 +127,7 @@ class BrettFenster : public QMainWindow, public Ansicht {
     Zufall zufall_;
     std::unique_ptr<Spiel> spiel_;
     BrettFlaeche* brett_ = nullptr;
+    Ansage* ansage_ = nullptr;
     std::array<QLabel*, 3> panels_{};
     std::array<QString, 3> panelTexte_{}; // as the game wrote them, in German
     Beschriftung texte_{staticMetaObject};

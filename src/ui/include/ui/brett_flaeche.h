@@ -4,7 +4,8 @@
 
 #pragma once
 // The board area: the board picture, the 49 drop targets, the 22 piece images and the four prompts.
-// It turns mouse presses and drags into two signals; whether a move is legal is the game's business.
+// It turns mouse presses and drags, and the same gestures made with the keyboard cursor, into two
+// signals; whether a move is legal is the game's business.
 // The game places everything in twips on a board of 400 x 400 pixels; this widget shows that board as
 // the largest square that fits, centred, and scales pieces, targets and prompts with it.
 #include <QLabel>
@@ -24,7 +25,8 @@ namespace fuh {
 class BrettFlaeche : public QWidget {
     Q_OBJECT
   public:
-    static constexpr int kSeite = 400; // the board picture at scale 1, logical pixels
+    static constexpr int kSeite = 400;                      // the board picture at scale 1, logical pixels
+    static constexpr bool istFuchs(int k) { return k < 2; } // pieces 0 and 1 are the foxes
 
     // `ziehbar` tells whether a left press may start a drag now.
     explicit BrettFlaeche(std::function<bool()> ziehbar, QWidget* parent = nullptr);
@@ -37,9 +39,13 @@ class BrettFlaeche : public QWidget {
     double skala() const { return seite_ / double{kSeite}; }
     // The widget point of a point in twips.
     QPointF abbild(double left, double top) const;
+    // Where the target of a square is drawn now.
+    QRect feldRechteck(int feld) const;
 
-    // Positions in twips.
+    // Positions in twips. A step of a slide leaves the points' names as they were until the move is
+    // marked (zugMarkieren, markierungLoeschen) or another piece is set.
     void figurSetzen(int k, int left, int top);
+    void figurGleiten(int k, int left, int top);
     void figurZeigen(int k, bool sichtbar);
     void hinweisZeigen(Hinweis h, bool sichtbar);
 
@@ -58,8 +64,20 @@ class BrettFlaeche : public QWidget {
     // The drop target under `p`, or -1.
     int platzAn(QPoint p) const;
 
+    // The piece image standing on square `feld`, or -1.
+    int figurAuf(int feld) const;
+    // The same as screen readers know it: not changed by a slide until the move has been marked.
+    int angesagteFigur(int feld) const { return inhalt_[feld]; }
+
     bool ziehtGerade() const { return gezogen_ >= 0; }
     void ziehenAbbrechen();
+
+    // The keyboard cursor: always on a point of the cross, the centre at first. A piece picked up with
+    // the keyboard travels with it until it is dropped or put back.
+    static constexpr int kMitte = 24;
+    int cursor() const { return cursor_; }
+    int getragenVon() const { return getragenVon_; } // -1 when the keyboard carries no piece
+    void cursorSetzen(int feld);
 
     QSize minimumSizeHint() const override { return {kSeite, kSeite}; }
     QSize sizeHint() const override { return {kSeite, kSeite}; }
@@ -76,13 +94,30 @@ class BrettFlaeche : public QWidget {
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
 
   private:
     QRect figurRechteck(int k) const;
+    QRect bildRechteck(QPoint twips) const; // an image whose top left corner stands there
+    QRect getragenRechteck() const;         // a piece carried by the keyboard, lifted off the cursor
+    QPoint mitte(int feld) const;           // widget point at the centre of a square's target
     // The prompts (brett_hinweise.cpp).
     void hinweiseAnlegen();
     void hinweiseAnordnen();
     void zeigerSetzen(QPoint p);
+    // The floating copy of piece k, shown lifted while it is dragged or carried by the keyboard.
+    void anheben(int k, QPoint lage);
+    // The one way a drop reaches the game: only onto a target that no piece image covers.
+    void ablegen(int k, QPoint p);
+    void cursorZeichnen(QPainter& painter) const;
+    // The keyboard's gestures on the cursor's point.
+    void aufnehmenOderAblegen();
+    void rechtsDruecken();
+    // Screen readers hear of points whose piece changed.
+    void inhaltAbgleichen();
 
     std::function<bool()> ziehbar_;
     std::array<SvgBild*, kFiguren> figuren_{};
@@ -95,7 +130,10 @@ class BrettFlaeche : public QWidget {
     std::vector<int> tipp_;
     SvgBild* schwebend_ = nullptr; // the copy that follows the cursor during a drag
     int gezogen_ = -1;
-    QPoint griff_; // cursor offset inside the dragged image
+    QPoint griff_;         // cursor offset inside the dragged image
+    int getragenVon_ = -1; // the point a piece carried by the keyboard cursor was picked up from
+    int cursor_ = kMitte;
+    std::array<int, kFelder> inhalt_{}; // the piece screen readers know on each point, or -1
 };
 
 } // namespace fuh

@@ -1,0 +1,262 @@
+// SPDX-FileCopyrightText: 2026 The Fuchs und Hennen authors
+//
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// The game without a mouse: the keyboard cursor on the board, the standard shortcuts, and what a
+// screen reader is told about the board and the computer's moves.
+#include <QAccessible>
+#include <QKeySequence>
+#include <QSignalSpy>
+#include <QStatusBar>
+#include <QTest>
+#include <vector>
+
+#include "fenster_aufbau.h"
+#include "ui/ansage.h"
+#include "ui/brett_zugang.h"
+#include "ui/highscore_fenster.h"
+#include "ui/hilfe_fenster.h"
+
+using namespace fuh;
+using namespace fuh::test;
+
+namespace {
+
+// Everything said to screen readers, in order, as one text.
+QString ansagen(QSignalSpy& spy) {
+    QStringList texte;
+    for (const QList<QVariant>& signal : spy)
+        texte << signal.at(0).toString();
+    return texte.join(QLatin1Char('\n'));
+}
+
+void aktivieren(Aufbau& a) {
+    a.fenster->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(a.fenster.get()));
+}
+
+void taste(Aufbau& a, Qt::Key k) {
+    QTest::keyClick(a.brett(), k);
+}
+
+// Moves the keyboard cursor to `ziel` with the arrow keys only, along the cross.
+void fahren(Aufbau& a, int ziel) {
+    for (int schritt = 0; schritt < 16 && a.brett()->cursor() != ziel; ++schritt) {
+        const int c = a.brett()->cursor();
+        const int dx = feldX(ziel) - feldX(c), dy = feldY(ziel) - feldY(c);
+        if (dx != 0) taste(a, dx < 0 ? Qt::Key_Left : Qt::Key_Right);
+        if (a.brett()->cursor() == c && dy != 0) taste(a, dy < 0 ? Qt::Key_Up : Qt::Key_Down);
+    }
+    QCOMPARE(a.brett()->cursor(), ziel);
+}
+
+QString name(QAccessibleInterface* i) {
+    return i ? i->text(QAccessible::Name) : QStringLiteral("(keines)");
+}
+
+} // namespace
+
+class TastaturTest : public QObject {
+    Q_OBJECT
+  private slots:
+    void cursorBleibtAufDemKreuz() {
+        Aufbau a;
+        aktivieren(a);
+        QCOMPARE(QApplication::focusWidget(), a.brett());
+        QCOMPARE(a.brett()->cursor(), feldNummer(3, 3));
+        // At the cross's outer corners the keys that lead off it leave the cursor where it is.
+        const std::vector<std::pair<int, std::vector<Qt::Key>>> ecken = {
+            {feldNummer(0, 2), {Qt::Key_Up, Qt::Key_Left}},
+            {feldNummer(2, 0), {Qt::Key_Up, Qt::Key_Left}},
+            {feldNummer(4, 6), {Qt::Key_Down, Qt::Key_Right}}};
+        for (const auto& [ecke, tasten] : ecken) {
+            fahren(a, ecke);
+            for (Qt::Key k : tasten)
+                taste(a, k);
+            QCOMPARE(a.brett()->cursor(), ecke);
+        }
+    }
+
+    void punkteFuerDenScreenreader() {
+        Aufbau a;
+        aktivieren(a);
+        QAccessibleInterface* brett = QAccessible::queryAccessibleInterface(a.brett());
+        QVERIFY(brett);
+        QStringList punkte;
+        for (int i = 0; i < brett->childCount(); ++i)
+            if (brett->child(i)->role() == QAccessible::Button) punkte << name(brett->child(i));
+        QCOMPARE(punkte.size(), 33);
+        // Rows count from the bottom: the foxes start on row 5, the hens fill rows 1 to 4.
+        QCOMPARE(punkte.first(), QStringLiteral("c7: leer"));
+        QVERIFY(punkte.contains(QStringLiteral("c5: Fuchs")) && punkte.contains(QStringLiteral("e5: Fuchs")));
+        QVERIFY(punkte.contains(QStringLiteral("d5: leer")) && punkte.contains(QStringLiteral("a4: Henne")));
+        QCOMPARE(punkte.last(), QStringLiteral("e1: Henne"));
+        QCOMPARE(punkte.filter(QStringLiteral("Henne")).size(), 20);
+
+        // The cursor's point is the focused child.
+        QCOMPARE(name(brett->focusChild()), QStringLiteral("d4: Henne"));
+        QVERIFY(brett->focusChild()->state().focused);
+        taste(a, Qt::Key_Up);
+        QCOMPARE(name(brett->focusChild()), QStringLiteral("d5: leer"));
+        QCOMPARE(brett->child(brett->indexOfChild(brett->focusChild())), brett->focusChild());
+        QCOMPARE(name(brett->childAt(a.brett()->mapToGlobal(a.mitte(feldNummer(2, 2))).x(),
+                                     a.brett()->mapToGlobal(a.mitte(feldNummer(2, 2))).y())),
+                 QStringLiteral("c5: Fuchs"));
+
+        // A move renames both of its points; a piece sliding over a point does not.
+        a.aktion("Neu");
+        fahren(a, feldNummer(3, 3));
+        QAccessibleInterface* d4 = brett->focusChild();
+        taste(a, Qt::Key_Return);
+        taste(a, Qt::Key_Up);
+        taste(a, Qt::Key_Return);
+        QCOMPARE(a.spiel().stellung().Feld[3][2], henne);
+        QCOMPARE(name(d4), QStringLiteral("d4: leer"));
+        QCOMPARE(name(brett->focusChild()), QStringLiteral("d5: Henne"));
+        const int k = a.brett()->figurAuf(feldNummer(3, 2));
+        a.brett()->figurGleiten(k, platzLeft(feldNummer(3, 3)), platzTop(feldNummer(3, 3)));
+        QCOMPARE(name(d4), QStringLiteral("d4: leer"));
+    }
+
+    void aufnehmenZuruecklegenUndFalschAblegen() {
+        Aufbau a;
+        aktivieren(a);
+        QSignalSpy abgelegt(a.brett(), &BrettFlaeche::abgelegt);
+        // Locked before a game starts: nothing is picked up.
+        taste(a, Qt::Key_Return);
+        QVERIFY(!a.brett()->ziehtGerade());
+
+        a.aktion("Neu");
+        const Stellung anfang = a.spiel().stellung();
+        QAccessibleInterface* d4 = QAccessible::queryAccessibleInterface(a.brett())->focusChild();
+        taste(a, Qt::Key_Space);
+        QVERIFY(a.brett()->ziehtGerade());
+        QCOMPARE(name(d4), QStringLiteral("d4: Henne, aufgenommen"));
+        taste(a, Qt::Key_Up);
+        taste(a, Qt::Key_Escape);
+        QVERIFY(!a.brett()->ziehtGerade());
+        QCOMPARE(name(d4), QStringLiteral("d4: Henne"));
+        taste(a, Qt::Key_Return); // the cursor's point is empty: nothing to pick up
+        QVERIFY(!a.brett()->ziehtGerade());
+        QCOMPARE(abgelegt.count(), 0);
+
+        // Onto itself, onto a fox, or onto a point the hen cannot reach: the board or the game refuses.
+        for (int ziel : {feldNummer(3, 3), feldNummer(2, 2), feldNummer(3, 0)}) {
+            fahren(a, feldNummer(3, 3));
+            taste(a, Qt::Key_Return);
+            fahren(a, ziel);
+            taste(a, Qt::Key_Return);
+            QVERIFY(!a.brett()->ziehtGerade());
+        }
+        QCOMPARE(abgelegt.count(), 1); // only the empty point reached the game
+        QVERIFY(a.spiel().stellung() == anfang);
+        bilderPruefen(a);
+    }
+
+    void ganzePartieOhneMaus() {
+        Aufbau a({{1, 0, 0, 0}}); // the player has the foxes, so chains of jumps must be closed
+        Antworter antworter;
+        aktivieren(a);
+        QSignalSpy gesagt(a.fenster->findChild<Ansage*>(), &Ansage::angesagt);
+        QTest::keyClick(a.fenster.get(), Qt::Key_N, Qt::ControlModifier);
+        QVERIFY(a.spiel().ziehbar());
+        int geschlossen = 0;
+        for (int zug = 0; zug < 400 && !a.spiel().endeGefunden(); ++zug) {
+            // The player follows the hint, shown on the board by Ctrl+T.
+            QTest::keyClick(a.fenster.get(), Qt::Key_T, Qt::ControlModifier);
+            const std::vector<int> tipp = a.brett()->tipp();
+            QVERIFY2(!tipp.empty(), "no hint while the player is to move");
+            fahren(a, tipp.front());
+            taste(a, Qt::Key_Return);
+            for (size_t i = 1; i < tipp.size(); ++i) {
+                fahren(a, tipp[i]);
+                taste(a, Qt::Key_Return);
+            }
+            if (a.spiel().sprungfolge().imSprung) {
+                QTest::keyClick(a.brett(), Qt::Key_F10, Qt::ShiftModifier);
+                QVERIFY(!a.spiel().sprungfolge().imSprung);
+                ++geschlossen;
+            }
+            QVERIFY(a.spiel().pcZug() != Anforderung::keine || a.spiel().endeGefunden());
+            a.fenster->Timer1_Timer();
+            if (QTest::currentTestFailed()) return;
+        }
+        QVERIFY(a.spiel().endeGefunden());
+        QVERIFY(geschlossen > 0);
+        QTRY_VERIFY(!antworter.texte.empty()); // the result was announced
+        QTRY_VERIFY(a.fenster->findChild<HighscoreFenster*>() &&
+                    a.fenster->findChild<HighscoreFenster*>()->isVisible());
+        // The hints and the end were said to a screen reader as well.
+        QTRY_VERIFY(ansagen(gesagt).contains(antworter.texte.front()));
+        QVERIFY(ansagen(gesagt).contains(QStringLiteral("Tipp: Fuchs ")));
+    }
+
+    void computerzugWirdAngesagt() {
+        Aufbau a;
+        aktivieren(a);
+        a.aktion("Neu");
+        const Stellung vorher = a.spiel().stellung();
+        fahren(a, feldNummer(3, 3));
+        taste(a, Qt::Key_Return);
+        taste(a, Qt::Key_Up);
+        taste(a, Qt::Key_Return);
+        QSignalSpy gesagt(a.fenster->findChild<Ansage*>(), &Ansage::angesagt);
+        a.fenster->Timer1_Timer();
+        // The fox that moved, by where it stood and where it stands now.
+        QString von, nach;
+        for (int s = 0; s < kFelder; ++s) {
+            const int x = feldX(s), y = feldY(s);
+            if (vorher.Feld[x][y] == fuchs && a.spiel().stellung().Feld[x][y] != fuchs) von = feldName(s);
+            if (vorher.Feld[x][y] != fuchs && a.spiel().stellung().Feld[x][y] == fuchs) nach = feldName(s);
+        }
+        // While the computer thinks, its prompt; then its move.
+        QTRY_VERIFY(ansagen(gesagt).contains(QStringLiteral("Fuchs %1 nach %2").arg(von, nach)));
+        const QString texte = ansagen(gesagt);
+        QVERIFY(texte.indexOf(QStringLiteral("Die Füchse sind am Zug.")) <
+                texte.indexOf(QStringLiteral("Fuchs %1 nach %2").arg(von, nach)));
+    }
+
+    void sprungketteInEinemSatz() {
+        BrettFlaeche brett([] { return false; });
+        Ansage ansage(brett);
+        QSignalSpy gesagt(&ansage, &Ansage::angesagt);
+        // As the window shows a move: the piece's image lands first, then the move is reported.
+        auto zug = [&](int k, int von, int nach) {
+            brett.figurSetzen(k, platzLeft(nach), platzTop(nach));
+            ansage.ereignis({Ereignis::Art::zug, von, nach, 0, true, {}});
+        };
+        zug(1, feldNummer(2, 2), feldNummer(2, 4));
+        zug(1, feldNummer(2, 4), feldNummer(4, 4));
+        zug(7, feldNummer(3, 5), feldNummer(3, 4)); // another piece: the chain is complete
+        const QString hinweis = QStringLiteral("Die Füchse sind am Zug.");
+        ansage.sagen(hinweis);
+        QCOMPARE(gesagt.count(), 0); // what appears in one go is said together
+        QTRY_COMPARE(gesagt.count(), 1);
+        QCOMPARE(ansage.text(), QStringLiteral("Fuchs c5 nach c3 nach e3. Henne d2 nach d3. ") + hinweis);
+        ansage.sagen(hinweis);
+        QTRY_COMPARE(gesagt.count(), 2); // said again, heard again
+        QCOMPARE(ansage.text(), hinweis);
+        // A status text is said when it changes.
+        for (const char* punkte : {"Punkte: 237", "Punkte: 237", "Punkte: 240"})
+            ansage.ereignis({Ereignis::Art::status, 3, 0, 0, false, QString::fromLatin1(punkte)});
+        QTRY_COMPARE(gesagt.count(), 3);
+        QCOMPARE(ansage.text(), QStringLiteral("Punkte: 237. Punkte: 240."));
+    }
+
+    void standardkuerzel() {
+        Aufbau a;
+        aktivieren(a);
+        const std::vector<std::pair<const char*, QKeySequence>> kuerzel = {
+            {"Neu", QKeySequence(Qt::CTRL | Qt::Key_N)},
+            {"Beenden", QKeySequence(Qt::CTRL | Qt::Key_Q)},
+            {"help", QKeySequence(Qt::Key_F1)},
+            {"tipp", QKeySequence(Qt::CTRL | Qt::Key_T)}};
+        for (const auto& [aktion, folge] : kuerzel)
+            QCOMPARE(a.fenster->findChild<QAction*>(QString::fromLatin1(aktion))->shortcut(), folge);
+        QTest::keyClick(a.fenster.get(), Qt::Key_F1);
+        QVERIFY(a.fenster->findChild<HilfeFenster*>() && a.fenster->findChild<HilfeFenster*>()->isVisible());
+    }
+};
+
+QTEST_MAIN(TastaturTest)
+#include "tastatur_test.moc"
