@@ -54,6 +54,8 @@ InfoWin::InfoWin(QWidget* parent) : QDialog(parent) {
          QStringLiteral("Neue Versionen, Informationen und Neuigkeiten:<br>"
                         "<span style=\"white-space: nowrap\">https://example.org/fuchs-und-hennen</span>"))
         ->setTextFormat(Qt::RichText);
+    text(QStringLiteral("lizenz"),
+         tr("Freie Software unter der GNU General Public License, Version 3 oder später (GPL-3.0-or-later)"));
     auto* ok = new QPushButton(QStringLiteral("Ok"), this);
     ok->setObjectName(QStringLiteral("Command1"));
     ok->setDefault(true);
