@@ -28,11 +28,13 @@ sanitize: deps
 	cmake --build build-asan -j $(JOBS)
 	cd build-asan && QT_QPA_PLATFORM=offscreen ASAN_OPTIONS=detect_leaks=0 UBSAN_OPTIONS=halt_on_error=1:print_stacktrace=1 ctest --output-on-failure -j $(JOBS)
 
-# A Debian package in $(BUILD)/ (CPack), then checked against the expected file list.
-package: build
-	@scripts/install-deps dpkg-dev file
-	cd $(BUILD) && rm -f fuchs-und-hennen_*.deb && cpack
-	tests/paket/pruefen $(BUILD)/fuchs-und-hennen_*.deb
+# The Debian package, built by dpkg-buildpackage from debian/ in a copy of the tree: the .deb lands in
+# $(PAKET)/, lintian checks it, and its file list is compared with tests/paket/dateiliste.txt.
+PAKET = $(BUILD)/paket
+package:
+	@scripts/install-deps lintian appstream
+	DEB_BUILD_OPTIONS="parallel=$(JOBS) $(DEB_BUILD_OPTIONS)" scripts/paket-bauen $(PAKET)
+	tests/paket/pruefen $(PAKET)/fuchs-und-hennen_*_$$(dpkg --print-architecture).deb
 
 bench: build
 	$(BUILD)/src/tools/benchmarks

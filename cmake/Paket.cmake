@@ -2,11 +2,12 @@
 #
 # SPDX-License-Identifier: GPL-3.0-or-later
 
-# Installation and the Debian package. Included last by the top-level CMakeLists.txt, so the programs are
-# installed by target name wherever their folders define them.
+# Installation. Included last by the top-level CMakeLists.txt, so the programs are installed by target
+# name wherever their folders define them.
 #
 #   cmake --install build --prefix ~/.local   the programs, menu entry, icons, metainfo and man pages
-#   make package                              the same as a .deb in build/ (CPack)
+#   make package                              the same as a Debian package (debian/), programs in
+#                                             /usr/games through CMAKE_INSTALL_BINDIR
 #
 # The help document and the pictures are Qt resources inside the game, so nothing lies next to it.
 include(GNUInstallDirs)
@@ -62,33 +63,3 @@ foreach(programm ${fuh_programme})
 endforeach()
 get_property(fuh_dateien GLOBAL PROPERTY FUH_INSTALL_DATEIEN)
 add_custom_target(fuh_installdateien ALL DEPENDS ${fuh_dateien})
-
-# The Debian package.
-set(CPACK_GENERATOR DEB)
-set(CPACK_PACKAGE_NAME fuchs-und-hennen)
-set(CPACK_PACKAGE_VENDOR "Das Fuchs-und-Hennen-Team")
-set(CPACK_PACKAGE_CONTACT "Das Fuchs-und-Hennen-Team <fuchs-und-hennen@example.org>")
-set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "board game: two foxes hunt twenty hens")
-set(CPACK_PACKAGE_DESCRIPTION "\
-Two foxes hunt twenty hens on a cross-shaped board of 33 points. The hens
-win by filling the nine points at the top; the foxes jump over hens to
-capture them and win when fewer than nine are left.
-
-Play either side against the computer, at three strengths, or watch it play
-both. From strength 2 the computer learns from finished games. The game
-speaks German; selbstspiel plays whole games without a window.")
-set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
-set(CPACK_STRIP_FILES ON)
-set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
-set(CPACK_DEBIAN_PACKAGE_RELEASE 1)
-set(CPACK_DEBIAN_PACKAGE_SECTION games)
-set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)
-set(CPACK_DEBIAN_PACKAGE_HOMEPAGE https://example.org/fuchs-und-hennen)
-set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
-# Qt loads its platform plugins at run time, where dpkg-shlibdeps cannot see them; libqt6gui6 only
-# recommends them, so an install without recommends would leave a game that cannot open a window.
-set(CPACK_DEBIAN_PACKAGE_DEPENDS qt6-qpa-plugins)
-# Wayland sessions, and Qt's standard buttons in German.
-set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "qt6-wayland, qt6-translations-l10n")
-set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
-include(CPack)

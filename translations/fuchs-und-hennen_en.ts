@@ -387,6 +387,10 @@
         <source>Ok</source>
         <translation>OK</translation>
     </message>
+    <message>
+        <source>Freie Software unter der GNU General Public License, Version 3 oder später (GPL-3.0-or-later)</source>
+        <translation>Free software under the GNU General Public License, version 3 or later (GPL-3.0-or-later)</translation>
+    </message>
 </context>
 <context>
     <name>fuh::StatForm</name>

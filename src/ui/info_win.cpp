@@ -59,6 +59,10 @@ InfoWin::InfoWin(QWidget* parent) : QDialog(parent) {
                                               "<span style=\"white-space: nowrap\">"
                                               "https://example.org/fuchs-und-hennen</span>"))
         ->setTextFormat(Qt::RichText);
+    text(
+        QStringLiteral("lizenz"),
+        QT_TR_NOOP(
+            "Freie Software unter der GNU General Public License, Version 3 oder später (GPL-3.0-or-later)"));
     auto* ok = new QPushButton(this);
     texte_.text(ok, QT_TR_NOOP("Ok"));
     ok->setObjectName(QStringLiteral("Command1"));

@@ -291,6 +291,7 @@ class FensterTest : public QObject {
         info->show();
         QCOMPARE(text(info, "Label1"), QStringLiteral("Fuchs und Hennen 2026"));
         QVERIFY(text(info, "email").contains(QStringLiteral("mailto:fuchs-und-hennen@example.org")));
+        QVERIFY(text(info, "lizenz").contains(QStringLiteral("GPL-3.0-or-later")));
         // It looks like a link, but like every label of the box it ignores clicks.
         auto* mail = kind<QLabel>(info, QStringLiteral("email"));
         QSignalSpy angeklickt(mail, &QLabel::linkActivated);
