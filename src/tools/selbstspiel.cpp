@@ -4,6 +4,7 @@
 
 // selbstspiel: the game without a window, for tests, learning runs and benchmarks.
 #include <ctime>
+#include <exception>
 #include <filesystem>
 #include <iostream>
 
@@ -26,8 +27,14 @@ int main(int argc, char** argv) {
         std::cerr << "selbstspiel: " << fehler << '\n';
         return 2;
     }
-    fuh::selbstspiel(*optionen, optionen->seed.value_or(sekundenSeitMitternacht()),
-                     std::filesystem::current_path(), std::cout);
+    try {
+        fuh::selbstspiel(*optionen, optionen->seed.value_or(sekundenSeitMitternacht()),
+                         std::filesystem::current_path(), std::cout);
+    } catch (const std::exception& e) {
+        std::cout.flush();
+        std::cerr << "selbstspiel: " << e.what() << '\n';
+        return 1;
+    }
     std::cout.flush();
     return 0;
 }

@@ -59,6 +59,10 @@ std::optional<Optionen> optionenLesen(const std::vector<std::string>& args, std:
             o.protokoll = true;
             continue;
         }
+        if (a == "--fortsetzen-pruefen") {
+            o.fortsetzenPruefen = true;
+            continue;
+        }
         if (a != "--spiele" && a != "--pc" && a != "--staerke" && a != "--seed" && a != "--fuchs" &&
             a != "--hennen" && a != "--bedenkzeit") {
             fehler = "unbekanntes Argument: " + a;

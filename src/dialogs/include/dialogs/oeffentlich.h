@@ -19,6 +19,7 @@ struct Einstellungen {
     int16_t Einzelzug = 0; // 1 single-move mode
 
     Computer computer() const { return static_cast<Computer>(PC); }
+    friend bool operator==(const Einstellungen&, const Einstellungen&) = default;
 };
 
 struct Oeffentlich {
@@ -27,6 +28,7 @@ struct Oeffentlich {
     std::string u_is_sieger = "    "; // "Ja", "Nein" or four blanks
     bool fuchs_null = false;          // the penalty rule would have parked the last fox
     bool sw_spielende = false;        // a finished game may still be entered in a high-score list
+    friend bool operator==(const Oeffentlich&, const Oeffentlich&) = default;
 };
 
 } // namespace fuh
