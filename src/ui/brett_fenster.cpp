@@ -115,6 +115,7 @@ BrettFenster::BrettFenster(std::filesystem::path ordner, uint32_t startzeit, QWi
 }
 
 BrettFenster::~BrettFenster() {
+    partieSichern();
     fensterEinstellungen().setValue(QStringLiteral("geometrie"), saveGeometry());
 }
 
@@ -221,6 +222,7 @@ void BrettFenster::befehleAbgleichen() {
     for (QAction* a : wartendeBefehle_)
         a->setEnabled(frei);
     if (tippAktion_) tippAktion_->setEnabled(frei && spiel_ && spiel_->tippMoeglich());
+    if (zurueckAktion_) zurueckAktion_->setEnabled(frei && spiel_ && spiel_->zuruecknehmenMoeglich());
 }
 
 void BrettFenster::zeigen(const Ereignis& e) {
@@ -240,6 +242,7 @@ void BrettFenster::zeigen(const Ereignis& e) {
         break;
     case Ereignis::Art::status:
         panel(e.a)->setText(e.text);
+        if (e.a == static_cast<int>(Statusfeld::zuruecknahme)) panel(e.a)->setVisible(!e.text.isEmpty());
         break;
     case Ereignis::Art::zugbegrenzung:
         statusBar()->showMessage(QStringLiteral("Remis: Zugbegrenzung erreicht"));

@@ -70,6 +70,11 @@ class BrettFenster : public QMainWindow, public Ansicht {
     void meisterSetzen(bool meister);
     // Spiel -> Tipp: the move the computer would make for the player, marked on the board for a while.
     void tippZeigen();
+    // Spiel -> Zug zurücknehmen: the player's last move and the computer's reply to it.
+    void zuruecknehmen();
+    // At start-up: a game saved when the program last ended is offered to be continued, else dropped.
+    // From now on a game still running when the window goes is saved to `datei`.
+    void fortsetzenAnbieten(const std::filesystem::path& datei);
 
     // Ansicht: every report is queued and shown in order by the playback.
     void figurBewegt(int k, int left, int top) override;
@@ -89,6 +94,7 @@ class BrettFenster : public QMainWindow, public Ansicht {
 
   private:
     void meisterAnwenden();
+    void partieSichern();
     // Commands and their pacing.
     void neu();
     void spielWeiter(); // after every call into the game: show what it reported
@@ -114,7 +120,7 @@ class BrettFenster : public QMainWindow, public Ansicht {
     Zufall zufall_;
     std::unique_ptr<Spiel> spiel_;
     BrettFlaeche* brett_ = nullptr;
-    std::array<QLabel*, 3> panels_{};
+    std::array<QLabel*, 4> panels_{};
     QTimer timer1_;
     Wiedergabe wiedergabe_;
     QTimer naechsterZug_; // the rest between two moves of a game the computer plays itself
@@ -125,7 +131,9 @@ class BrettFenster : public QMainWindow, public Ansicht {
     std::vector<QAction*> wartendeBefehle_; // disabled while busy
     std::array<QAction*, 3> tempoAktionen_{};
     QAction* tippAktion_ = nullptr;
-    QTimer tippUhr_; // how long a hint stays on the board
+    QAction* zurueckAktion_ = nullptr;
+    std::filesystem::path partieDatei_; // empty: a running game is not kept
+    QTimer tippUhr_;                    // how long a hint stays on the board
     bool meister_ = false;
     uint32_t startzeit_ = 0;
     QPointer<EinstDialog> einst_;
