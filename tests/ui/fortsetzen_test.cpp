@@ -10,6 +10,7 @@
 #include <QTest>
 #include <QTimer>
 
+#include "dialogs/statistikdatei.h"
 #include "fenster_aufbau.h"
 #include "game/partiedatei.h"
 
@@ -72,6 +73,31 @@ class FortsetzenTest : public QObject {
         QVERIFY(!a.spiel().laeuft());
         a.starten();
         QVERIFY(!std::filesystem::exists(datei));
+    }
+
+    // The computer against itself, shown move by move: continued, it plays on to the end by itself.
+    void selbstspielFortsetzen() {
+        Aufbau a(std::vector<char>{2, 0, 0, 0}, Tempo::normal);
+        const std::filesystem::path datei = a.pfad() / "partie";
+        a.fenster->fortsetzenAnbieten(datei);
+        a.aktion("Neu");
+        QVERIFY(a.spiel().selbstspielLaeuft());
+        a.starten();
+        a.fenster->tempoSetzen(Tempo::sofort);
+        // "Ja" to the question, OK to the announcement of the end.
+        QTimer antworten;
+        QObject::connect(&antworten, &QTimer::timeout, [] {
+            if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
+                if (QAbstractButton* ja = box->button(QMessageBox::Yes))
+                    ja->click();
+                else
+                    box->accept();
+            }
+        });
+        antworten.start(5);
+        a.fenster->fortsetzenAnbieten(datei);
+        QTRY_VERIFY(a.spiel().endeGefunden());
+        QCOMPARE(statistikLesen(a.pfad()).beendet(), int16_t{1});
     }
 };
 
