@@ -106,6 +106,14 @@
         <source>Der ausgeschlossene Fuchs wird wieder eingesetzt</source>
         <translation>The excluded fox is put back on the board</translation>
     </message>
+    <message>
+        <source>Die gespeicherte Partie ist beschädigt und wurde verworfen.</source>
+        <translation>The saved game is damaged and was discarded.</translation>
+    </message>
+    <message>
+        <source>Zurückgenommen: keine Bestenliste</source>
+        <translation>Move taken back: no high score</translation>
+    </message>
 </context>
 <context>
     <name>fuh::Ansage</name>
@@ -207,6 +215,14 @@
     <message>
         <source>&amp;English</source>
         <translation>&amp;English</translation>
+    </message>
+    <message>
+        <source>Die letzte Partie fortsetzen?</source>
+        <translation>Continue the last game?</translation>
+    </message>
+    <message>
+        <source>Zug &amp;zurücknehmen</source>
+        <translation>&amp;Undo move</translation>
     </message>
 </context>
 <context>

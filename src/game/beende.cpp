@@ -9,22 +9,27 @@
 namespace fuh {
 
 void Spiel::beende() {
-    if (ergebnis_ == Ergebnis::hennen) partie_.sanktion(3, -3, 1);
-    if (ergebnis_ == Ergebnis::fuchs) partie_.sanktion(-3, 3, 1);
-    if (ergebnis_ == Ergebnis::remis) oeff_.sw_spielende = false;
+    if (z_.ergebnis == Ergebnis::hennen) z_.partie.sanktion(3, -3, 1);
+    if (z_.ergebnis == Ergebnis::fuchs) z_.partie.sanktion(-3, 3, 1);
+    if (z_.ergebnis == Ergebnis::remis) z_.oeff.sw_spielende = false;
     ansicht_.hinweis(Hinweis::speichern_msg, true);
     std::vector<std::string> fehler;
-    if (oeff_.einst.Lernmodus == 1) {
-        const auto merge = lerndatei_.speichern(partie_, oeff_.einst.Staerke);
-        neueZuege_ = merge.neueZuege;
-        if (!merge.geschrieben) fehler.emplace_back(lerndateiName(oeff_.einst.Staerke));
+    if (z_.oeff.einst.Lernmodus == 1) {
+        const auto merge = lerndatei_.speichern(z_.partie, z_.oeff.einst.Staerke);
+        z_.neueZuege = merge.neueZuege;
+        if (!merge.geschrieben) fehler.emplace_back(lerndateiName(z_.oeff.einst.Staerke));
     }
-    if (!statistik(ordner_, static_cast<int>(ergebnis_), oeff_.einst, neueZuege_))
+    if (!statistik(ordner_, static_cast<int>(z_.ergebnis), z_.oeff.einst, z_.neueZuege))
         fehler.emplace_back(kStatistikdatei);
     meldeSchreibfehler(fehler);
     ansicht_.hinweis(Hinweis::speichern_msg, false);
-    if (oeff_.einst.computer() == Computer::fuchs) ansicht_.oeffnen(Fenster::highh);
-    if (oeff_.einst.computer() == Computer::hennen) ansicht_.oeffnen(Fenster::highf);
+    // Taking moves back could improve any score: such a game is filed and learned from, but not listed.
+    if (z_.zurueckgenommen) {
+        z_.oeff.sw_spielende = false;
+        return;
+    }
+    if (z_.oeff.einst.computer() == Computer::fuchs) ansicht_.oeffnen(Fenster::highh);
+    if (z_.oeff.einst.computer() == Computer::hennen) ansicht_.oeffnen(Fenster::highf);
 }
 
 } // namespace fuh

@@ -9,28 +9,34 @@
 namespace fuh {
 
 void Spiel::platz_DragDrop(int t, int k) {
-    if (!bilder_.ziehbar || t < 0 || t >= kFelder || k < 0 || k >= kFiguren) return;
-    const int von = stellung_.figurplatz[k];
-    Teilzug& r = zugregister_;
+    if (!z_.bilder.ziehbar || t < 0 || t >= kFelder || k < 0 || k >= kFiguren) return;
+    const int von = z_.stellung.figurplatz[k];
+    Teilzug& r = z_.zugregister;
+    const Teilzug vorher = r;
     r = {static_cast<int16_t>(feldX(von)), static_cast<int16_t>(feldY(von)), static_cast<int16_t>(feldX(t)),
          static_cast<int16_t>(feldY(t))};
-    const Computer PC = oeff_.einst.computer();
-    if (!korrekterZug(stellung_.Feld, PC, sprungfolge_, r.vonX, r.vonY, r.nachX, r.nachY)) return;
+    const Computer PC = z_.oeff.einst.computer();
+    if (!korrekterZug(z_.stellung.Feld, PC, z_.sprungfolge, r.vonX, r.vonY, r.nachX, r.nachY)) return;
+    // A jump that continues a sequence belongs to the move that began it.
+    if (!z_.sprungfolge.imSprung) {
+        verlauf_.push_back(zustand());
+        verlauf_.back().zugregister = vorher;
+    }
     zug(true);
-    if (endecheck(stellung_.Feld[r.nachX][r.nachY])) return;
-    if (oeff_.einst.Einzelzug != 0) return;
+    if (endecheck(z_.stellung.Feld[r.nachX][r.nachY])) return;
+    if (z_.oeff.einst.Einzelzug != 0) return;
     if (r.nachX == r.vonX && r.nachY == r.vonY) return;
-    if (PC == Computer::hennen && !sprungfolge_.imSprung)
-        pcZug_ = Anforderung::hennen;
+    if (PC == Computer::hennen && !z_.sprungfolge.imSprung)
+        z_.pcZug = Anforderung::hennen;
     else if (PC == Computer::fuchs)
-        pcZug_ = Anforderung::fuchs;
+        z_.pcZug = Anforderung::fuchs;
 }
 
 void Spiel::figur_MouseDown(int /*k*/, Maustaste button) {
-    if (button != Maustaste::rechts || !sprungfolge_.imSprung) return;
-    sprungfolge_.imSprung = false;
+    if (button != Maustaste::rechts || !z_.sprungfolge.imSprung) return;
+    z_.sprungfolge.imSprung = false;
     ansicht_.hinweis(Hinweis::spr_msg, false);
-    pcZug_ = Anforderung::hennen;
+    z_.pcZug = Anforderung::hennen;
 }
 
 } // namespace fuh

@@ -15,8 +15,8 @@ namespace fuh {
 
 Spiel::Spiel(Ansicht& ansicht, Zufall& zufall, std::filesystem::path ordner)
     : ansicht_(ansicht), zufall_(zufall), ordner_(std::move(ordner)), lerndatei_(ordner_) {
-    stellung_.grundstellung();
-    bilder_.aufstellen(stellung_);
+    z_.stellung.grundstellung();
+    z_.bilder.aufstellen(z_.stellung);
 }
 
 Spiel::~Spiel() = default;
@@ -38,58 +38,68 @@ void Spiel::Form_Load(uint32_t sekundenSeitMitternacht) {
 
 void Spiel::init() {
     if (festeEinstellungen_)
-        oeff_.einst = *festeEinstellungen_;
+        z_.oeff.einst = *festeEinstellungen_;
     else
-        einstellungenLesen(ordner_, oeff_.einst);
-    oeff_.score = 0;
-    oeff_.u_is_sieger = "    ";
-    oeff_.fuchs_null = false;
-    zugregister_ = {};
-    oeff_.sw_spielende = false;
-    stellung_.grundstellung();
-    sprungfolge_.imSprung = false;
-    partie_.spielzug = 0;
-    selbstspielLaeuft_ = false;
+        einstellungenLesen(ordner_, z_.oeff.einst);
+    z_.oeff.score = 0;
+    z_.oeff.u_is_sieger = "    ";
+    z_.oeff.fuchs_null = false;
+    z_.zugregister = {};
+    z_.oeff.sw_spielende = false;
+    z_.stellung.grundstellung();
+    z_.sprungfolge.imSprung = false;
+    z_.partie.spielzug = 0;
+    z_.selbstspielLaeuft = false;
+    verlauf_.clear();
+    if (z_.zurueckgenommen) ansicht_.status(Statusfeld::zuruecknahme, "");
+    z_.zurueckgenommen = false;
     statusTexte();
 }
 
 void Spiel::statusTexte() {
-    if (const auto text = pcStatustext(oeff_.einst.PC)) ansicht_.status(Statusfeld::seite, *text);
+    if (const auto text = pcStatustext(z_.oeff.einst.PC)) ansicht_.status(Statusfeld::seite, *text);
     const auto meister = [](const std::optional<Spieler>& s) { return s && s->meister; };
     if (meister(spielerwahl_.fuchs) || meister(spielerwahl_.hennen))
         ansicht_.status(Statusfeld::staerke, kMeisterStatustext);
-    else if (const auto text = staerkeStatustext(oeff_.einst.Staerke))
+    else if (const auto text = staerkeStatustext(z_.oeff.einst.Staerke))
         ansicht_.status(Statusfeld::staerke, *text);
+}
+
+void Spiel::punkteZeigen(std::string text) {
+    z_.punkte = std::move(text);
+    ansicht_.status(Statusfeld::punkte, z_.punkte);
 }
 
 void Spiel::Neu_Click() {
     init();
     if (!spielGestartet(ordner_)) meldeSchreibfehler({kStatistikdatei});
-    bilder_.aufstellen(stellung_);
+    z_.bilder.aufstellen(z_.stellung);
     for (int k = 0; k < kFiguren; ++k) {
-        ansicht_.figurBewegt(k, bilder_.left[k], bilder_.top[k]);
+        ansicht_.figurBewegt(k, z_.bilder.left[k], z_.bilder.top[k]);
         ansicht_.figurSichtbar(k, true);
     }
     sperren(true);
-    endeGefunden_ = false;
-    letztesErgebnis_ = Ergebnis::offen;
+    z_.endeGefunden = false;
+    z_.letztesErgebnis = Ergebnis::offen;
     // A jump sequence of the last game is over; its prompt must not linger.
     ansicht_.hinweis(Hinweis::spr_msg, false);
     spielBeginnen();
 }
 
 void Spiel::sperren(bool ziehbar) {
-    bilder_.ziehbar = ziehbar;
+    z_.bilder.ziehbar = ziehbar;
     ansicht_.figurenZiehbar(ziehbar);
 }
 
 void Spiel::einstellungenUebernehmen(const Einstellungen& e) {
-    oeff_.einst = e;
+    // The moves so far were made under the old settings; taking them back would bring those back too.
+    if (!(e == z_.oeff.einst)) verlauf_.clear();
+    z_.oeff.einst = e;
 }
 
 void Spiel::einstellungenFestlegen(const Einstellungen& e) {
     festeEinstellungen_ = e;
-    oeff_.einst = e;
+    z_.oeff.einst = e;
 }
 
 void Spiel::meldeSchreibfehler(const std::vector<std::string>& dateien) {
@@ -106,8 +116,8 @@ void Spiel::meldeSchreibfehler(const std::vector<std::string>& dateien) {
 }
 
 void Spiel::zug(bool normal) {
-    Zugumgebung u{stellung_, zugregister_, sprungfolge_, bilder_, ansicht_, partie_};
-    fuh::zug(u, oeff_.einst.computer(), normal);
+    Zugumgebung u{z_.stellung, z_.zugregister, z_.sprungfolge, z_.bilder, ansicht_, z_.partie};
+    fuh::zug(u, z_.oeff.einst.computer(), normal);
 }
 
 } // namespace fuh

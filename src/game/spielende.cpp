@@ -16,27 +16,27 @@ constexpr int kHoechstpunkte = 640; // the foxes' points are this minus the hens
 
 bool Spiel::endecheck(int16_t figur) {
     bool ergebnis = false;
-    partie_.pstoSits(stellung_.Feld, zugregister_);
+    z_.partie.pstoSits(z_.stellung.Feld, z_.zugregister);
     spielende(figur);
-    if (partie_.spielzug == kZugbegrenzung) {
-        ergebnis_ = Ergebnis::remis;
+    if (z_.partie.spielzug == kZugbegrenzung) {
+        z_.ergebnis = Ergebnis::remis;
         sperren(false); // no move may be recorded past the position table
         ansicht_.zugbegrenzungErreicht();
     }
-    if (ergebnis_ != Ergebnis::offen) {
-        oeff_.sw_spielende = true;
+    if (z_.ergebnis != Ergebnis::offen) {
+        z_.oeff.sw_spielende = true;
         ergebnis = true;
-        endeGefunden_ = true;
-        letztesErgebnis_ = ergebnis_;
+        z_.endeGefunden = true;
+        z_.letztesErgebnis = z_.ergebnis;
         // A jump sequence cannot go on after the end; its prompt would only invite a reply.
-        if (sprungfolge_.imSprung) {
-            sprungfolge_.imSprung = false;
+        if (z_.sprungfolge.imSprung) {
+            z_.sprungfolge.imSprung = false;
             ansicht_.hinweis(Hinweis::spr_msg, false);
         }
     }
     const auto p = punkte();
-    ansicht_.status(Statusfeld::punkte, einsetzen(kPunkteText, {p ? std::to_string(*p) : std::string()}));
-    if (oeff_.sw_spielende) beende();
+    punkteZeigen(einsetzen(kPunkteText, {p ? std::to_string(*p) : std::string()}));
+    if (z_.oeff.sw_spielende) beende();
     return ergebnis;
 }
 
@@ -44,21 +44,21 @@ void Spiel::spielende(int16_t figur) {
     int n = 0, z = 0;
     for (int x = 0; x <= 6; ++x)
         for (int y = 0; y <= 6; ++y)
-            if (stellung_.Feld[x][y] == henne) {
+            if (z_.stellung.Feld[x][y] == henne) {
                 ++n;
                 if (imZielfeld(x, y)) ++z;
             }
-    const Computer PC = oeff_.einst.computer();
-    ergebnis_ = Ergebnis::offen;
+    const Computer PC = z_.oeff.einst.computer();
+    z_.ergebnis = Ergebnis::offen;
     auto ende = [&](Ergebnis e, const char* text, bool menschGewinnt) {
-        ergebnis_ = e;
+        z_.ergebnis = e;
         ansicht_.meldung(text);
         sperren(false);
-        oeff_.u_is_sieger = menschGewinnt ? kSiegJa : kSiegNein;
+        z_.oeff.u_is_sieger = menschGewinnt ? kSiegJa : kSiegNein;
     };
     if (z == 9) ende(Ergebnis::hennen, kHennenGewinnen, PC == Computer::fuchs);
     if (n < 9) ende(Ergebnis::fuchs, kFuchsGewinnt, PC == Computer::hennen);
-    if (zugregister_.nachX == 0 && zugregister_.nachY == 0) {
+    if (z_.zugregister.nachX == 0 && z_.zugregister.nachY == 0) {
         // The side to move found no move (or the last fox would have been parked).
         if (figur == henne) ende(Ergebnis::fuchs, kFuchsGewinntOhneZug, PC == Computer::hennen);
         if (figur == fuchs) ende(Ergebnis::remis, kRemisZiel, false);
@@ -66,14 +66,14 @@ void Spiel::spielende(int16_t figur) {
 }
 
 std::optional<int16_t> Spiel::punkte() {
-    const int s = hennenwert(stellung_.Feld);
-    switch (oeff_.einst.computer()) {
+    const int s = hennenwert(z_.stellung.Feld);
+    switch (z_.oeff.einst.computer()) {
     case Computer::fuchs:
-        oeff_.score = wrap16(s);
-        return oeff_.score;
+        z_.oeff.score = wrap16(s);
+        return z_.oeff.score;
     case Computer::hennen:
-        oeff_.score = wrap16(kHoechstpunkte - s);
-        return oeff_.score;
+        z_.oeff.score = wrap16(kHoechstpunkte - s);
+        return z_.oeff.score;
     default:
         return std::nullopt;
     }

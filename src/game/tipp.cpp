@@ -11,22 +11,22 @@
 namespace fuh {
 
 bool Spiel::tippMoeglich() const {
-    const Computer PC = oeff_.einst.computer();
-    return bilder_.ziehbar && (PC == Computer::fuchs || PC == Computer::hennen) &&
-           pcZug_ == Anforderung::keine && !sprungfolge_.imSprung;
+    const Computer PC = z_.oeff.einst.computer();
+    return z_.bilder.ziehbar && (PC == Computer::fuchs || PC == Computer::hennen) &&
+           z_.pcZug == Anforderung::keine && !z_.sprungfolge.imSprung;
 }
 
 Zugwahl Spiel::tipp() {
     if (!tippMoeglich()) return {};
     // A recall creates a missing learned file; a hint must change nothing, and a missing file has
     // nothing learned, so it then asks as strength 1 does (the repetition guard still counts).
-    int Staerke = oeff_.einst.Staerke;
+    int Staerke = z_.oeff.einst.Staerke;
     std::error_code fehler;
     if (Staerke >= 1 && !std::filesystem::exists(datenpfad(ordner_, lerndateiName(Staerke)), fehler))
         Staerke = 0;
-    const Erinnerung erinnerung{lerndatei_, Staerke, partie_};
+    const Erinnerung erinnerung{lerndatei_, Staerke, z_.partie};
     // Against the Meister the hint searches too.
-    const bool menschHennen = oeff_.einst.computer() == Computer::fuchs;
+    const bool menschHennen = z_.oeff.einst.computer() == Computer::fuchs;
     Meister* gegner = meister(menschHennen ? spielerwahl_.fuchs : spielerwahl_.hennen, meisterTipp_);
     if (menschHennen) return hennenWahl(erinnerung, tippZufall_, gegner);
     return fuchsWahl(erinnerung, tippZufall_, gegner);

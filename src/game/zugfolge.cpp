@@ -12,14 +12,14 @@ namespace fuh {
 
 void Spiel::strafeAnwenden(const Strafe& strafe) {
     if (strafe.art == Strafe::Art::keine) return;
-    zugregister_ = strafe.zug;
+    z_.zugregister = strafe.zug;
     ansicht_.meldung(strafe.art == Strafe::Art::einsetzen ? kFuchsEingesetzt : kFuchsAusgeschlossen);
     if (strafe.art != Strafe::Art::letzterFuchs) {
         zug(false);
         return;
     }
     // The last fox would leave the board: no fox moves, and the check finds the game drawn.
-    oeff_.fuchs_null = true;
+    z_.oeff.fuchs_null = true;
     endecheck(fuchs);
 }
 
@@ -33,25 +33,26 @@ Meister* Spiel::meister(const std::optional<Spieler>& seite, std::unique_ptr<Mei
 // plays the hens, except in single-move mode.
 Zugwahl Spiel::hennenWahl(const Erinnerung& erinnerung, Zufall& zufall, Meister* meister) {
     if (meister)
-        return meister->berechne(
-            {stellung_.Feld, henne, partie_.spielzug, oeff_.einst.Einzelzug == 0, spielerwahl_.bedenkzeit});
-    return berechneHennen(stellung_.Feld, erinnerung, zufall);
+        return meister->berechne({z_.stellung.Feld, henne, z_.partie.spielzug, z_.oeff.einst.Einzelzug == 0,
+                                  spielerwahl_.bedenkzeit});
+    return berechneHennen(z_.stellung.Feld, erinnerung, zufall);
 }
 
 Zugwahl Spiel::fuchsWahl(const Erinnerung& erinnerung, Zufall& zufall, Meister* meister) {
-    const Computer PC = oeff_.einst.computer();
-    const bool strafe = (PC == Computer::hennen || PC == Computer::beide) && oeff_.einst.Einzelzug == 0;
+    const Computer PC = z_.oeff.einst.computer();
+    const bool strafe = (PC == Computer::hennen || PC == Computer::beide) && z_.oeff.einst.Einzelzug == 0;
     if (meister)
-        return meister->berechne({stellung_.Feld, fuchs, partie_.spielzug, strafe, spielerwahl_.bedenkzeit});
-    return berechneFuchs(stellung_.Feld, erinnerung, zufall);
+        return meister->berechne(
+            {z_.stellung.Feld, fuchs, z_.partie.spielzug, strafe, spielerwahl_.bedenkzeit});
+    return berechneFuchs(z_.stellung.Feld, erinnerung, zufall);
 }
 
 bool Spiel::hennenZiehen() {
     ansicht_.hinweis(Hinweis::h_zug, true);
-    strafeAnwenden(strafregel(stellung_.Feld, partie_, oeff_.einst.Einzelzug));
+    strafeAnwenden(strafregel(z_.stellung.Feld, z_.partie, z_.oeff.einst.Einzelzug));
     const Zugwahl wahl =
         hennenWahl(erinnerung(spielerwahl_.hennen), zufall_, meister(spielerwahl_.hennen, meisterHennen_));
-    zugregister_ = wahl.keinZug() ? Teilzug{} : *wahl.begin();
+    z_.zugregister = wahl.keinZug() ? Teilzug{} : *wahl.begin();
     if (!wahl.keinZug()) zug(true);
     ansicht_.hinweis(Hinweis::h_zug, false);
     return endecheck(henne);
@@ -60,12 +61,12 @@ bool Spiel::hennenZiehen() {
 bool Spiel::fuechseZiehen() {
     ansicht_.hinweis(Hinweis::f_zug, true);
     // Without a move the target stays (0, 0), which the end-of-move check reads as "no move".
-    zugregister_.nachX = 0;
-    zugregister_.nachY = 0;
+    z_.zugregister.nachX = 0;
+    z_.zugregister.nachY = 0;
     const Zugwahl wahl =
         fuchsWahl(erinnerung(spielerwahl_.fuchs), zufall_, meister(spielerwahl_.fuchs, meisterFuchs_));
     for (const Teilzug& sprung : wahl) {
-        zugregister_ = sprung;
+        z_.zugregister = sprung;
         zug(true);
         ansicht_.hinweis(Hinweis::f_zug, false);
     }
@@ -73,20 +74,20 @@ bool Spiel::fuechseZiehen() {
 }
 
 void Spiel::Timer1_Timer() {
-    const Anforderung a = pcZug_;
-    pcZug_ = Anforderung::keine;
+    const Anforderung a = z_.pcZug;
+    z_.pcZug = Anforderung::keine;
     if (a == Anforderung::hennen) hennenZiehen();
     if (a == Anforderung::fuchs) fuechseZiehen();
 }
 
 void Spiel::spielBeginnen() {
-    switch (oeff_.einst.computer()) {
+    switch (z_.oeff.einst.computer()) {
     case Computer::hennen:
         hennenZiehen();
         break;
     case Computer::beide:
-        selbstspielLaeuft_ = true;
-        hennenAmZug_ = true;
+        z_.selbstspielLaeuft = true;
+        z_.hennenAmZug = true;
         if (!schrittweise_)
             while (selbstspielZug()) {
             }
@@ -97,14 +98,15 @@ void Spiel::spielBeginnen() {
 }
 
 bool Spiel::selbstspielZug() {
-    if (!selbstspielLaeuft_) return false;
+    if (!z_.selbstspielLaeuft) return false;
     // The computer plays itself until an end is announced, also one announced inside the hens' turn by
     // the penalty rule; the move limit always supplies one.
-    const bool ende = hennenAmZug_ ? partie_.spielzug >= kZugbegrenzung || hennenZiehen() || endeGefunden_
-                                   : fuechseZiehen();
-    hennenAmZug_ = !hennenAmZug_;
-    if (ende) selbstspielLaeuft_ = false;
-    return selbstspielLaeuft_;
+    const bool ende = z_.hennenAmZug
+                          ? z_.partie.spielzug >= kZugbegrenzung || hennenZiehen() || z_.endeGefunden
+                          : fuechseZiehen();
+    z_.hennenAmZug = !z_.hennenAmZug;
+    if (ende) z_.selbstspielLaeuft = false;
+    return z_.selbstspielLaeuft;
 }
 
 } // namespace fuh

@@ -4,9 +4,14 @@
 
 #include "tools/selbstspiel_lauf.h"
 
+#include <cstdlib>
+#include <memory>
+#include <stdexcept>
+#include <string>
 #include <vector>
 
 #include "board/regeln.h"
+#include "game/partiedatei.h"
 #include "game/spiel.h"
 #include "tools/protokoll_ansicht.h"
 
@@ -34,17 +39,84 @@ std::vector<Kandidat> kandidaten(const Spiel& spiel) {
     return liste;
 }
 
+// The games of one run. With --fortsetzen-pruefen the game is saved to a file before every move and
+// continued from that file in a fresh game object, as the window does across the end of the program;
+// nothing else may change.
+class Lauf {
+  public:
+    Lauf(const Optionen& o, uint32_t seed, const std::filesystem::path& ordner, std::ostream& aus,
+         ProtokollAnsicht::Speicherfehler beiSpeicherfehler)
+        : o_(o), seed_(seed), ordner_(ordner), zufall_(seed),
+          ansicht_(oeffentlich_, o.protokoll ? &aus : nullptr, std::move(beiSpeicherfehler)),
+          spiel_(neuesSpiel()) {
+        if (!o.fortsetzenPruefen) return;
+        std::string muster = (std::filesystem::temp_directory_path() / "selbstspiel-XXXXXX").string();
+        if (!mkdtemp(muster.data())) throw std::runtime_error("kein temporärer Ordner für die Partie");
+        zwischenordner_ = muster;
+    }
+    ~Lauf() {
+        std::error_code fehler;
+        if (!zwischenordner_.empty()) std::filesystem::remove_all(zwischenordner_, fehler);
+    }
+    Lauf(const Lauf&) = delete;
+    Lauf& operator=(const Lauf&) = delete;
+
+    Spiel& spiel() { return *spiel_; }
+    Zufall& zufall() { return zufall_; }
+
+    // The game, about to make its next move.
+    Spiel& vorZug() {
+        if (zwischenordner_.empty()) return *spiel_;
+        const std::filesystem::path datei = zwischenordner_ / "partie";
+        if (!partieSpeichern(datei, spiel_->sicherung()))
+            throw std::runtime_error("die Partie konnte nicht gespeichert werden");
+        const Partieladung ladung = partieHolen(datei);
+        if (!ladung.sicherung) throw std::runtime_error("die gespeicherte Partie ist nicht lesbar");
+        spiel_ = neuesSpiel();
+        spiel_->fortsetzen(*ladung.sicherung);
+        return *spiel_;
+    }
+
+  private:
+    std::unique_ptr<Spiel> neuesSpiel() {
+        auto spiel = std::make_unique<Spiel>(ansicht_, zufall_, ordner_);
+        oeffentlich_ = &spiel->oeffentlich();
+        Einstellungen e;
+        e.PC = static_cast<int16_t>(o_.pc);
+        e.Staerke = static_cast<int16_t>(o_.staerke - 1);
+        e.Lernmodus = o_.lernen ? 1 : 0;
+        spiel->einstellungenFestlegen(e);
+        Spielerwahl spieler = o_.spieler;
+        spieler.meisterSeed = seed_;
+        spiel->spielerFestlegen(spieler);
+        // A saved game the computer plays itself goes on move by move.
+        spiel->schrittweise(o_.fortsetzenPruefen);
+        return spiel;
+    }
+
+    const Optionen& o_;
+    uint32_t seed_;
+    std::filesystem::path ordner_;
+    Zufall zufall_;
+    const Oeffentlich* oeffentlich_ = nullptr;
+    ProtokollAnsicht ansicht_;
+    std::unique_ptr<Spiel> spiel_;
+    std::filesystem::path zwischenordner_;
+};
+
 // The human's turns and the timer's replies alternate until an end is announced. False: abandoned.
-bool menschSpielt(Spiel& spiel, Zufall& zufall) {
-    while (!spiel.endeGefunden()) {
+bool menschSpielt(Lauf& lauf) {
+    while (!lauf.spiel().endeGefunden()) {
+        Spiel& spiel = lauf.vorZug();
         const auto liste = kandidaten(spiel);
         if (liste.empty()) return false;
-        const Kandidat c = liste[static_cast<std::size_t>(zufall.ziehe(static_cast<int>(liste.size())) - 1)];
+        const int i = lauf.zufall().ziehe(static_cast<int>(liste.size())) - 1;
+        const Kandidat c = liste[static_cast<std::size_t>(i)];
         if (c.t < 0)
             spiel.figur_MouseDown(c.k, Maustaste::rechts);
         else
             spiel.platz_DragDrop(c.t, c.k);
-        if (!spiel.endeGefunden()) spiel.Timer1_Timer();
+        if (!spiel.endeGefunden()) lauf.vorZug().Timer1_Timer();
     }
     return true;
 }
@@ -53,29 +125,20 @@ bool menschSpielt(Spiel& spiel, Zufall& zufall) {
 Summe selbstspiel(const Optionen& o, uint32_t seed, const std::filesystem::path& ordner, std::ostream& aus,
                   Beobachter* beobachter) {
     Summe summe;
-    Zufall zufall(seed);
-    const Oeffentlich* oeffentlich = nullptr;
-    ProtokollAnsicht ansicht(oeffentlich, o.protokoll ? &aus : nullptr, [&](const std::string& text) {
+    Lauf lauf(o, seed, ordner, aus, [&](const std::string& text) {
         ++summe.nichtGespeichert;
         if (beobachter) beobachter->nichtGespeichert(text);
     });
-    Spiel spiel(ansicht, zufall, ordner);
-    oeffentlich = &spiel.oeffentlich();
-    Einstellungen e;
-    e.PC = static_cast<int16_t>(o.pc);
-    e.Staerke = static_cast<int16_t>(o.staerke - 1);
-    e.Lernmodus = o.lernen ? 1 : 0;
-    spiel.einstellungenFestlegen(e);
-    Spielerwahl spieler = o.spieler;
-    spieler.meisterSeed = seed;
-    spiel.spielerFestlegen(spieler);
     for (uint64_t n = 1; n <= o.spiele; ++n) {
         if (o.protokoll) aus << "spiel " << n << '\n';
-        spiel.Neu_Click();
-        bool beendet = spiel.endeGefunden();
-        if (!beendet && o.pc != 2) beendet = menschSpielt(spiel, zufall);
-        const int ergebnis = beendet ? static_cast<int>(spiel.letztesErgebnis()) : 0;
-        if (o.protokoll) aus << "ende " << ergebnis << ' ' << spiel.spielzug() << '\n';
+        lauf.spiel().Neu_Click();
+        if (o.fortsetzenPruefen && o.pc == 2)
+            while (lauf.vorZug().selbstspielZug()) {
+            }
+        bool beendet = lauf.spiel().endeGefunden();
+        if (!beendet && o.pc != 2) beendet = menschSpielt(lauf);
+        const int ergebnis = beendet ? static_cast<int>(lauf.spiel().letztesErgebnis()) : 0;
+        if (o.protokoll) aus << "ende " << ergebnis << ' ' << lauf.spiel().spielzug() << '\n';
         ++summe.spiele;
         ++summe.nachErgebnis[ergebnis >= 0 && ergebnis <= 3 ? ergebnis : 0];
         if (beobachter) beobachter->partieGespielt(summe);

@@ -81,6 +81,10 @@ Programm selbstspielAufruf(Optionen& o) {
                 {"hennen", 0, "S", "die Spielstärke nur der Hennen: 1, 2, 3 oder meister",
                  spieler(o.spieler.hennen)},
                 bedenkzeitOption(o.spieler.bedenkzeit),
+                {"fortsetzen-pruefen", 0, "",
+                 "vor jedem Zug die Partie in eine Datei sichern und aus ihr fortsetzen (Log und Dateien "
+                 "bleiben gleich)",
+                 schalter(o.fortsetzenPruefen)},
             }};
 }
 

@@ -6,6 +6,7 @@
 
 #include <chrono>
 #include <ctime>
+#include <exception>
 #include <set>
 
 #include "tools/fortschritt.h"
@@ -57,9 +58,18 @@ int selbstspielProgramm(const std::vector<std::string>& args, const std::filesys
     // A log scrolling on the same terminal is progress enough, and the line would tear it.
     const std::size_t spalten = o.protokoll && k.ausTerminal ? 0 : k.fehlerSpalten;
     Rueckmeldung rueckmeldung(programm.name, o.spiele, k.fehler, spalten);
-    const Summe s = selbstspiel(o, o.seed.value_or(sekundenSeitMitternacht()), ordner, k.aus, &rueckmeldung);
-    rueckmeldung.beenden();
-    return s.nichtGespeichert > 0 ? kNichtGespeichert : 0;
+    try {
+        const Summe s =
+            selbstspiel(o, o.seed.value_or(sekundenSeitMitternacht()), ordner, k.aus, &rueckmeldung);
+        rueckmeldung.beenden();
+        return s.nichtGespeichert > 0 ? kNichtGespeichert : 0;
+    } catch (const std::exception& e) {
+        // Only --fortsetzen-pruefen throws: its saved game could not be written or read back.
+        rueckmeldung.beenden();
+        k.aus.flush();
+        k.fehler << programm.name << ": " << e.what() << '\n';
+        return kNichtGespeichert;
+    }
 }
 
 } // namespace fuh

@@ -91,6 +91,7 @@ BrettFenster::BrettFenster(std::filesystem::path ordner, uint32_t startzeit, QWi
 }
 
 BrettFenster::~BrettFenster() {
+    partieSichern();
     fensterEinstellungen().setValue(QStringLiteral("geometrie"), saveGeometry());
 }
 
@@ -176,6 +177,7 @@ void BrettFenster::befehleAbgleichen() {
     for (QAction* a : wartendeBefehle_)
         a->setEnabled(frei);
     if (tippAktion_) tippAktion_->setEnabled(frei && spiel_ && spiel_->tippMoeglich());
+    if (zurueckAktion_) zurueckAktion_->setEnabled(frei && spiel_ && spiel_->zuruecknehmenMoeglich());
 }
 
 void BrettFenster::zeigen(const Ereignis& e) {
@@ -198,6 +200,7 @@ void BrettFenster::zeigen(const Ereignis& e) {
         break;
     case Ereignis::Art::status:
         panelSetzen(static_cast<Statusfeld>(e.a), e.text);
+        if (e.a == static_cast<int>(Statusfeld::zuruecknahme)) panel(e.a)->setVisible(!e.text.isEmpty());
         break;
     case Ereignis::Art::zugbegrenzung:
         zugbegrenzungZeigen();

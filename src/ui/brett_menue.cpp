@@ -101,6 +101,9 @@ void BrettFenster::menueAnlegen() {
     })->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_N));
     tippAktion_ = aktion(spielMenue, "tipp", QT_TR_NOOP("&Tipp"), [this] { tippZeigen(); });
     tippAktion_->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_T));
+    zurueckAktion_ =
+        aktion(spielMenue, "zurueck", QT_TR_NOOP("Zug &zurücknehmen"), [this] { zuruecknehmen(); });
+    zurueckAktion_->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Z));
     connect(spielMenue, &QMenu::aboutToShow, this, &BrettFenster::befehleAbgleichen);
     spielMenue->addSeparator();
     tempoMenue(spielMenue);
@@ -180,7 +183,7 @@ void BrettFenster::tempoMenue(QMenu* menue) {
 void BrettFenster::statusleisteAnlegen() {
     QStatusBar* leiste = statusBar();
     leiste->setObjectName(QStringLiteral("StatusBar1"));
-    const std::array<int, 3> anteile = {2, 1, 1};
+    const std::array<int, 4> anteile = {2, 1, 1, 2};
     for (size_t i = 0; i < panels_.size(); ++i) {
         auto* label = new QLabel(leiste);
         label->setObjectName(QStringLiteral("panel%1").arg(i + 1));
@@ -188,6 +191,7 @@ void BrettFenster::statusleisteAnlegen() {
         leiste->addWidget(label, anteile[i]);
         panels_[i] = label;
     }
+    panels_.back()->hide(); // only a game with a move taken back says so
     ansage_ = new Ansage(*brett_, leiste);
     leiste->addWidget(ansage_, 1);
 }

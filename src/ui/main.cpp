@@ -9,6 +9,7 @@
 #include <filesystem>
 #include <system_error>
 
+#include "game/partiedatei.h"
 #include "ui/brett_fenster.h"
 #include "ui/meldung.h"
 
@@ -42,5 +43,6 @@ int main(int argc, char* argv[]) {
 
     fuh::BrettFenster fenster(std::filesystem::current_path());
     fenster.show();
+    fenster.fortsetzenAnbieten(fuh::partieDateiStandard());
     return app.exec();
 }

@@ -5,9 +5,11 @@
 #include <gtest/gtest.h>
 
 #include <fstream>
+#include <map>
 #include <set>
 #include <sstream>
 
+#include "board/zufall.h"
 #include "memory/positionscode.h"
 #include "memory/satzdatei.h"
 #include "temp_ordner.h"
@@ -40,28 +42,50 @@ Optionen optionen(const std::string& text) {
     return o;
 }
 
-// Games recorded by an independent implementation of the same rules: log and files, byte for byte.
-class Aufnahme : public ::testing::TestWithParam<std::string> {};
+// Every file of a folder with its bytes.
+std::map<std::string, std::string> dateien(const fs::path& ordner) {
+    std::map<std::string, std::string> inhalt;
+    for (const auto& e : fs::directory_iterator(ordner))
+        inhalt[e.path().filename().string()] = lies(e.path());
+    return inhalt;
+}
+
+// Games recorded by an independent implementation of the same rules: log and files, byte for byte,
+// also when the game is saved and continued from its file before every move.
+class Aufnahme : public ::testing::TestWithParam<std::tuple<std::string, bool>> {};
 
 TEST_P(Aufnahme, LogUndDateienStimmenUeberein) {
-    const fs::path fall = fs::path(AUFNAHMEN) / GetParam();
+    const fs::path fall = fs::path(AUFNAHMEN) / std::get<0>(GetParam());
     Optionen o = optionen(lies(fall / "args"));
     o.protokoll = true;
+    o.fortsetzenPruefen = std::get<1>(GetParam());
     test::TempOrdner ordner;
     std::ostringstream log;
     selbstspiel(o, *o.seed, ordner.pfad(), log);
     EXPECT_EQ(log.str(), lies(fall / "log.txt"));
-    std::set<std::string> erwartet, erzeugt;
-    for (const auto& e : fs::directory_iterator(fall / "files"))
-        erwartet.insert(e.path().filename().string());
-    for (const auto& e : fs::directory_iterator(ordner.pfad()))
-        erzeugt.insert(e.path().filename().string());
-    EXPECT_EQ(erzeugt, erwartet);
-    for (const auto& name : erwartet)
-        EXPECT_EQ(lies(ordner / name), lies(fall / "files" / name)) << name;
+    EXPECT_EQ(dateien(ordner.pfad()), dateien(fall / "files"));
 }
 
-INSTANTIATE_TEST_SUITE_P(Selbstspiel, Aufnahme, ::testing::Values("a", "b", "c", "d", "e", "f"));
+INSTANTIATE_TEST_SUITE_P(Selbstspiel, Aufnahme,
+                         ::testing::Combine(::testing::Values("a", "b", "c", "d", "e", "f"),
+                                            ::testing::Bool()));
+
+// Saving and continuing before every move changes nothing, whatever the settings.
+TEST(Selbstspiel, FortsetzenAendertNichts) {
+    Zufall wahl(2026);
+    for (int lauf = 0; lauf < 6; ++lauf) {
+        const std::string args = "--spiele 3 --protokoll --pc " + std::to_string(wahl.ziehe(3) - 1) +
+                                 " --staerke " + std::to_string(wahl.ziehe(3)) +
+                                 (wahl.ziehe(2) == 1 ? " --lernen" : "");
+        const uint32_t seed = static_cast<uint32_t>(wahl.ziehe(1 << 20));
+        test::TempOrdner ohne, mit;
+        std::ostringstream logOhne, logMit;
+        selbstspiel(optionen(args), seed, ohne.pfad(), logOhne);
+        selbstspiel(optionen(args + " --fortsetzen-pruefen"), seed, mit.pfad(), logMit);
+        EXPECT_EQ(logMit.str(), logOhne.str()) << args << " --seed " << seed;
+        EXPECT_EQ(dateien(mit.pfad()), dateien(ohne.pfad())) << args << " --seed " << seed;
+    }
+}
 
 TEST(Selbstspiel, LernlaufSpeichertJedePositionNurEinmal) {
     test::TempOrdner ordner;

@@ -25,6 +25,7 @@ struct Figurbilder {
 
     // Every image on the drop target of its square, visible.
     void aufstellen(const Stellung& s);
+    friend bool operator==(const Figurbilder&, const Figurbilder&) = default;
 };
 
 } // namespace fuh

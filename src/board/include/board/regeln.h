@@ -27,6 +27,7 @@ enum class Computer : int16_t { fuchs = 0, hennen = 1, beide = 2 };
 struct Sprungfolge {
     bool imSprung = false;
     int16_t sprungX = 0, sprungY = 0;
+    friend bool operator==(const Sprungfolge&, const Sprungfolge&) = default;
 };
 
 // True when the human may move the piece on (x, y) to (x1, y1) now. `PC` is the side the computer plays.

@@ -12,6 +12,8 @@ class Zufall {
   public:
     explicit Zufall(uint32_t start = 0) { setzen(start); }
     void setzen(uint64_t start) { x_ = static_cast<uint32_t>(start % kModul); }
+    // The generator's state; setzen(zustand()) continues the same sequence.
+    uint32_t zustand() const { return x_; }
 
     // Int(Rnd * n) + 1, where Rnd is x / 2^24 after one step; computed exactly in integers: 1..n.
     int ziehe(int n) {

@@ -20,6 +20,7 @@ struct Einstellungen {
     int16_t Einzelzug = 0; // 1 single-move mode
 
     Computer computer() const { return static_cast<Computer>(PC); }
+    friend bool operator==(const Einstellungen&, const Einstellungen&) = default;
 };
 
 // Whether the player won, as the high-score lists store it (German in every language).
@@ -32,6 +33,7 @@ struct Oeffentlich {
     std::string u_is_sieger = "    "; // kSiegJa, kSiegNein or four blanks
     bool fuchs_null = false;          // the penalty rule would have parked the last fox
     bool sw_spielende = false;        // a finished game may still be entered in a high-score list
+    friend bool operator==(const Oeffentlich&, const Oeffentlich&) = default;
 };
 
 } // namespace fuh

@@ -14,8 +14,8 @@ enum class Hinweis { f_zug, h_zug, speichern_msg, spr_msg };
 // Windows that the game opens by itself.
 enum class Fenster { highf, highh };
 
-// The three panels of the status bar.
-enum class Statusfeld { seite = 1, staerke = 2, punkte = 3 };
+// The panels of the status bar; the fourth is empty unless a move of the game was taken back.
+enum class Statusfeld { seite = 1, staerke = 2, punkte = 3, zuruecknahme = 4 };
 
 // The mouse button pressed on a piece.
 enum class Maustaste { links = 1, rechts = 2 };

@@ -20,6 +20,7 @@
 #include "dialogs/oeffentlich.h"
 #include "game/ansicht.h"
 #include "game/spielerwahl.h"
+#include "game/spielstand.h"
 #include "memory/lerndatei.h"
 #include "memory/partie.h"
 #include "player/erinnerung.h"
@@ -28,12 +29,6 @@
 #include "player/zugwahl.h"
 
 namespace fuh {
-
-// The computer move the timer is to make next (pcZug).
-enum class Anforderung : int16_t { keine = 0, hennen = 1, fuchs = 2 };
-
-// How the game ended (ergebnis); `offen` while it runs.
-enum class Ergebnis : int16_t { offen = 0, hennen = 1, fuchs = 2, remis = 3 };
 
 class Spiel {
   public:
@@ -55,8 +50,8 @@ class Spiel {
     // A new game abandons a game still running this way.
     void schrittweise(bool ja) { schrittweise_ = ja; }
     bool selbstspielZug();
-    bool selbstspielLaeuft() const { return selbstspielLaeuft_; }
-    bool selbstspielHennenAmZug() const { return hennenAmZug_; }
+    bool selbstspielLaeuft() const { return z_.selbstspielLaeuft; }
+    bool selbstspielHennenAmZug() const { return z_.hennenAmZug; }
 
     // The move the computer would make now for the human's side, without making it; its own random
     // source, so asking never changes the game. Empty when there is nothing to advise (see tippMoeglich).
@@ -72,28 +67,45 @@ class Spiel {
     const Spielerwahl& spielerwahl() const { return spielerwahl_; }
 
     // What the window shows and the other windows read.
-    const Stellung& stellung() const { return stellung_; }
-    const Sprungfolge& sprungfolge() const { return sprungfolge_; }
-    const Teilzug& zugregister() const { return zugregister_; } // the last move made
-    const Figurbilder& bilder() const { return bilder_; }
-    bool ziehbar() const { return bilder_.ziehbar; }
-    Oeffentlich& oeffentlich() { return oeff_; }
-    const Oeffentlich& oeffentlich() const { return oeff_; }
+    const Stellung& stellung() const { return z_.stellung; }
+    const Sprungfolge& sprungfolge() const { return z_.sprungfolge; }
+    const Teilzug& zugregister() const { return z_.zugregister; } // the last move made
+    const Figurbilder& bilder() const { return z_.bilder; }
+    bool ziehbar() const { return z_.bilder.ziehbar; }
+    Oeffentlich& oeffentlich() { return z_.oeff; }
+    const Oeffentlich& oeffentlich() const { return z_.oeff; }
     const std::filesystem::path& ordner() const { return ordner_; }
-    Anforderung pcZug() const { return pcZug_; }
-    Ergebnis ergebnis() const { return ergebnis_; }
-    int16_t spielzug() const { return partie_.spielzug; }
-    const Partie& partie() const { return partie_; }
-    int16_t neueZuege() const { return neueZuege_; }
+    Anforderung pcZug() const { return z_.pcZug; }
+    Ergebnis ergebnis() const { return z_.ergebnis; }
+    int16_t spielzug() const { return z_.partie.spielzug; }
+    const Partie& partie() const { return z_.partie; }
+    int16_t neueZuege() const { return z_.neueZuege; }
     // An end was announced in the current game, and the last result an end-of-move check found.
-    bool endeGefunden() const { return endeGefunden_; }
-    Ergebnis letztesErgebnis() const { return letztesErgebnis_; }
+    bool endeGefunden() const { return z_.endeGefunden; }
+    Ergebnis letztesErgebnis() const { return z_.letztesErgebnis; }
+
+    // Taking the player's last move back, with the computer's reply: the game is then exactly as it was
+    // before that move, random sources included. Only while the player plays against the computer and
+    // the game runs; nothing is written to any file.
+    bool zuruecknehmenMoeglich() const;
+    void zuruecknehmen();
+
+    // A game is running: started, and not yet ended.
+    bool laeuft() const { return z_.bilder.ziehbar && !z_.endeGefunden; }
+    // The whole running game, random sources included, and going on from such a copy: the view is told
+    // the restored pieces, prompts and status texts. Continuing counts no new game.
+    Spielstand zustand() const;
+    Sicherung sicherung() const { return {zustand(), verlauf_}; }
+    void fortsetzen(const Sicherung& s);
 
   private:
     // Start-up and new game.
     void init();
     void sperren(bool ziehbar);
     void statusTexte();
+    void punkteZeigen(std::string text);
+    // Puts a copy back into the game and shows it.
+    void zustandSetzen(const Spielstand& z);
     void spielBeginnen();
 
     // The turn driver: a computer side chooses, the game carries the choice out.
@@ -107,7 +119,7 @@ class Spiel {
     void zug(bool normal);
     // The learned values a computer side may ask: of its own strength, or of the settings'.
     Erinnerung erinnerung(const std::optional<Spieler>& seite) const {
-        return {lerndatei_, seite ? seite->Staerke : oeff_.einst.Staerke, partie_};
+        return {lerndatei_, seite ? seite->Staerke : z_.oeff.einst.Staerke, z_.partie};
     }
 
     // End of a move, end of a game, and filing.
@@ -122,24 +134,13 @@ class Spiel {
     Zufall& zufall_;
     Zufall tippZufall_;
     std::filesystem::path ordner_;
-    Stellung stellung_;
-    Teilzug zugregister_;     // vonX, vonY, nachX, nachY: the move being made
-    Sprungfolge sprungfolge_; // a human fox's open jump sequence
-    Figurbilder bilder_;
-    Partie partie_;
+    Spielstand z_;                    // the random sources' states are taken into it only by zustand()
+    std::vector<Spielstand> verlauf_; // before each of the player's moves in this game, oldest first
     Lerndatei lerndatei_;
-    Oeffentlich oeff_;
-    Anforderung pcZug_ = Anforderung::keine;
-    Ergebnis ergebnis_ = Ergebnis::offen;
-    int16_t neueZuege_ = 0;
     std::optional<Einstellungen> festeEinstellungen_;
     Spielerwahl spielerwahl_;
     std::unique_ptr<Meister> meisterHennen_, meisterFuchs_, meisterTipp_;
-    bool endeGefunden_ = false;
-    Ergebnis letztesErgebnis_ = Ergebnis::offen;
     bool schrittweise_ = false;
-    bool selbstspielLaeuft_ = false;
-    bool hennenAmZug_ = true;
 };
 
 } // namespace fuh

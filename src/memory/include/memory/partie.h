@@ -18,6 +18,7 @@ struct Situation {
     int16_t fuchswert = 0;
     int16_t hennenwert = 0;
     int16_t sprung = 0; // 1 when the move that produced the position was a jump
+    friend bool operator==(const Situation&, const Situation&) = default;
 };
 
 inline constexpr int kSituationen = 151;   // records 0..150
@@ -32,6 +33,7 @@ struct Partie {
     // Adds H to the hen values and F to the fox values: q = 1 every record, otherwise the last five
     // (record 0 excepted). Sums stop at the 16-bit limits.
     void sanktion(int16_t H, int16_t F, int16_t q);
+    friend bool operator==(const Partie&, const Partie&) = default;
 };
 
 } // namespace fuh

@@ -30,6 +30,7 @@ class Beobachter {
 };
 
 // Runs the games in `ordner`; the log goes to `aus` when the options ask for it, the summary always.
+// Throws std::runtime_error when --fortsetzen-pruefen cannot save the game or read it back.
 Summe selbstspiel(const Optionen& o, uint32_t seed, const std::filesystem::path& ordner, std::ostream& aus,
                   Beobachter* beobachter = nullptr);
 

@@ -20,7 +20,8 @@ struct Optionen {
     bool lernen = false;
     std::optional<uint32_t> seed; // already reduced to 24 bits
     bool protokoll = false;
-    Spielerwahl spieler; // --fuchs, --hennen, --bedenkzeit: each side at its own strength
+    bool fortsetzenPruefen = false; // save the game to a file and go on from it before every move
+    Spielerwahl spieler;            // --fuchs, --hennen, --bedenkzeit: each side at its own strength
 };
 
 // --bedenkzeit: the Meister's time per move, for every program that lets it play.

@@ -47,7 +47,7 @@ class Ansage : public QLabel {
     const BrettFlaeche& brett_;
     QStringList wartend_;
     QTimer gleich_;
-    std::array<QString, 3> status_; // the panels' texts, so that only a change is said
+    std::array<QString, 4> status_; // the panels' texts, so that only a change is said
     bool zugFuchs_ = false;
     std::vector<int> zugFelder_; // the computer move being collected: its origin, then every landing
 };

@@ -74,6 +74,11 @@ class BrettFenster : public QMainWindow, public Ansicht {
     void meisterSetzen(bool meister);
     // Spiel -> Tipp: the move the computer would make for the player, marked on the board for a while.
     void tippZeigen();
+    // Spiel -> Zug zurücknehmen: the player's last move and the computer's reply to it.
+    void zuruecknehmen();
+    // At start-up: a game saved when the program last ended is offered to be continued, else dropped.
+    // From now on a game still running when the window goes is saved to `datei`.
+    void fortsetzenAnbieten(const std::filesystem::path& datei);
 
     // Ansicht: every report is queued and shown in order by the playback.
     void figurBewegt(int k, int left, int top) override;
@@ -96,6 +101,7 @@ class BrettFenster : public QMainWindow, public Ansicht {
 
   private:
     void meisterAnwenden();
+    void partieSichern();
     // Commands and their pacing.
     void neu();
     void spielWeiter(); // after every call into the game: show what it reported
@@ -128,8 +134,8 @@ class BrettFenster : public QMainWindow, public Ansicht {
     std::unique_ptr<Spiel> spiel_;
     BrettFlaeche* brett_ = nullptr;
     Ansage* ansage_ = nullptr;
-    std::array<QLabel*, 3> panels_{};
-    std::array<QString, 3> panelTexte_{}; // as the game wrote them, in German
+    std::array<QLabel*, 4> panels_{};
+    std::array<QString, 4> panelTexte_{}; // as the game wrote them, in German
     Beschriftung texte_{staticMetaObject};
     QTimer timer1_;
     Wiedergabe wiedergabe_;
@@ -142,7 +148,9 @@ class BrettFenster : public QMainWindow, public Ansicht {
     std::array<QAction*, 3> tempoAktionen_{};
     QActionGroup* sprachen_ = nullptr; // Deutsch and English in Spiel -> Sprache
     QAction* tippAktion_ = nullptr;
-    QTimer tippUhr_; // how long a hint stays on the board
+    QAction* zurueckAktion_ = nullptr;
+    std::filesystem::path partieDatei_; // empty: a running game is not kept
+    QTimer tippUhr_;                    // how long a hint stays on the board
     bool meister_ = false;
     uint32_t startzeit_ = 0;
     QPointer<EinstDialog> einst_;

@@ -1,0 +1,57 @@
+// SPDX-FileCopyrightText: 2026 The Fuchs und Hennen authors
+//
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+// Everything a running game is, as one value: a copy taken before the player's move is what taking the
+// move back restores, and the same value is what a game saved on quitting continues from.
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "board/bildlage.h"
+#include "board/regeln.h"
+#include "board/stellung.h"
+#include "board/teilzug.h"
+#include "dialogs/oeffentlich.h"
+#include "memory/partie.h"
+
+namespace fuh {
+
+// The computer move the timer is to make next (pcZug).
+enum class Anforderung : int16_t { keine = 0, hennen = 1, fuchs = 2 };
+
+// How the game ended (ergebnis); `offen` while it runs.
+enum class Ergebnis : int16_t { offen = 0, hennen = 1, fuchs = 2, remis = 3 };
+
+struct Spielstand {
+    Stellung stellung;
+    Teilzug zugregister;     // vonX, vonY, nachX, nachY: the move being made
+    Sprungfolge sprungfolge; // a human fox's open jump sequence
+    Figurbilder bilder;
+    Partie partie;
+    Oeffentlich oeff;
+    Anforderung pcZug = Anforderung::keine;
+    Ergebnis ergebnis = Ergebnis::offen;
+    int16_t neueZuege = 0;
+    bool endeGefunden = false; // an end was announced in the current game
+    Ergebnis letztesErgebnis = Ergebnis::offen;
+    bool selbstspielLaeuft = false;
+    bool hennenAmZug = true;
+    uint32_t zufall = 0;          // the game's random source
+    uint32_t tippZufall = 0;      // the hint's own one
+    std::string punkte;           // the points panel as last shown
+    bool zurueckgenommen = false; // a move was taken back: the game goes to no high-score list
+
+    friend bool operator==(const Spielstand&, const Spielstand&) = default;
+};
+
+// A running game with the states its moves can be taken back to, oldest first.
+struct Sicherung {
+    Spielstand stand;
+    std::vector<Spielstand> verlauf;
+
+    friend bool operator==(const Sicherung&, const Sicherung&) = default;
+};
+
+} // namespace fuh

@@ -1,0 +1,252 @@
+// SPDX-FileCopyrightText: 2026 The Fuchs und Hennen authors
+//
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// The saved game's bytes. One list of fields serves writing and reading, so the two cannot drift apart;
+// what was read is then checked as a whole before anyone uses it.
+#include <algorithm>
+#include <bitset>
+#include <cstring>
+
+#include "game/partiedatei.h"
+
+namespace fuh {
+
+namespace {
+
+constexpr char kMagie[4] = {'F', 'u', 'H', 'P'};
+constexpr uint16_t kVersion = 1;
+constexpr std::size_t kKopf = sizeof kMagie + 2 + 4; // magic, version, length of what follows
+constexpr std::size_t kPruefsumme = 4;
+constexpr std::size_t kHoechstVerlauf = kSituationen; // a player cannot make more moves than positions
+
+uint32_t fnv1a(const uint8_t* p, std::size_t n) {
+    uint32_t h = 2166136261u;
+    for (std::size_t i = 0; i < n; ++i)
+        h = (h ^ p[i]) * 16777619u;
+    return h;
+}
+
+class Schreiber {
+  public:
+    Bytes b;
+    void u8(uint8_t v) { b.push_back(v); }
+    void u16(uint16_t v) { u8(static_cast<uint8_t>(v & 0xFF)), u8(static_cast<uint8_t>(v >> 8)); }
+    void u32(uint32_t v) { u16(static_cast<uint16_t>(v & 0xFFFF)), u16(static_cast<uint16_t>(v >> 16)); }
+    void i16(int16_t v) { u16(static_cast<uint16_t>(v)); }
+    void i32(int v) { u32(static_cast<uint32_t>(v)); }
+    void ja(bool v) { u8(v ? 1 : 0); }
+    template <class E> void art(E v) { i16(static_cast<int16_t>(v)); }
+    void roh(const uint8_t* p, std::size_t n) { b.insert(b.end(), p, p + n); }
+    void text(const std::string& s) {
+        const std::size_t n = std::min<std::size_t>(s.size(), 255);
+        u8(static_cast<uint8_t>(n));
+        roh(reinterpret_cast<const uint8_t*>(s.data()), n);
+    }
+};
+
+// Reads until the data end; after that everything reads as zero and `kaputt` stays set.
+class Leser {
+  public:
+    Leser(const uint8_t* p, std::size_t n) : p_(p), n_(n) {}
+    bool kaputt = false;
+    bool amEnde() const { return pos_ == n_; }
+    void u8(uint8_t& v) { v = weiter(1) ? p_[pos_ - 1] : 0; }
+    void u16(uint16_t& v) {
+        uint8_t a = 0, b = 0;
+        u8(a), u8(b);
+        v = static_cast<uint16_t>(a | (b << 8));
+    }
+    void u32(uint32_t& v) {
+        uint16_t a = 0, b = 0;
+        u16(a), u16(b);
+        v = a | (static_cast<uint32_t>(b) << 16);
+    }
+    void i16(int16_t& v) {
+        uint16_t u = 0;
+        u16(u);
+        v = static_cast<int16_t>(u);
+    }
+    void i32(int& v) {
+        uint32_t u = 0;
+        u32(u);
+        v = static_cast<int32_t>(u);
+    }
+    void ja(bool& v) {
+        uint8_t u = 0;
+        u8(u);
+        kaputt |= u > 1;
+        v = u == 1;
+    }
+    template <class E> void art(E& v) {
+        int16_t i = 0;
+        i16(i);
+        v = static_cast<E>(i);
+    }
+    void roh(uint8_t* p, std::size_t n) {
+        if (weiter(n)) std::memcpy(p, p_ + pos_ - n, n);
+    }
+    void text(std::string& s) {
+        uint8_t n = 0;
+        u8(n);
+        s.assign(n, ' ');
+        roh(reinterpret_cast<uint8_t*>(s.data()), n);
+    }
+
+  private:
+    bool weiter(std::size_t n) {
+        if (kaputt || n > n_ - pos_) {
+            kaputt = true;
+            return false;
+        }
+        pos_ += n;
+        return true;
+    }
+    const uint8_t* p_;
+    std::size_t n_;
+    std::size_t pos_ = 0;
+};
+
+// Every field of a game, in file order. Z is Spielstand or const Spielstand.
+template <class A, class Z> void felder(A& a, Z& z) {
+    for (int x = 0; x <= 6; ++x)
+        for (int y = 0; y <= 6; ++y)
+            a.i16(z.stellung.Feld[x][y]);
+    for (int k = 0; k < kFiguren; ++k)
+        a.i16(z.stellung.figurplatz[k]);
+    a.i16(z.zugregister.vonX), a.i16(z.zugregister.vonY), a.i16(z.zugregister.nachX),
+        a.i16(z.zugregister.nachY);
+    a.ja(z.sprungfolge.imSprung), a.i16(z.sprungfolge.sprungX), a.i16(z.sprungfolge.sprungY);
+    for (int k = 0; k < kFiguren; ++k)
+        a.i32(z.bilder.left[k]), a.i32(z.bilder.top[k]), a.ja(z.bilder.sichtbar[k]);
+    a.ja(z.bilder.ziehbar);
+    for (auto& s : z.partie.sits) {
+        a.roh(s.code.data(), s.code.size());
+        a.i16(s.fuchswert), a.i16(s.hennenwert), a.i16(s.sprung);
+    }
+    a.i16(z.partie.spielzug);
+    a.i16(z.oeff.einst.PC), a.i16(z.oeff.einst.Staerke), a.i16(z.oeff.einst.Lernmodus);
+    a.i16(z.oeff.einst.Einzelzug);
+    a.i16(z.oeff.score), a.text(z.oeff.u_is_sieger), a.ja(z.oeff.fuchs_null), a.ja(z.oeff.sw_spielende);
+    a.art(z.pcZug), a.art(z.ergebnis), a.i16(z.neueZuege), a.ja(z.endeGefunden), a.art(z.letztesErgebnis);
+    a.ja(z.selbstspielLaeuft), a.ja(z.hennenAmZug);
+    a.u32(z.zufall), a.u32(z.tippZufall);
+    a.text(z.punkte), a.ja(z.zurueckgenommen);
+}
+
+bool codeGueltig(const Code& c) {
+    if (std::all_of(c.begin(), c.end(), [](uint8_t v) { return v == 0; })) return true; // never recorded
+    for (std::size_t i = 0; i < 7; ++i)
+        if (c[i] < 64 || c[i] >= 64 + 128) return false;
+    for (std::size_t i = 7; i < c.size(); ++i)
+        if (c[i] < 64 || c[i] > 64 + 6) return false;
+    return true;
+}
+
+// The board and the pieces agree: every piece stands on its own kind of square, no two on one, and
+// the board holds no piece that none stands for. A fox waits on the parking square only while parked.
+bool stellungGueltig(const Stellung& s) {
+    int hennenFeld = 0, fuechseFeld = 0;
+    for (int x = 0; x <= 6; ++x)
+        for (int y = 0; y <= 6; ++y) {
+            const int16_t v = s.Feld[x][y];
+            const bool park = feldNummer(x, y) == kParkfeld;
+            // The parking square is left empty (leer) when the parked fox returns.
+            if (aufKreuz(x, y) ? (v != leer && v != henne && v != fuchs)
+                               : (v != 0 && !(park && (v == fuchs || v == leer))))
+                return false;
+            hennenFeld += v == henne;
+            fuechseFeld += v == fuchs && !park;
+        }
+    std::bitset<kFelder> belegt;
+    int hennen = 0, fuechse = 0, geparkt = 0;
+    for (int k = 0; k < kFiguren; ++k) {
+        const int p = s.figurplatz[k];
+        const int16_t art = k < 2 ? fuchs : henne;
+        if (p < 0 || p >= kFelder) return false;
+        if (p == kParkfeld) {
+            geparkt += k < 2;
+            continue;
+        }
+        if (belegt[p] || s.Feld[feldX(p)][feldY(p)] != art) return false;
+        belegt[p] = true;
+        (k < 2 ? fuechse : hennen) += 1;
+    }
+    const bool parkfeldBesetzt = s.Feld[0][0] == fuchs;
+    return hennen == hennenFeld && fuechse == fuechseFeld && geparkt <= 1 &&
+           (geparkt == 1) == parkfeldBesetzt;
+}
+
+bool imBereich(int v, int von, int bis) {
+    return v >= von && v <= bis;
+}
+
+bool gueltig(const Spielstand& z) {
+    const Teilzug& r = z.zugregister;
+    if (!stellungGueltig(z.stellung) || !aufGitter(r.vonX, r.vonY) || !aufGitter(r.nachX, r.nachY) ||
+        !aufGitter(z.sprungfolge.sprungX, z.sprungfolge.sprungY))
+        return false;
+    for (int k = 0; k < kFiguren; ++k)
+        if (!imBereich(z.bilder.left[k], INT16_MIN, INT16_MAX) ||
+            !imBereich(z.bilder.top[k], INT16_MIN, INT16_MAX))
+            return false;
+    if (!imBereich(z.partie.spielzug, 0, kSituationen)) return false;
+    for (const Situation& s : z.partie.sits)
+        if (!codeGueltig(s.code) || !imBereich(s.sprung, 0, 1)) return false;
+    const std::string& sieger = z.oeff.u_is_sieger;
+    if (sieger != "Ja" && sieger != "Nein" && sieger != "    ") return false;
+    if (z.punkte.size() > 32 ||
+        !std::all_of(z.punkte.begin(), z.punkte.end(), [](char c) { return c >= ' ' && c <= '~'; }))
+        return false;
+    return imBereich(static_cast<int>(z.pcZug), 0, 2) && imBereich(static_cast<int>(z.ergebnis), 0, 3) &&
+           imBereich(static_cast<int>(z.letztesErgebnis), 0, 3) && z.zufall < (1u << 24) &&
+           z.tippZufall < (1u << 24);
+}
+
+} // namespace
+
+Bytes partieKodieren(const Sicherung& s) {
+    Schreiber inhalt;
+    felder(inhalt, s.stand);
+    const std::size_t n = std::min(s.verlauf.size(), kHoechstVerlauf);
+    inhalt.u16(static_cast<uint16_t>(n));
+    for (std::size_t i = s.verlauf.size() - n; i < s.verlauf.size(); ++i)
+        felder(inhalt, s.verlauf[i]);
+    Schreiber datei;
+    datei.roh(reinterpret_cast<const uint8_t*>(kMagie), sizeof kMagie);
+    datei.u16(kVersion);
+    datei.u32(static_cast<uint32_t>(inhalt.b.size()));
+    datei.roh(inhalt.b.data(), inhalt.b.size());
+    datei.u32(fnv1a(inhalt.b.data(), inhalt.b.size()));
+    return datei.b;
+}
+
+std::optional<Sicherung> partieDekodieren(const Bytes& b) {
+    if (b.size() < kKopf + kPruefsumme || std::memcmp(b.data(), kMagie, sizeof kMagie) != 0)
+        return std::nullopt;
+    Leser kopf(b.data() + sizeof kMagie, kKopf - sizeof kMagie);
+    uint16_t version = 0;
+    uint32_t laenge = 0;
+    kopf.u16(version), kopf.u32(laenge);
+    if (version != kVersion || laenge != b.size() - kKopf - kPruefsumme) return std::nullopt;
+    const uint8_t* inhalt = b.data() + kKopf;
+    Leser summe(inhalt + laenge, kPruefsumme);
+    uint32_t pruefsumme = 0;
+    summe.u32(pruefsumme);
+    if (pruefsumme != fnv1a(inhalt, laenge)) return std::nullopt;
+
+    Leser l(inhalt, laenge);
+    Sicherung s;
+    felder(l, s.stand);
+    uint16_t n = 0;
+    l.u16(n);
+    if (n > kHoechstVerlauf) return std::nullopt;
+    s.verlauf.resize(n);
+    for (Spielstand& z : s.verlauf)
+        felder(l, z);
+    if (l.kaputt || !l.amEnde() || !gueltig(s.stand)) return std::nullopt;
+    if (!std::all_of(s.verlauf.begin(), s.verlauf.end(), gueltig)) return std::nullopt;
+    return s;
+}
+
+} // namespace fuh

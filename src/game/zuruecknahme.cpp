@@ -1,0 +1,60 @@
+// SPDX-FileCopyrightText: 2026 The Fuchs und Hennen authors
+//
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// Taking moves back, and going on from a copy of the whole game.
+#include "game/spiel.h"
+
+#include "board/text.h"
+
+namespace fuh {
+
+namespace {
+constexpr const char* kZurueckgenommen = FUH_TR_NOOP("Kern", "Zurückgenommen: keine Bestenliste");
+}
+
+Spielstand Spiel::zustand() const {
+    Spielstand z = z_;
+    z.zufall = zufall_.zustand();
+    z.tippZufall = tippZufall_.zustand();
+    return z;
+}
+
+bool Spiel::zuruecknehmenMoeglich() const {
+    const Computer PC = z_.oeff.einst.computer();
+    return !verlauf_.empty() && laeuft() && !z_.selbstspielLaeuft &&
+           (PC == Computer::fuchs || PC == Computer::hennen);
+}
+
+void Spiel::zuruecknehmen() {
+    if (!zuruecknehmenMoeglich()) return;
+    Spielstand vorher = std::move(verlauf_.back());
+    verlauf_.pop_back();
+    vorher.zurueckgenommen = true;
+    zustandSetzen(vorher);
+}
+
+void Spiel::fortsetzen(const Sicherung& s) {
+    verlauf_ = s.verlauf;
+    zustandSetzen(s.stand);
+}
+
+void Spiel::zustandSetzen(const Spielstand& z) {
+    z_ = z;
+    zufall_.setzen(z.zufall);
+    tippZufall_.setzen(z.tippZufall);
+    for (int k = 0; k < kFiguren; ++k) {
+        ansicht_.figurBewegt(k, z_.bilder.left[k], z_.bilder.top[k]);
+        ansicht_.figurSichtbar(k, z_.bilder.sichtbar[k]);
+    }
+    ansicht_.figurenZiehbar(z_.bilder.ziehbar);
+    // Between moves only an open jump sequence keeps a prompt on the board.
+    for (Hinweis h : {Hinweis::f_zug, Hinweis::h_zug, Hinweis::speichern_msg})
+        ansicht_.hinweis(h, false);
+    ansicht_.hinweis(Hinweis::spr_msg, z_.sprungfolge.imSprung);
+    statusTexte();
+    ansicht_.status(Statusfeld::punkte, z_.punkte);
+    ansicht_.status(Statusfeld::zuruecknahme, z_.zurueckgenommen ? kZurueckgenommen : "");
+}
+
+} // namespace fuh

@@ -1,0 +1,116 @@
+// SPDX-FileCopyrightText: 2026 The Fuchs und Hennen authors
+//
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "dialogs/statistikdatei.h"
+#include "mensch.h"
+#include "spiel_fixture.h"
+
+namespace fuh::test {
+namespace {
+
+bool geparkt(const Spielstand& z) {
+    return z.stellung.Feld[0][0] == fuchs;
+}
+
+// A random player against the computer on either side, learning at every strength: before each of its
+// moves the whole game is copied. The move (a fox's whole chain of jumps) and the computer's reply are
+// taken back, which must give that copy again and write no file; making the same move again must give
+// the same game as the first time, random draws included.
+TEST(Zuruecknahme, StelltDenGanzenStandHerUndDieselbenZuegeFolgen) {
+    int ketten = 0, strafen = 0, zuruecknahmen = 0;
+    for (int16_t PC : {0, 1})
+        for (int16_t Staerke : {0, 2})
+            for (uint32_t seed : {11u, 12u, 13u, 14u}) {
+                TempOrdner ordner;
+                TestAnsicht ansicht;
+                Zufall zufall(seed), mensch(seed * 7);
+                Spiel spiel(ansicht, zufall, ordner.pfad());
+                spiel.einstellungenFestlegen({PC, Staerke, 1, 0});
+                spiel.Neu_Click();
+                while (!spiel.endeGefunden()) {
+                    const Spielstand vorher = spiel.zustand();
+                    const std::vector<Aktion> zug = menschZieht(spiel, mensch);
+                    if (zug.empty() || spiel.endeGefunden()) break;
+                    spiel.Timer1_Timer();
+                    if (spiel.endeGefunden()) break;
+                    const Spielstand nachher = spiel.zustand();
+                    const auto bytes = dateien(ordner);
+
+                    ASSERT_TRUE(spiel.zuruecknehmenMoeglich());
+                    spiel.zuruecknehmen();
+                    Spielstand erwartet = vorher;
+                    erwartet.zurueckgenommen = true;
+                    ASSERT_TRUE(spiel.zustand() == erwartet)
+                        << "seed " << seed << ", position " << vorher.partie.spielzug;
+                    ASSERT_EQ(dateien(ordner), bytes);
+
+                    for (const Aktion& a : zug)
+                        ausfuehren(spiel, a);
+                    spiel.Timer1_Timer();
+                    erwartet = nachher;
+                    erwartet.zurueckgenommen = true;
+                    ASSERT_TRUE(spiel.zustand() == erwartet)
+                        << "seed " << seed << ", position " << vorher.partie.spielzug;
+                    ++zuruecknahmen;
+                    ketten += zug.size() >= 2; // jumps closed by the right button
+                    strafen += geparkt(vorher) != geparkt(nachher);
+                }
+            }
+    // The runs reach what the test is about.
+    EXPECT_GT(zuruecknahmen, 200);
+    EXPECT_GT(ketten, 0);
+    EXPECT_GT(strafen, 2);
+}
+
+TEST_F(SpielTest, ZuruecknahmeNurImLaufendenSpielGegenDenComputer) {
+    spiel.Form_Load(0);
+    EXPECT_FALSE(spiel.zuruecknehmenMoeglich());
+    ini(0);
+    spiel.Neu_Click();
+    EXPECT_FALSE(spiel.zuruecknehmenMoeglich()); // nothing moved yet
+    const Spielstand anfang = spiel.zustand();
+    ziehe(3, 3, 3, 2);
+    ASSERT_TRUE(spiel.zuruecknehmenMoeglich()); // also before the computer's reply
+    spiel.zuruecknehmen();
+    EXPECT_EQ(spiel.stellung(), anfang.stellung);
+    EXPECT_FALSE(spiel.zuruecknehmenMoeglich()); // back at the start
+    spiel.zuruecknehmen();
+    EXPECT_EQ(spiel.stellung(), anfang.stellung);
+
+    // Changed settings would come back with the moves made under them: those moves stay.
+    ziehe(3, 3, 3, 2);
+    einstellen(0, 1);
+    EXPECT_FALSE(spiel.zuruecknehmenMoeglich());
+
+    // The computer against itself: the game is over when "Neu" returns.
+    ini(2);
+    spiel.Neu_Click();
+    EXPECT_TRUE(spiel.endeGefunden());
+    EXPECT_FALSE(spiel.zuruecknehmenMoeglich());
+}
+
+TEST_F(SpielTest, NachDerZuruecknahmeKeineBestenliste) {
+    ini(0, 2, 1);
+    spiel.Neu_Click();
+    ziehe(3, 3, 3, 2);
+    spiel.Timer1_Timer();
+    spiel.zuruecknehmen();
+    EXPECT_EQ(ansicht.panels[4], "Zurückgenommen: keine Bestenliste");
+    Zufall mensch(5);
+    while (!spiel.endeGefunden()) {
+        ASSERT_FALSE(menschZieht(spiel, mensch).empty());
+        if (!spiel.endeGefunden()) spiel.Timer1_Timer();
+    }
+    // Filed, counted and learned from as any game, but offered to no list.
+    EXPECT_FALSE(spiel.zuruecknehmenMoeglich());
+    EXPECT_TRUE(ansicht.fenster.empty());
+    EXPECT_FALSE(spiel.oeffentlich().sw_spielende);
+    EXPECT_EQ(statistikLesen(ordner.pfad()).beendet(), 1);
+    EXPECT_FALSE(ordner.lies("QZ3.DAT").empty());
+    spiel.Neu_Click();
+    EXPECT_EQ(ansicht.panels[4], "");
+}
+
+} // namespace
+} // namespace fuh::test

@@ -1,0 +1,105 @@
+// SPDX-FileCopyrightText: 2026 The Fuchs und Hennen authors
+//
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// Taking a move back from the menu, and a game continued after the window was closed.
+#include <QAbstractButton>
+#include <QAction>
+#include <QLabel>
+#include <QMessageBox>
+#include <QTest>
+#include <QTimer>
+
+#include "dialogs/statistikdatei.h"
+#include "fenster_aufbau.h"
+#include "game/partiedatei.h"
+
+using namespace fuh;
+using namespace fuh::test;
+
+class FortsetzenTest : public QObject {
+    Q_OBJECT
+  private slots:
+    void zugZuruecknehmen() {
+        Aufbau a;
+        auto* zurueck = a.fenster->findChild<QAction*>(QStringLiteral("zurueck"));
+        QCOMPARE(zurueck->shortcut(), QKeySequence(Qt::CTRL | Qt::Key_Z));
+        a.aktion("Neu");
+        const Stellung anfang = a.spiel().stellung();
+        QVERIFY(!zurueck->isEnabled());
+        a.ziehe(24, 17);
+        a.fenster->Timer1_Timer(); // the fox replies
+        QVERIFY(zurueck->isEnabled());
+        zurueck->trigger();
+        QVERIFY(a.spiel().stellung() == anfang);
+        bilderPruefen(a);
+        QVERIFY(!zurueck->isEnabled());
+        auto* hinweis = a.fenster->findChild<QLabel*>(QStringLiteral("panel4"));
+        QCOMPARE(hinweis->text(), QStringLiteral("Zurückgenommen: keine Bestenliste"));
+        QVERIFY(!hinweis->isHidden());
+        a.aktion("Neu");
+        QVERIFY(hinweis->isHidden());
+    }
+
+    void nachDemNeustartFortsetzen() {
+        Aufbau a;
+        const std::filesystem::path datei = a.pfad() / "zustand" / "partie";
+        a.fenster->fortsetzenAnbieten(datei); // nothing saved: no question
+        a.aktion("Neu");
+        a.ziehe(24, 17);
+        a.fenster->Timer1_Timer();
+        const Sicherung vorher = a.spiel().sicherung();
+
+        a.starten(); // the window closes with the game running
+        QVERIFY(std::filesystem::exists(datei));
+        QTimer::singleShot(0, [] {
+            auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            QVERIFY(box);
+            QCOMPARE(box->text(), QStringLiteral("Die letzte Partie fortsetzen?"));
+            box->button(QMessageBox::Yes)->click();
+        });
+        a.fenster->fortsetzenAnbieten(datei);
+        QVERIFY(a.spiel().sicherung() == vorher);
+        QVERIFY(!std::filesystem::exists(datei));
+        bilderPruefen(a);
+
+        // "Nein" drops it; a window without a running game leaves no file.
+        a.starten();
+        QTimer::singleShot(0, [] {
+            if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget()))
+                box->button(QMessageBox::No)->click();
+        });
+        a.fenster->fortsetzenAnbieten(datei);
+        QVERIFY(!a.spiel().laeuft());
+        a.starten();
+        QVERIFY(!std::filesystem::exists(datei));
+    }
+
+    // The computer against itself, shown move by move: continued, it plays on to the end by itself.
+    void selbstspielFortsetzen() {
+        Aufbau a(std::vector<char>{2, 0, 0, 0}, Tempo::normal);
+        const std::filesystem::path datei = a.pfad() / "partie";
+        a.fenster->fortsetzenAnbieten(datei);
+        a.aktion("Neu");
+        QVERIFY(a.spiel().selbstspielLaeuft());
+        a.starten();
+        a.fenster->tempoSetzen(Tempo::sofort);
+        // "Ja" to the question, OK to the announcement of the end.
+        QTimer antworten;
+        QObject::connect(&antworten, &QTimer::timeout, [] {
+            if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
+                if (QAbstractButton* ja = box->button(QMessageBox::Yes))
+                    ja->click();
+                else
+                    box->accept();
+            }
+        });
+        antworten.start(5);
+        a.fenster->fortsetzenAnbieten(datei);
+        QTRY_VERIFY(a.spiel().endeGefunden());
+        QCOMPARE(statistikLesen(a.pfad()).beendet(), int16_t{1});
+    }
+};
+
+QTEST_MAIN(FortsetzenTest)
+#include "fortsetzen_test.moc"
