@@ -14,13 +14,17 @@ void Spiel::beende() {
     if (ergebnis_ == Ergebnis::remis) oeff_.sw_spielende = false;
     ansicht_.hinweis(Hinweis::speichern_msg, true);
     std::vector<std::string> fehler;
-    if (oeff_.einst.Lernmodus == 1) {
-        const auto merge = lerndatei_.speichern(partie_, oeff_.einst.Staerke);
-        neueZuege_ = merge.neueZuege;
-        if (!merge.geschrieben) fehler.emplace_back(lerndateiName(oeff_.einst.Staerke));
+    {
+        // One lock for the whole filing: another program using the files is waited for once.
+        const datei::Ordnersperre sperre = ordnerSperren();
+        if (oeff_.einst.Lernmodus == 1) {
+            const auto merge = lerndatei_.speichern(partie_, oeff_.einst.Staerke);
+            neueZuege_ = merge.neueZuege;
+            if (!merge.geschrieben) fehler.emplace_back(lerndateiName(oeff_.einst.Staerke));
+        }
+        if (!statistik(ordner_, static_cast<int>(ergebnis_), oeff_.einst, neueZuege_))
+            fehler.emplace_back(kStatistikdatei);
     }
-    if (!statistik(ordner_, static_cast<int>(ergebnis_), oeff_.einst, neueZuege_))
-        fehler.emplace_back(kStatistikdatei);
     meldeSchreibfehler(fehler);
     ansicht_.hinweis(Hinweis::speichern_msg, false);
     if (oeff_.einst.computer() == Computer::fuchs) ansicht_.oeffnen(Fenster::highh);

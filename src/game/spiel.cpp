@@ -63,7 +63,12 @@ void Spiel::statusTexte() {
 
 void Spiel::Neu_Click() {
     init();
-    if (!spielGestartet(ordner_)) meldeSchreibfehler({kStatistikdatei});
+    bool gezaehlt = false;
+    {
+        const datei::Ordnersperre sperre = ordnerSperren();
+        gezaehlt = spielGestartet(ordner_);
+    }
+    if (!gezaehlt) meldeSchreibfehler({kStatistikdatei});
     bilder_.aufstellen(stellung_);
     for (int k = 0; k < kFiguren; ++k) {
         ansicht_.figurBewegt(k, bilder_.left[k], bilder_.top[k]);
@@ -93,15 +98,23 @@ void Spiel::einstellungenFestlegen(const Einstellungen& e) {
 
 void Spiel::meldeSchreibfehler(const std::vector<std::string>& dateien) {
     if (dateien.empty()) return;
+    std::string text;
     if (dateien.size() == 1) {
-        ansicht_.speicherfehler(schreibfehler(dateien.front()));
-        return;
+        text = schreibfehler(dateien.front());
+    } else {
+        std::string namen;
+        for (std::size_t i = 0; i < dateien.size(); ++i)
+            namen += (i == 0 ? "" : i + 1 == dateien.size() ? " und " : ", ") + ("„" + dateien[i] + "“");
+        text = "Die Dateien " + namen +
+               " konnten nicht gespeichert werden. Das Spiel geht ohne diese Daten weiter.";
     }
-    std::string namen;
-    for (std::size_t i = 0; i < dateien.size(); ++i)
-        namen += (i == 0 ? "" : i + 1 == dateien.size() ? " und " : ", ") + ("„" + dateien[i] + "“");
-    ansicht_.speicherfehler("Die Dateien " + namen +
-                            " konnten nicht gespeichert werden. Das Spiel geht ohne diese Daten weiter.");
+    for (const std::string& name : dateien)
+        text += linkHinweis(ordner_, name);
+    ansicht_.speicherfehler(text);
+}
+
+datei::Ordnersperre Spiel::ordnerSperren() {
+    return datei::Ordnersperre(ordner_, [this](bool fertig) { ansicht_.wartetAufDateien(fertig); });
 }
 
 void Spiel::zug(bool normal) {

@@ -84,4 +84,12 @@ std::string schreibfehler(const std::string& name) {
            "“ konnte nicht gespeichert werden. Das Spiel geht ohne diese Daten weiter.";
 }
 
+std::string linkHinweis(const fs::path& ordner, const std::string& name) {
+    const fs::path pfad = datenpfad(ordner, name);
+    if (!datei::linkVerweigert(pfad)) return {};
+    return " „" + pfad.filename().string() +
+           "“ ist eine symbolische Verknüpfung, die ein anderer Benutzer angelegt oder verändert haben kann; "
+           "das Spiel schreibt nicht durch sie hindurch.";
+}
+
 } // namespace fuh

@@ -47,5 +47,8 @@ void setzeBytes(Bytes& b, std::size_t pos, const uint8_t* daten, std::size_t n);
 
 // The message shown when a file cannot be written.
 std::string schreibfehler(const std::string& name);
+// What to add to that message when the file `name` in `ordner` is a symbolic link that writes do not
+// follow (someone else may have planted it); empty otherwise.
+std::string linkHinweis(const std::filesystem::path& ordner, const std::string& name);
 
 } // namespace fuh
