@@ -153,7 +153,8 @@ void BrettFenster::tempoSetzen(Tempo t) {
 }
 
 bool BrettFenster::beschaeftigt() const {
-    return wiedergabe_.laeuft() || naechsterZug_.isActive() || (spiel_ && spiel_->selbstspielLaeuft());
+    return wartetAufDateien_ || wiedergabe_.laeuft() || naechsterZug_.isActive() ||
+           (spiel_ && spiel_->selbstspielLaeuft());
 }
 
 void BrettFenster::Timer1_Timer() {

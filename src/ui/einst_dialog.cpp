@@ -16,6 +16,7 @@
 #include "board/bildlage.h"
 #include "dialogs/einstellungsdatei.h"
 #include "dialogs/statustexte.h"
+#include "memory/satzdatei.h"
 #include "ui/meldung.h"
 
 namespace fuh {
@@ -143,7 +144,8 @@ void EinstDialog::ok_Click() {
         meldungZeigen(this, QMessageBox::Warning,
                       QStringLiteral("Die Einstellungen konnten nicht in „%1“ gespeichert werden. "
                                      "Sie gelten nur für das laufende Spiel.")
-                          .arg(QString::fromUtf8(kEinstellungsdatei)));
+                              .arg(QString::fromUtf8(kEinstellungsdatei)) +
+                          QString::fromStdString(linkHinweis(ordner_, kEinstellungsdatei)));
     }
     if (statusSetzen_) {
         if (const auto t = pcStatustext(e.PC)) statusSetzen_(Statusfeld::seite, QString::fromStdString(*t));

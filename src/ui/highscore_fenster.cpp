@@ -14,6 +14,7 @@
 #include <QVBoxLayout>
 #include <cmath>
 
+#include "memory/satzdatei.h"
 #include "ui/meldung.h"
 
 namespace fuh {
@@ -31,7 +32,7 @@ QString feldText(const std::string& bytes) {
 }
 
 QLabel* zelle(const QString& name, QWidget* eltern) {
-    auto* l = new QLabel(eltern);
+    auto* l = klartext(new QLabel(eltern));
     l->setObjectName(name);
     return l;
 }
@@ -125,7 +126,8 @@ void HighscoreFenster::ok_Click() {
     if (!liste_.speichern(ordner_)) {
         meldungZeigen(this, QMessageBox::Warning,
                       QStringLiteral("Die Highscore-Liste „%1“ konnte nicht gespeichert werden.")
-                          .arg(QString::fromLatin1(bestenlistendatei(liste_.seite()))));
+                              .arg(QString::fromLatin1(bestenlistendatei(liste_.seite()))) +
+                          QString::fromStdString(linkHinweis(ordner_, bestenlistendatei(liste_.seite()))));
         return;
     }
     close();
