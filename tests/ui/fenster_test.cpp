@@ -320,30 +320,36 @@ class FensterTest : public QObject {
                 std::this_thread::sleep_for(std::chrono::milliseconds(1));
             }
         });
+        QString name;
+        QString sieg;
+        Qt::TextFormat format = Qt::AutoText;
         {
             Oeffentlich spiel;
             HighscoreFenster w(Seite::Fuchs, spiel, dir.pfad());
             w.show();
             w.grab(); // lays out and paints every cell
-            QCOMPARE(text(&w, "user0"), QStringLiteral("<img src=f>"));
-            QCOMPARE(text(&w, "sieg0"), QStringLiteral("<b>J"));
-            QCOMPARE(kind<QLabel>(&w, "user0")->textFormat(), Qt::PlainText);
+            name = text(&w, "user0");
+            sieg = text(&w, "sieg0");
+            format = kind<QLabel>(&w, "user0")->textFormat();
         }
         fertig = true;
         waechter.join();
         std::filesystem::current_path(vorher);
         QVERIFY(!geoeffnet);
+        QCOMPARE(name, QStringLiteral("<img src=f>"));
+        QCOMPARE(sieg, QStringLiteral("<b>J"));
+        QCOMPARE(format, Qt::PlainText);
 
         // Messages may name folders and files: shown as they are, too.
-        auto format = std::make_shared<Qt::TextFormat>(Qt::AutoText);
-        QTimer::singleShot(0, [format] {
+        auto boxFormat = std::make_shared<Qt::TextFormat>(Qt::AutoText);
+        QTimer::singleShot(0, [boxFormat] {
             if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
-                *format = box->textFormat();
+                *boxFormat = box->textFormat();
                 box->accept();
             }
         });
         meldungZeigen(nullptr, QMessageBox::Warning, QStringLiteral("<b>/tmp/x</b>"));
-        QCOMPARE(*format, Qt::PlainText);
+        QCOMPARE(*boxFormat, Qt::PlainText);
     }
 
     // XDG_DATA_HOME names a folder whose name is no valid UTF-8: the game uses exactly that folder.
