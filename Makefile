@@ -47,23 +47,25 @@ match: build
 soak: build
 	$(BUILD)/src/tools/dauerlauf 10000
 
-# One libFuzzer target per data-file reader, built with clang under ASan/UBSan, each run for FUZZ_RUNS
-# inputs from a copy of the seed corpus in src/tools/fuzz/korpus. The inputs become files in a folder in
-# memory (/dev/shm) where there is one: on a disk, truncating and writing them would take most of the time.
-FUZZ_ZIELE = einstellungen statistik bestenliste lerndatei
+# One libFuzzer target per data-file reader and one for the learned-move merge, built with clang under
+# ASan/UBSan, each run for FUZZ_RUNS inputs from a copy of the seed corpus in src/tools/fuzz/korpus (the
+# learned-file targets get large seeds made by scripts/fuzz-korpus, and inputs up to a full file). The
+# inputs become files in a folder in memory (/dev/shm) where there is one: on a disk, truncating and
+# writing them would take most of the time.
+FUZZ_ZIELE = einstellungen statistik bestenliste lerndatei zusammenfuehren
 FUZZ_RUNS ?= 1000000
+# Longest input: 4096 bytes for the small files; 32767 records of 15 bytes for a learned file, and for
+# the merge also the game in front of it (one byte and 151 positions of 15 bytes).
+fuzz_laenge = $(if $(filter lerndatei,$(1)),491505,$(if $(filter zusammenfuehren,$(1)),493771,4096))
 fuzz:
 	@scripts/install-deps clang
 	cmake -S . -B build-fuzz -DCMAKE_CXX_COMPILER=clang++ -DCMAKE_BUILD_TYPE=RelWithDebInfo -DFUH_GUI=OFF \
 	  -DFUH_SANITIZE=ON -DFUH_FUZZ=ON -DFUH_WERROR=OFF -DCMAKE_CXX_FLAGS=-fsanitize=fuzzer-no-link
 	cmake --build build-fuzz -j $(JOBS) --target $(addprefix fuzz_,$(FUZZ_ZIELE))
-	for z in $(FUZZ_ZIELE); do \
-	  rm -rf build-fuzz/korpus/$$z && mkdir -p build-fuzz/korpus/$$z && \
-	  cp src/tools/fuzz/korpus/$$z/* build-fuzz/korpus/$$z/ && \
+	$(foreach z,$(FUZZ_ZIELE),scripts/fuzz-korpus $(z) build-fuzz/korpus/$(z) && \
 	  TMPDIR=$$(test -d /dev/shm && echo /dev/shm || echo /tmp) \
-	  UBSAN_OPTIONS=halt_on_error=1:print_stacktrace=1 build-fuzz/src/tools/fuzz/fuzz_$$z \
-	    -runs=$(FUZZ_RUNS) -max_len=4096 -print_final_stats=1 build-fuzz/korpus/$$z || exit 1; \
-	done
+	  UBSAN_OPTIONS=halt_on_error=1:print_stacktrace=1 build-fuzz/src/tools/fuzz/fuzz_$(z) \
+	    -runs=$(FUZZ_RUNS) -max_len=$(call fuzz_laenge,$(z)) -print_final_stats=1 build-fuzz/korpus/$(z) && ) true
 
 format:
 	find src tests -name '*.cpp' -o -name '*.h' | xargs clang-format -i

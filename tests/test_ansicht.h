@@ -31,6 +31,9 @@ struct TestAnsicht : Ansicht {
     int zugbegrenzungen = 0;
     void zugbegrenzungErreicht() override { ++zugbegrenzungen; }
     void oeffnen(Fenster f) override { fenster.push_back(f); }
+    int warteschritte = 0; // calls while waiting for the data folder's lock
+    int wartezeiten = 0;   // waits that ended
+    void wartetAufDateien(bool fertig) override { ++(fertig ? wartezeiten : warteschritte); }
 };
 
 } // namespace fuh::test

@@ -114,6 +114,10 @@
         <source>Zurückgenommen: keine Bestenliste</source>
         <translation>Move taken back: no high score</translation>
     </message>
+    <message>
+        <source>%1 „%2“ ist eine symbolische Verknüpfung, die ein anderer Benutzer angelegt oder verändert haben kann; das Spiel schreibt nicht durch sie hindurch.</source>
+        <translation>%1 “%2” is a symbolic link that another user may have made or changed; the game does not write through it.</translation>
+    </message>
 </context>
 <context>
     <name>fuh::Ansage</name>

@@ -14,13 +14,17 @@ void Spiel::beende() {
     if (z_.ergebnis == Ergebnis::remis) z_.oeff.sw_spielende = false;
     ansicht_.hinweis(Hinweis::speichern_msg, true);
     std::vector<std::string> fehler;
-    if (z_.oeff.einst.Lernmodus == 1) {
-        const auto merge = lerndatei_.speichern(z_.partie, z_.oeff.einst.Staerke);
-        z_.neueZuege = merge.neueZuege;
-        if (!merge.geschrieben) fehler.emplace_back(lerndateiName(z_.oeff.einst.Staerke));
+    {
+        // One lock for the whole filing: another program using the files is waited for once.
+        const datei::Ordnersperre sperre = ordnerSperren();
+        if (z_.oeff.einst.Lernmodus == 1) {
+            const auto merge = lerndatei_.speichern(z_.partie, z_.oeff.einst.Staerke);
+            z_.neueZuege = merge.neueZuege;
+            if (!merge.geschrieben) fehler.emplace_back(lerndateiName(z_.oeff.einst.Staerke));
+        }
+        if (!statistik(ordner_, static_cast<int>(z_.ergebnis), z_.oeff.einst, z_.neueZuege))
+            fehler.emplace_back(kStatistikdatei);
     }
-    if (!statistik(ordner_, static_cast<int>(z_.ergebnis), z_.oeff.einst, z_.neueZuege))
-        fehler.emplace_back(kStatistikdatei);
     meldeSchreibfehler(fehler);
     ansicht_.hinweis(Hinweis::speichern_msg, false);
     // Taking moves back could improve any score: such a game is filed and learned from, but not listed.

@@ -72,7 +72,12 @@ void Spiel::punkteZeigen(std::string text) {
 
 void Spiel::Neu_Click() {
     init();
-    if (!spielGestartet(ordner_)) meldeSchreibfehler({kStatistikdatei});
+    bool gezaehlt = false;
+    {
+        const datei::Ordnersperre sperre = ordnerSperren();
+        gezaehlt = spielGestartet(ordner_);
+    }
+    if (!gezaehlt) meldeSchreibfehler({kStatistikdatei});
     z_.bilder.aufstellen(z_.stellung);
     for (int k = 0; k < kFiguren; ++k) {
         ansicht_.figurBewegt(k, z_.bilder.left[k], z_.bilder.top[k]);
@@ -104,15 +109,23 @@ void Spiel::einstellungenFestlegen(const Einstellungen& e) {
 
 void Spiel::meldeSchreibfehler(const std::vector<std::string>& dateien) {
     if (dateien.empty()) return;
+    std::string text;
     if (dateien.size() == 1) {
-        ansicht_.speicherfehler(schreibfehler(dateien.front()));
-        return;
+        text = schreibfehler(dateien.front());
+    } else {
+        std::string namen = einsetzen(kDateiname, {dateien.front()});
+        for (std::size_t i = 1; i < dateien.size(); ++i)
+            namen = einsetzen(i + 1 == dateien.size() ? kAufzaehlungEnde : kAufzaehlung,
+                              {namen, einsetzen(kDateiname, {dateien[i]})});
+        text = einsetzen(kSchreibfehlerMehrere, {namen});
     }
-    std::string namen = einsetzen(kDateiname, {dateien.front()});
-    for (std::size_t i = 1; i < dateien.size(); ++i)
-        namen = einsetzen(i + 1 == dateien.size() ? kAufzaehlungEnde : kAufzaehlung,
-                          {namen, einsetzen(kDateiname, {dateien[i]})});
-    ansicht_.speicherfehler(einsetzen(kSchreibfehlerMehrere, {namen}));
+    for (const std::string& name : dateien)
+        text = mitLinkHinweis(text, ordner_, name);
+    ansicht_.speicherfehler(text);
+}
+
+datei::Ordnersperre Spiel::ordnerSperren() {
+    return datei::Ordnersperre(ordner_, [this](bool fertig) { ansicht_.wartetAufDateien(fertig); });
 }
 
 void Spiel::zug(bool normal) {

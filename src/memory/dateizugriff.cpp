@@ -5,26 +5,14 @@
 #include "memory/dateizugriff.h"
 
 #include <fcntl.h>
-#include <sys/file.h>
 #include <unistd.h>
 
-#include <atomic>
 #include <cerrno>
 #include <string>
-#include <thread>
 
 namespace fuh::datei {
 
 namespace fs = std::filesystem;
-
-namespace {
-std::atomic<long> sperrfristMs{5000};
-
-fs::path ordnerVon(const fs::path& pfad) {
-    const fs::path o = pfad.parent_path();
-    return o.empty() ? fs::path(".") : o;
-}
-} // namespace
 
 Deskriptor::~Deskriptor() {
     if (fd_ >= 0) ::close(fd_);
@@ -41,9 +29,18 @@ Deskriptor& Deskriptor::operator=(Deskriptor&& o) noexcept {
 
 Deskriptor regulaerOeffnen(const char* pfad, int modus, bool anlegen, struct stat& st) {
     // O_NONBLOCK: opening a FIFO must not wait for a writer; fstat then refuses it.
-    const int flags = modus | O_NONBLOCK | O_CLOEXEC | O_NOCTTY;
-    Deskriptor d(::open(pfad, flags));
-    if (!d && errno == ENOENT && anlegen) d = Deskriptor(::open(pfad, flags | O_CREAT, 0666));
+    int flags = modus | O_NONBLOCK | O_CLOEXEC | O_NOCTTY;
+    Deskriptor d;
+    std::optional<fs::path> ziel;
+    if (modus == O_RDONLY) d = Deskriptor(::open(pfad, flags));
+    if (!d && (modus != O_RDONLY || (errno == ENOENT && anlegen))) {
+        // Writing or creating: only where it is safe, and nothing swapped in meanwhile is followed.
+        ziel = schreibziel(pfad);
+        if (!ziel) return Deskriptor();
+        flags |= O_NOFOLLOW;
+        d = Deskriptor(::open(ziel->c_str(), flags));
+        if (!d && errno == ENOENT && anlegen) d = Deskriptor(::open(ziel->c_str(), flags | O_CREAT, 0666));
+    }
     if (!d || ::fstat(d.fd(), &st) != 0 || !S_ISREG(st.st_mode)) return Deskriptor();
     return d;
 }
@@ -82,28 +79,6 @@ bool schreiben(int fd, const uint8_t* daten, std::size_t n, off_t pos) {
     return true;
 }
 
-void sperrfristSetzen(std::chrono::milliseconds frist) {
-    sperrfristMs = static_cast<long>(frist.count());
-}
-
-Ordnersperre::Ordnersperre(const fs::path& ordner)
-    : ordner_(::open(ordner.empty() ? "." : ordner.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC)) {
-    if (!ordner_) return;
-    // Polling instead of a blocking flock: the wait must end after the time limit, without signals.
-    const auto ende = std::chrono::steady_clock::now() + std::chrono::milliseconds(sperrfristMs.load());
-    auto pause = std::chrono::microseconds(200);
-    for (;;) {
-        if (::flock(ordner_.fd(), LOCK_EX | LOCK_NB) == 0) {
-            gehalten_ = true;
-            return;
-        }
-        if (errno != EWOULDBLOCK && errno != EINTR) return;
-        if (std::chrono::steady_clock::now() >= ende) return;
-        std::this_thread::sleep_for(pause);
-        pause = std::min(pause * 2, std::chrono::microseconds(5000));
-    }
-}
-
 namespace {
 
 // A new, still unnamed file in the folder (O_TMPFILE), or where the file system cannot do that, one
@@ -126,16 +101,6 @@ bool benennen(int ordner, int fd, const std::string& name) {
     return ::linkat(AT_FDCWD, proc.c_str(), ordner, name.c_str(), AT_SYMLINK_FOLLOW) == 0;
 }
 
-// The file writes go to: a symbolic link's target, so the link stays a link.
-bool zielVon(const fs::path& pfad, fs::path& ziel) {
-    struct stat lst {};
-    ziel = pfad;
-    if (::lstat(pfad.c_str(), &lst) != 0 || !S_ISLNK(lst.st_mode)) return true;
-    std::error_code ec;
-    ziel = fs::canonical(pfad, ec);
-    return !ec;
-}
-
 // Mode and owner of the file being replaced go to its successor.
 void identitaetUebernehmen(int fd, const struct stat& alt) {
     if (alt.st_uid != ::geteuid() || alt.st_gid != ::getegid()) {
@@ -148,10 +113,12 @@ void identitaetUebernehmen(int fd, const struct stat& alt) {
 } // namespace
 
 bool ersetzen(const fs::path& pfad, const Bytes& inhalt) {
-    fs::path ziel;
-    if (!zielVon(pfad, ziel)) return false;
+    // A symbolic link's target is replaced, so the link stays a link.
+    const std::optional<fs::path> schreibpfad = schreibziel(pfad);
+    if (!schreibpfad) return false;
+    const fs::path& ziel = *schreibpfad;
     struct stat alt {};
-    const bool gibt = ::stat(ziel.c_str(), &alt) == 0;
+    const bool gibt = ::lstat(ziel.c_str(), &alt) == 0;
     if (gibt && (!S_ISREG(alt.st_mode) || ::access(ziel.c_str(), W_OK) != 0)) return false;
     const Deskriptor ordner(::open(ordnerVon(ziel).c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
     if (!ordner) return false;

@@ -83,4 +83,15 @@ std::string schreibfehler(const std::string& name) {
     return einsetzen(kSchreibfehler, {name});
 }
 
+std::optional<std::string> verweigerterLink(const fs::path& ordner, const std::string& name) {
+    const fs::path pfad = datenpfad(ordner, name);
+    if (!datei::linkVerweigert(pfad)) return std::nullopt;
+    return pfad.filename().string();
+}
+
+std::string mitLinkHinweis(const std::string& meldung, const fs::path& ordner, const std::string& name) {
+    const auto link = verweigerterLink(ordner, name);
+    return link ? einsetzen(kLinkHinweis, {meldung, *link}) : meldung;
+}
+
 } // namespace fuh

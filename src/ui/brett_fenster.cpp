@@ -107,7 +107,8 @@ void BrettFenster::groesseLaden() {
 }
 
 bool BrettFenster::beschaeftigt() const {
-    return wiedergabe_.laeuft() || naechsterZug_.isActive() || (spiel_ && spiel_->selbstspielLaeuft());
+    return wartetAufDateien_ || wiedergabe_.laeuft() || naechsterZug_.isActive() ||
+           (spiel_ && spiel_->selbstspielLaeuft());
 }
 
 void BrettFenster::Timer1_Timer() {

@@ -33,7 +33,8 @@ void BrettFenster::fortsetzenAnbieten(const std::filesystem::path& datei) {
     // The desktop session may end the program without closing its windows first.
     connect(qApp, &QGuiApplication::commitDataRequest, this, [this](QSessionManager&) { partieSichern(); });
     const Partieladung ladung = partieHolen(datei);
-    if (ladung.beschaedigt) meldungZeigen(this, QMessageBox::Warning, kernText(QString::fromUtf8(kPartieBeschaedigt)));
+    if (ladung.beschaedigt)
+        meldungZeigen(this, QMessageBox::Warning, kernText(QString::fromUtf8(kPartieBeschaedigt)));
     if (!ladung.sicherung) return;
     QMessageBox frage(QMessageBox::Question, QString::fromUtf8(kTitel), tr("Die letzte Partie fortsetzen?"),
                       QMessageBox::Yes | QMessageBox::No, this);

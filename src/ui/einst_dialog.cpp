@@ -17,7 +17,9 @@
 #include "board/bildlage.h"
 #include "dialogs/einstellungsdatei.h"
 #include "dialogs/statustexte.h"
+#include "memory/satzdatei.h"
 #include "ui/meldung.h"
+#include "ui/sprache.h"
 
 namespace fuh {
 
@@ -164,9 +166,10 @@ void EinstDialog::ok_Click() {
     if (!einstellungenSchreiben(ordner_, e)) {
         // The next new game reads the file again, so the settings last only for the game being played.
         meldungZeigen(this, QMessageBox::Warning,
-                      tr("Die Einstellungen konnten nicht in „%1“ gespeichert werden. "
-                         "Sie gelten nur für das laufende Spiel.")
-                          .arg(QString::fromUtf8(kEinstellungsdatei)));
+                      linkHinweisAnhaengen(tr("Die Einstellungen konnten nicht in „%1“ gespeichert werden. "
+                                              "Sie gelten nur für das laufende Spiel.")
+                                               .arg(QString::fromUtf8(kEinstellungsdatei)),
+                                           ordner_, kEinstellungsdatei));
     }
     if (statusSetzen_) {
         if (const auto t = pcStatustext(e.PC)) statusSetzen_(Statusfeld::seite, *t);

@@ -15,6 +15,7 @@
 #include <QVBoxLayout>
 #include <cmath>
 
+#include "memory/satzdatei.h"
 #include "ui/meldung.h"
 #include "ui/sprache.h"
 
@@ -33,7 +34,7 @@ QString feldText(const std::string& bytes) {
 }
 
 QLabel* zelle(const QString& name, QWidget* eltern) {
-    auto* l = new QLabel(eltern);
+    auto* l = klartext(new QLabel(eltern));
     l->setObjectName(name);
     l->setTextFormat(Qt::PlainText); // names and flags come from the file
     return l;
@@ -147,8 +148,9 @@ void HighscoreFenster::changeEvent(QEvent* e) {
 void HighscoreFenster::ok_Click() {
     if (!liste_.speichern(ordner_)) {
         meldungZeigen(this, QMessageBox::Warning,
-                      tr("Die Highscore-Liste „%1“ konnte nicht gespeichert werden.")
-                          .arg(QString::fromLatin1(bestenlistendatei(liste_.seite()))));
+                      linkHinweisAnhaengen(tr("Die Highscore-Liste „%1“ konnte nicht gespeichert werden.")
+                                               .arg(QString::fromLatin1(bestenlistendatei(liste_.seite()))),
+                                           ordner_, bestenlistendatei(liste_.seite())));
         return;
     }
     close();

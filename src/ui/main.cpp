@@ -5,38 +5,27 @@
 // Fuchs und Hennen: starts the main window in the player's data folder.
 #include <QApplication>
 #include <QFile>
-#include <QStandardPaths>
 #include <filesystem>
 #include <system_error>
 
 #include "game/partiedatei.h"
 #include "ui/brett_fenster.h"
+#include "ui/datenordner.h"
 #include "ui/meldung.h"
-
-namespace {
-
-// The per-user data folder: $XDG_DATA_HOME/fuchs-und-hennen (normally ~/.local/share/fuchs-und-hennen).
-std::filesystem::path datenordner() {
-    const QString basis = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
-    if (basis.isEmpty()) return std::filesystem::current_path();
-    return std::filesystem::path(QFile::encodeName(basis).toStdString()) / "fuchs-und-hennen";
-}
-
-} // namespace
 
 int main(int argc, char* argv[]) {
     QApplication app(argc, argv);
     fuh::BrettFenster::anwendungEinrichten(app);
 
     // The game runs in its data folder and keeps its files in the current directory.
-    const std::filesystem::path ordner = datenordner();
+    const std::filesystem::path ordner = fuh::datenordner();
     std::error_code fehler;
     std::filesystem::create_directories(ordner, fehler);
     if (!fehler) std::filesystem::current_path(ordner, fehler);
     if (fehler) {
         fuh::meldungZeigen(nullptr, QMessageBox::Critical,
                            QCoreApplication::translate("main", "Der Datenordner %1 ist nicht nutzbar: %2")
-                               .arg(QString::fromStdString(ordner.string()),
+                               .arg(QFile::decodeName(QByteArray::fromStdString(ordner.string())),
                                     QString::fromLocal8Bit(fehler.message().c_str())));
         return 1;
     }

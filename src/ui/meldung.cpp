@@ -13,9 +13,16 @@
 
 namespace fuh {
 
+QLabel* klartext(QLabel* label) {
+    label->setTextFormat(Qt::PlainText);
+    return label;
+}
+
 void meldungZeigen(QWidget* eltern, QMessageBox::Icon symbol, const QString& text) {
     const QString titel = QString::fromUtf8(kTitel);
-    QMessageBox box(symbol, titel, text, QMessageBox::Ok, eltern);
+    QMessageBox box(symbol, titel, QString(), QMessageBox::Ok, eltern);
+    box.setTextFormat(Qt::PlainText);
+    box.setText(text);
     // A box sized to a short text would cut its own title; the frame's buttons need room as well.
     const int breite = QFontMetrics(box.font()).horizontalAdvance(titel) * 3 / 2 + 120;
     if (auto* raster = qobject_cast<QGridLayout*>(box.layout()))

@@ -84,6 +84,14 @@ QString dateiliste(const QString& text) {
 
 } // namespace
 
+QString linkHinweisAnhaengen(const QString& meldung, const std::filesystem::path& ordner,
+                             const std::string& name) {
+    const auto link = verweigerterLink(ordner, name);
+    if (!link) return meldung;
+    return QCoreApplication::translate(kKernKontext, kLinkHinweis)
+        .arg(meldung, QString::fromStdString(*link));
+}
+
 Sprache gespeicherteSprache() {
     return fensterEinstellungen().value(QLatin1String(kSchluessel)).toString() == QLatin1String(kEnglischCode)
                ? Sprache::englisch
@@ -120,6 +128,7 @@ QString kernText(const QString& text) {
     const QString fest = QCoreApplication::translate(kKernKontext, text.toUtf8().constData());
     if (fest != text) return fest;
     const Teil gleich = [](const QString& w) { return w; };
+    if (auto t = nachVorlage(text, kLinkHinweis, kernText)) return *t; // a message, then the link's sentence
     if (auto t = nachVorlage(text, kSchreibfehlerMehrere, dateiliste)) return *t;
     for (const char* vorlage : {kSchreibfehler, kPunkteText, kStaerkeStatustext})
         if (auto t = nachVorlage(text, vorlage, gleich)) return *t;

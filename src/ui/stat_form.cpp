@@ -14,13 +14,14 @@
 #include <QVBoxLayout>
 
 #include "dialogs/statistikdatei.h"
+#include "ui/meldung.h"
 
 namespace fuh {
 
 namespace {
 
 QLabel* wert(const QString& name, int zahl, QWidget* eltern, Qt::Alignment ausrichtung = Qt::AlignRight) {
-    auto* l = new QLabel(QString::number(zahl), eltern);
+    auto* l = klartext(new QLabel(QString::number(zahl), eltern)); // a number, but read from a file
     l->setObjectName(name);
     l->setAlignment(ausrichtung | Qt::AlignVCenter);
     l->setMinimumWidth(QFontMetrics(l->font()).horizontalAdvance(QStringLiteral("000000")));

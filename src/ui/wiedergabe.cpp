@@ -51,7 +51,7 @@ int Wiedergabe::gleitdauer() const {
 
 void Wiedergabe::abspielen() {
     // A message being shown runs its own event loop: the timers must not show what comes after it.
-    if (aktiv_ || pause_.isActive()) return;
+    if (aktiv_ || angehalten_ || pause_.isActive()) return;
     anstoss_.stop();
     aktiv_ = true;
     bool wartet = false;

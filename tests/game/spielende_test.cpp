@@ -2,6 +2,8 @@
 //
 // SPDX-License-Identifier: GPL-3.0-or-later
 
+#include "fremde_sperre.h"
+#include "memory/dateizugriff.h"
 #include "spiel_fixture.h"
 
 namespace fuh {
@@ -9,21 +11,27 @@ namespace {
 
 using test::SpielTest;
 
-// The human plays the hens; the foxes are moved aside by hand, then nine hens walk into the target area.
-TEST_F(SpielTest, HennenGewinnenUndWerdenAbgelegt) {
-    ini(0, 1, 0, 1); // strength 2, single-move mode: no replies
-    spiel.Form_Load(1);
-    spiel.Neu_Click();
-    einstellen(2, 1, 1);
-    ziehe(2, 2, 1, 2);
-    ziehe(1, 2, 0, 2);
-    ziehe(4, 2, 5, 2);
-    ziehe(5, 2, 6, 2);
-    einstellen(0, 1, 1);
+// The human plays the hens at strength 2 in single-move mode (no replies); the foxes are moved aside by
+// hand, then nine hens walk into the target area, all but the last step: (4, 3) to (4, 2).
+void hennenVorDemSieg(SpielTest& t, int16_t Lernmodus) {
+    t.ini(0, 1, Lernmodus, 1);
+    t.spiel.Form_Load(1);
+    t.spiel.Neu_Click();
+    t.einstellen(2, 1, 1, Lernmodus);
+    t.ziehe(2, 2, 1, 2);
+    t.ziehe(1, 2, 0, 2);
+    t.ziehe(4, 2, 5, 2);
+    t.ziehe(5, 2, 6, 2);
+    t.einstellen(0, 1, 1, Lernmodus);
     for (int x : {2, 3, 4})
         for (int start = 3; start <= 5; ++start)
             for (int y = start; y > start - 3; --y)
-                ziehe(x, y, x, y - 1);
+                if (x != 4 || start != 5 || y != 3) t.ziehe(x, y, x, y - 1);
+}
+
+TEST_F(SpielTest, HennenGewinnenUndWerdenAbgelegt) {
+    hennenVorDemSieg(*this, 0);
+    ziehe(4, 3, 4, 2);
     EXPECT_EQ(ansicht.meldungen, std::vector<std::string>{"Die Hennen haben gewonnen!"});
     EXPECT_EQ(spiel.oeffentlich().u_is_sieger, "Ja");
     EXPECT_EQ(spiel.oeffentlich().score, 538 + 118);
@@ -32,6 +40,34 @@ TEST_F(SpielTest, HennenGewinnenUndWerdenAbgelegt) {
     EXPECT_EQ(ansicht.gezeigt.back(), Hinweis::speichern_msg);
     EXPECT_FALSE(ansicht.hinweise[Hinweis::speichern_msg]);
     EXPECT_EQ(statistik(12), 1); // user won with the hens at strength 2
+}
+
+// Another program holds the data folder while the game is filed: the game waits once, not once per file,
+// tells the view while it waits, and names both files in one message; neither file changes.
+TEST_F(SpielTest, AblegenWartetEinmalAufEinAnderesProgramm) {
+    hennenVorDemSieg(*this, 1);
+    const auto lern = ordner.lies("QZ2.DAT");
+    const auto sta = ordner.lies("QZ.sta");
+    datei::sperrfristSetzen(std::chrono::milliseconds(300));
+    {
+        const test::FremdeSperre fremd(ordner.pfad());
+        ASSERT_TRUE(fremd.gehalten());
+        ziehe(4, 3, 4, 2);
+    }
+    datei::sperrfristSetzen(std::chrono::seconds(5));
+    EXPECT_EQ(ansicht.wartezeiten, 1);
+    EXPECT_GT(ansicht.warteschritte, 0);
+    EXPECT_EQ(ansicht.meldungen, (std::vector<std::string>{
+                                     "Die Hennen haben gewonnen!",
+                                     "Die Dateien „QZ2.DAT“ und „QZ.sta“ konnten nicht gespeichert werden. "
+                                     "Das Spiel geht ohne diese Daten weiter."}));
+    EXPECT_EQ(ordner.lies("QZ2.DAT"), lern);
+    EXPECT_EQ(ordner.lies("QZ.sta"), sta);
+    // Free again: the next game is counted without a wait; the unsaved one stays uncounted.
+    spiel.Neu_Click();
+    EXPECT_EQ(ansicht.wartezeiten, 1);
+    EXPECT_EQ(statistik(14), 2); // games started
+    EXPECT_EQ(statistik(0), 0);  // games finished
 }
 
 TEST_F(SpielTest, ZugbegrenzungIstRemisOhneMeldung) {

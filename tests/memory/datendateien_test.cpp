@@ -154,6 +154,58 @@ TEST(Datendateien, SchreibenDurchLinkBehaeltModusUndBesitzer) {
     }
 }
 
+// A link named like a data file, to a file elsewhere. Writes follow it only where nobody but the user and
+// root can have planted or changed it; otherwise the write fails, the message says why, and nothing
+// changes anywhere: the link stays, its target keeps every byte, and a missing target is not created.
+TEST(Datendateien, LinkWirdNurGefolgtWoNiemandSonstSchreibenKann) {
+    struct Fall {
+        const char* name;
+        mode_t ordner, zielordner;
+        bool fremderLink, zielDa, folgt;
+    };
+    const Fall faelle[] = {
+        {"eigener Ordner", 0755, 0755, false, true, true},
+        {"Ordner für alle", 0777, 0755, false, true, false},
+        {"Ordner für alle, Ziel fehlt", 0777, 0755, false, false, false},
+        {"klebriger Ordner für alle", 01777, 0755, false, true, true},
+        {"Ziel in einem Ordner für alle", 0755, 0777, false, true, false},
+        {"Link eines anderen Benutzers", 0755, 0755, true, true, false},
+    };
+    const B opfer(40, 0x5A);
+    for (const Art& art : arten()) {
+        for (const Fall& f : faelle) {
+            SCOPED_TRACE(std::string(art.name) + ", " + f.name);
+            if (f.fremderLink && ::geteuid() != 0) continue; // only root can give a link away
+            TempOrdner t;
+            TempOrdner woanders;
+            if (f.zielDa) woanders.schreibe("opfer", opfer);
+            fs::create_symlink(woanders / "opfer", t / art.name);
+            if (f.fremderLink) {
+                ASSERT_EQ(::lchown((t / art.name).c_str(), 65534, 65534), 0);
+            }
+            ASSERT_EQ(::chmod(t.pfad().c_str(), f.ordner), 0);
+            ASSERT_EQ(::chmod(woanders.pfad().c_str(), f.zielordner), 0);
+            if (!f.zielDa) {
+                EXPECT_TRUE(art.liestDefault(t.pfad()));
+            }
+            EXPECT_EQ(art.schreiben(t.pfad()), f.folgt);
+            EXPECT_TRUE(fs::is_symlink(t / art.name));
+            EXPECT_EQ(t.namen(), std::vector<std::string>{art.name});
+            if (f.folgt) {
+                EXPECT_NE(woanders.lies("opfer"), opfer);
+                EXPECT_EQ(verweigerterLink(t.pfad(), art.name), std::nullopt);
+            } else {
+                EXPECT_EQ(woanders.namen(),
+                          f.zielDa ? std::vector<std::string>{"opfer"} : std::vector<std::string>{});
+                if (f.zielDa) {
+                    EXPECT_EQ(woanders.lies("opfer"), opfer);
+                }
+                EXPECT_EQ(verweigerterLink(t.pfad(), art.name), art.name);
+            }
+        }
+    }
+}
+
 TEST(Datendateien, BelegteSperreGibtFehlerUndAendertNichts) {
     TempOrdner t;
     const int ordner = ::open(t.pfad().c_str(), O_RDONLY | O_DIRECTORY);

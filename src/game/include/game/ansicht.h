@@ -40,6 +40,10 @@ class Ansicht {
     // The game was drawn because the move limit was reached; it announces nothing else.
     virtual void zugbegrenzungErreicht() {}
     virtual void oeffnen(Fenster f) = 0;
+    // Another program is using the data files and the game waits for it, a few seconds at most: called
+    // again and again while it waits, then once with `fertig`. A screen keeps painting meanwhile and
+    // shows that it is busy; nothing may call into the game until the wait is over.
+    virtual void wartetAufDateien(bool /*fertig*/) {}
     // Every executed move, for logs; the screen has already been told through figurBewegt.
     virtual void zugAusgefuehrt(int /*vonX*/, int /*vonY*/, int /*nachX*/, int /*nachY*/, bool /*normal*/) {}
 };

@@ -21,6 +21,7 @@
 #include "game/ansicht.h"
 #include "game/spielerwahl.h"
 #include "game/spielstand.h"
+#include "memory/dateizugriff.h"
 #include "memory/lerndatei.h"
 #include "memory/partie.h"
 #include "player/erinnerung.h"
@@ -129,6 +130,9 @@ class Spiel {
     void beende();
     // One message names every file that could not be saved at this moment.
     void meldeSchreibfehler(const std::vector<std::string>& dateien);
+    // The data folder's lock for a task of several writes, so that it waits for another program once at
+    // most; the view shows the wait.
+    datei::Ordnersperre ordnerSperren();
 
     Ansicht& ansicht_;
     Zufall& zufall_;

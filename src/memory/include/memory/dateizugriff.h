@@ -5,13 +5,16 @@
 #pragma once
 // POSIX building blocks of the file layer: descriptors that close themselves, opening nothing but regular
 // files and never blocking, whole reads and writes, the data folder's lock, and replacing a file atomically
-// while keeping its identity (symbolic link, mode, owner).
+// while keeping its identity (symbolic link, mode, owner). Writes follow a symbolic link only where nobody
+// else can have planted or changed it.
 #include <sys/stat.h>
 #include <sys/types.h>
 
 #include <chrono>
 #include <cstdint>
 #include <filesystem>
+#include <functional>
+#include <optional>
 #include <vector>
 
 namespace fuh {
@@ -37,9 +40,10 @@ class Deskriptor {
     int fd_ = -1;
 };
 
-// Opens `pfad` (through a symbolic link) with `modus` (O_RDONLY, O_WRONLY or O_RDWR) without blocking:
-// a FIFO, device, folder or socket in its place is refused. A missing file is created empty when
-// `anlegen`. `st` receives the open file's status. Invalid when the file cannot be opened.
+// Opens `pfad` with `modus` (O_RDONLY, O_WRONLY or O_RDWR) without blocking: a FIFO, device, folder or
+// socket in its place is refused. A missing file is created empty when `anlegen`. Reading follows any
+// symbolic link; writing or creating only one `schreibziel` accepts. `st` receives the open file's
+// status. Invalid when the file cannot be opened.
 Deskriptor regulaerOeffnen(const char* pfad, int modus, bool anlegen, struct stat& st);
 
 // Reads the file from its start, at most `hoechstens` bytes, into `b`. False on a read error.
@@ -49,16 +53,42 @@ long lesenAb(int fd, uint8_t* ziel, std::size_t n, off_t pos);
 // Writes all `n` bytes at `pos`. False on an error.
 bool schreiben(int fd, const uint8_t* daten, std::size_t n, off_t pos);
 
+// The folder holding `pfad` ("." for a bare name).
+std::filesystem::path ordnerVon(const std::filesystem::path& pfad);
+
+// Where a write of `pfad` goes: `pfad` itself when it is no symbolic link, else the end of its chain of
+// links, provided that nobody but the user (and root) can have planted or changed any of it: every link
+// belongs to the user or root, and every folder holding a link or lying on the way to the final file
+// belongs to the user or root and is writable by nobody else. A folder writable by others still counts
+// when it is sticky and what it holds on the way belongs to the user or root (as /tmp); one writable by
+// its group counts when that group is the user's own private group. nullopt when a link must not be
+// followed (or the chain does not end).
+std::optional<std::filesystem::path> schreibziel(const std::filesystem::path& pfad);
+// Whether `pfad` is a symbolic link that writes do not follow.
+bool linkVerweigert(const std::filesystem::path& pfad);
+
+// Called again and again with false while a lock is waited for, then once with true when the wait ends.
+using Wartehaken = std::function<void(bool fertig)>;
+
 // The lock of one data folder: flock on the folder itself, so no lock file is left behind. Every
 // read-modify-write of a data file holds it; it is released when the object goes (or the process dies).
+// A lock taken while the same thread already locks the folder covers its writes without waiting: held
+// when the outer one is, else one more try.
 class Ordnersperre {
   public:
-    explicit Ordnersperre(const std::filesystem::path& ordner);
+    explicit Ordnersperre(const std::filesystem::path& ordner, const Wartehaken& warten = {});
+    ~Ordnersperre();
+    Ordnersperre(const Ordnersperre&) = delete;
+    Ordnersperre& operator=(const Ordnersperre&) = delete;
     bool gehalten() const { return gehalten_; }
 
   private:
     Deskriptor ordner_;
+    dev_t dev_ = 0;
+    ino_t ino_ = 0;
     bool gehalten_ = false;
+    bool eigen_ = false;       // this object's descriptor holds the flock
+    bool eingetragen_ = false; // counted in the process's list of locks
 };
 
 // How long a writer waits for the folder lock before it gives up and reports the file as not saved.

@@ -92,6 +92,7 @@ class BrettFenster : public QMainWindow, public Ansicht {
     void zugbegrenzungErreicht() override;
     void oeffnen(Fenster f) override;
     void zugAusgefuehrt(int vonX, int vonY, int nachX, int nachY, bool normal) override;
+    void wartetAufDateien(bool fertig) override;
 
   public slots:
     void Timer1_Timer();
@@ -142,6 +143,7 @@ class BrettFenster : public QMainWindow, public Ansicht {
     QTimer naechsterZug_; // the rest between two moves of a game the computer plays itself
     bool selbstspielSchleife_ = false;
     bool zuletztGeglitten_ = false; // the last piece image moved was a computer piece's slide
+    bool wartetAufDateien_ = false; // the game waits for the data folder's lock
     std::optional<Einstellungen> wartendeEinstellungen_; // confirmed while the computer plays itself
     std::optional<bool> wartenderMeister_;
     std::vector<QAction*> wartendeBefehle_; // disabled while busy

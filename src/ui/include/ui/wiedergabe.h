@@ -58,6 +58,8 @@ class Wiedergabe : public QObject {
     // The game was abandoned: every picture goes at once to where the game left it; of its
     // announcements only those for which `behalten` says so are still shown.
     void abbrechen(const std::function<bool(const Ereignis&)>& behalten);
+    // While held, nothing is shown: the game is in the middle of a call and lets the window paint.
+    void anhalten(bool ja) { angehalten_ = ja; }
     // Something reported is not yet shown, or a message is open.
     bool laeuft() const { return !schlange_.empty() || aktiv_ || pause_.isActive(); }
 
@@ -80,6 +82,7 @@ class Wiedergabe : public QObject {
     int gleitLaenge_ = 0;  // steps of the running slide, 0 when none runs
     int gleitGezeigt_ = 0; // of these already shown
     bool aktiv_ = false;   // inside abspielen, possibly in a message's own event loop
+    bool angehalten_ = false;
 };
 
 } // namespace fuh
