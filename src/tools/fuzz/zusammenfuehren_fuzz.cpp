@@ -8,17 +8,16 @@
 // first record of each position (or its mirror form) updated, unknown positions appended up to 32767
 // records, every other byte as it was; no appended position may be in the file twice, and a recall of
 // every position of the game must find what the file holds.
-// (The slow merge finds records through a sorted list: a plain scan per recall would make big inputs crawl.)
 #include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
-#include <map>
+#include <unordered_map>
 #include <vector>
 
 #include "board/zahlen.h"
 #include "fuzz_lernen.h"
 #include "fuzz_ordner.h"
-#include "memory/satzdatei.h"
 
 namespace {
 
@@ -47,45 +46,53 @@ void addiere(std::vector<uint8_t>& b, std::size_t pos, int16_t wert) {
     b[pos + 1] = static_cast<uint8_t>(summe >> 8);
 }
 
-// Where each code stands in a file: its records sorted once by code and number, and records added since.
-class Codeliste {
+// Where the game's positions, in both forms, stand in a file: the first record holding each and how
+// many do, found in one pass over the records (sorting every record's code would make big inputs crawl).
+class Fundstellen {
   public:
-    Codeliste(const std::vector<uint8_t>& b, std::size_t saetze) {
-        liste_.reserve(saetze);
+    Fundstellen() = default;
+    Fundstellen(const fuh::Partie& partie, const std::vector<uint8_t>& b, std::size_t saetze) {
+        for (int k = 0; k < partie.spielzug; ++k) {
+            const fuh::Code& c = partie.sits[static_cast<std::size_t>(k)].code;
+            stellen_.try_emplace(c);
+            stellen_.try_emplace(fuh::spiegelcode(c));
+        }
         for (std::size_t r = 0; r < saetze; ++r)
-            liste_.emplace_back(codeAn(b, r), r);
-        std::sort(liste_.begin(), liste_.end());
+            hinzufuegen(codeAn(b, r), r);
     }
-    void hinzufuegen(const fuh::Code& c, std::size_t r) { neu_.emplace(c, r); }
+    void hinzufuegen(const fuh::Code& c, std::size_t r) {
+        const auto it = stellen_.find(c);
+        if (it == stellen_.end()) return;
+        it->second.erster = std::min(it->second.erster, r);
+        ++it->second.anzahl;
+    }
     // The first record holding `c` or its mirror form; SIZE_MAX when there is none.
     std::size_t erster(const fuh::Code& c) const {
-        return std::min(ersterGenau(c), ersterGenau(fuh::spiegelcode(c)));
+        return std::min(stellen_.at(c).erster, stellen_.at(fuh::spiegelcode(c)).erster);
     }
-    std::size_t anzahl(const fuh::Code& c) const {
-        const auto [von, bis] = bereich(c);
-        return static_cast<std::size_t>(bis - von) + neu_.count(c);
-    }
+    std::size_t anzahl(const fuh::Code& c) const { return stellen_.at(c).anzahl; }
 
   private:
-    using Eintrag = std::pair<fuh::Code, std::size_t>;
-    std::pair<std::vector<Eintrag>::const_iterator, std::vector<Eintrag>::const_iterator>
-    bereich(const fuh::Code& c) const {
-        return {std::lower_bound(liste_.begin(), liste_.end(), Eintrag{c, 0}),
-                std::lower_bound(liste_.begin(), liste_.end(), Eintrag{c, SIZE_MAX})};
-    }
-    std::size_t ersterGenau(const fuh::Code& c) const {
-        const auto [von, bis] = bereich(c);
-        const auto n = neu_.find(c);
-        return std::min(von != bis ? von->second : SIZE_MAX, n != neu_.end() ? n->second : SIZE_MAX);
-    }
-    std::vector<Eintrag> liste_;
-    std::map<fuh::Code, std::size_t> neu_;
+    struct Stelle {
+        std::size_t erster = SIZE_MAX;
+        std::size_t anzahl = 0;
+    };
+    struct Streuung {
+        std::size_t operator()(const fuh::Code& c) const noexcept {
+            std::size_t h = 1469598103934665603u; // FNV-1a
+            for (const uint8_t b : c)
+                h = (h ^ b) * 1099511628211u;
+            return h;
+        }
+    };
+    std::unordered_map<fuh::Code, Stelle, Streuung> stellen_;
 };
 
+// What the merge must give; kept from input to input, so that big files are not allocated anew each time.
 struct Erwartet {
     std::vector<uint8_t> datei;
     std::vector<std::size_t> angehaengt; // record numbers
-    Codeliste codes;                     // of the file afterwards
+    Fundstellen codes;                   // in the file afterwards
 
     // What a recall of `p` must give: the value of the first record holding it in either form.
     int16_t wert(const fuh::Code& p, bool henne) const {
@@ -95,13 +102,13 @@ struct Erwartet {
 };
 
 // The merge done the slow, obvious way on a copy of the bytes.
-Erwartet zusammenfuehren(const std::vector<uint8_t>& vorher, const fuh::Partie& partie) {
-    std::size_t saetze = fuh::fuzz::satzzahl(std::min(vorher.size(), kEigen));
-    std::vector<uint8_t> datei = vorher;
-    datei.resize(std::max(vorher.size(), saetze * kLernsatz), 0);
-    Codeliste codes(datei, saetze);
-    Erwartet e{std::move(datei), {}, std::move(codes)};
-    std::size_t ende = vorher.size();
+void zusammenfuehren(const uint8_t* vorher, std::size_t n, const fuh::Partie& partie, Erwartet& e) {
+    std::size_t saetze = fuh::fuzz::satzzahl(std::min(n, kEigen));
+    e.datei.assign(vorher, vorher + n);
+    e.datei.resize(std::max(n, saetze * kLernsatz), 0);
+    e.angehaengt.clear();
+    e.codes = Fundstellen(partie, e.datei, saetze);
+    std::size_t ende = n;
     for (int k = 0; k < partie.spielzug; ++k) {
         const fuh::Situation& s = partie.sits[static_cast<std::size_t>(k)];
         std::size_t r = e.codes.erster(s.code);
@@ -119,13 +126,16 @@ Erwartet zusammenfuehren(const std::vector<uint8_t>& vorher, const fuh::Partie& 
         ende = std::max(ende, (r + 1) * kLernsatz);
     }
     e.datei.resize(ende);
-    return e;
 }
 
-std::vector<uint8_t> dateiInhalt() {
-    const auto inhalt = fuh::dateiLesen(fuh::fuzz::ordner() / "QZ3.DAT");
-    if (!inhalt) std::abort();
-    return *inhalt;
+// The file as the merge left it, read into `puffer`.
+void dateiInhalt(std::vector<uint8_t>& puffer) {
+    const int fd = ::open((fuh::fuzz::ordner() / "QZ3.DAT").c_str(), O_RDONLY | O_CLOEXEC);
+    struct stat st {};
+    if (fd < 0 || ::fstat(fd, &st) != 0) std::abort();
+    puffer.resize(static_cast<std::size_t>(st.st_size));
+    if (::read(fd, puffer.data(), puffer.size()) != st.st_size) std::abort();
+    ::close(fd);
 }
 
 } // namespace
@@ -147,21 +157,24 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* daten, std::size_t n) {
     }
     partie.spielzug = static_cast<int16_t>(positionen);
     const std::size_t kopf = 1 + positionen * kLernsatz;
-    const std::vector<uint8_t> vorher(daten + kopf, daten + n);
-    fuh::fuzz::alsDatei("QZ3.DAT", vorher.data(), vorher.size());
+    const uint8_t* vorher = daten + kopf;
+    const std::size_t laenge = n - kopf;
+    fuh::fuzz::alsDatei("QZ3.DAT", vorher, laenge);
 
-    const Erwartet erwartet = zusammenfuehren(vorher, partie);
+    static Erwartet erwartet;
+    zusammenfuehren(vorher, laenge, partie, erwartet);
     const fuh::Lerndatei::Merge m = lerndatei.speichern(partie, 2);
-    const std::vector<uint8_t> nachher = dateiInhalt();
+    static std::vector<uint8_t> nachher;
+    dateiInhalt(nachher);
     if (!m.geschrieben || nachher != erwartet.datei ||
         m.neueZuege != static_cast<int16_t>(erwartet.angehaengt.size()))
         std::abort();
     // Whole records only, and never past the last record the file may hold.
-    if (nachher.size() != vorher.size() && (nachher.size() % kLernsatz != 0 || nachher.size() > kEigen))
+    if (nachher.size() != laenge && (nachher.size() % kLernsatz != 0 || nachher.size() > kEigen))
         std::abort();
     // An appended position is nowhere else in the file, in neither form.
     if (!erwartet.angehaengt.empty()) {
-        const Codeliste codes(nachher, fuh::fuzz::satzzahl(std::min(nachher.size(), kEigen)));
+        const Fundstellen codes(partie, nachher, fuh::fuzz::satzzahl(std::min(nachher.size(), kEigen)));
         for (const std::size_t r : erwartet.angehaengt) {
             const fuh::Code c = codeAn(nachher, r);
             const fuh::Code s = fuh::spiegelcode(c);
