@@ -26,10 +26,8 @@ QString saetze(const QStringList& texte) {
 
 } // namespace
 
-Ansage::Ansage(const BrettFlaeche& brett, QWidget* parent) : QLabel(parent), brett_(brett) {
+Ansage::Ansage(const BrettFlaeche& brett, QWidget* parent) : Statustext(parent), brett_(brett) {
     setObjectName(QStringLiteral("ansage"));
-    setTextFormat(Qt::PlainText); // messages may quote a file name
-    setMinimumWidth(1);           // a long text must not widen the window
     gleich_.setSingleShot(true);
     gleich_.setInterval(0);
     connect(&gleich_, &QTimer::timeout, this, &Ansage::aussprechen);

@@ -7,7 +7,6 @@
 #include <QActionGroup>
 #include <QApplication>
 #include <QKeySequence>
-#include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
 #include <QScreen>
@@ -21,8 +20,8 @@
 #include "ui/highscore_fenster.h"
 #include "ui/hilfe_fenster.h"
 #include "ui/info_win.h"
-#include "ui/meldung.h"
 #include "ui/stat_form.h"
+#include "ui/statustext.h"
 
 namespace fuh {
 
@@ -186,9 +185,8 @@ void BrettFenster::statusleisteAnlegen() {
     leiste->setObjectName(QStringLiteral("StatusBar1"));
     const std::array<int, 4> anteile = {2, 1, 1, 2};
     for (size_t i = 0; i < panels_.size(); ++i) {
-        auto* label = klartext(new QLabel(leiste));
+        auto* label = new Statustext(leiste);
         label->setObjectName(QStringLiteral("panel%1").arg(i + 1));
-        label->setMinimumWidth(1); // a long text must not widen the window
         leiste->addWidget(label, anteile[i]);
         panels_[i] = label;
     }

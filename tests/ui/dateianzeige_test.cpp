@@ -4,7 +4,9 @@
 
 // What the windows show from the game's files and the environment: the statistics with their sums,
 // high-score rows with damaged dates, names with markup shown literally (no file they name is opened),
-// and a data folder whose name is not UTF-8, used byte for byte.
+// a status text shortened to its field with the whole text at hand, and a data folder whose name is not
+// UTF-8, used byte for byte.
+#include <QAccessible>
 #include <QApplication>
 #include <QLabel>
 #include <QMessageBox>
@@ -13,6 +15,7 @@
 #include <QSettings>
 #include <QTemporaryDir>
 #include <QTimer>
+#include <QToolTip>
 #include <QtTest>
 #include <array>
 #include <atomic>
@@ -30,6 +33,7 @@
 #include "ui/highscore_fenster.h"
 #include "ui/meldung.h"
 #include "ui/stat_form.h"
+#include "ui/statustext.h"
 
 using namespace fuh;
 
@@ -147,6 +151,30 @@ class DateianzeigeTest : public QObject {
         });
         meldungZeigen(nullptr, QMessageBox::Warning, QStringLiteral("<b>/tmp/x</b>"));
         QCOMPARE(*boxFormat, Qt::PlainText);
+    }
+
+    // A status text too long for its field is shown shortened with "…"; the whole text, escaped, is its
+    // tool tip and its accessible name. A text that fits has no tip.
+    void statustextZuLangFuerSeinFeld() {
+        Statustext feld;
+        const QString lang = QStringLiteral("Zurückgenommen: keine Bestenliste <b>x</b>");
+        feld.setText(lang);
+        feld.resize(feld.fontMetrics().horizontalAdvance(lang) / 2, 20);
+        feld.show();
+        const QString sichtbar = feld.sichtbarerText();
+        QVERIFY(sichtbar.endsWith(QChar(0x2026)));
+        QVERIFY(lang.startsWith(sichtbar.chopped(1)));
+        QCOMPARE(QAccessible::queryAccessibleInterface(&feld)->text(QAccessible::Name), lang);
+
+        QHelpEvent tipp(QEvent::ToolTip, QPoint(1, 1), feld.mapToGlobal(QPoint(1, 1)));
+        QApplication::sendEvent(&feld, &tipp);
+        QVERIFY(QToolTip::isVisible());
+        QCOMPARE(QToolTip::text(), Qt::convertFromPlainText(lang));
+
+        feld.resize(feld.fontMetrics().horizontalAdvance(lang) + 20, 20);
+        QCOMPARE(feld.sichtbarerText(), lang);
+        QApplication::sendEvent(&feld, &tipp);
+        QTRY_VERIFY(!QToolTip::isVisible()); // a tip fades out
     }
 
     // XDG_DATA_HOME names a folder whose name is no valid UTF-8: the game uses exactly that folder.

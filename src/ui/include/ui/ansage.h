@@ -7,20 +7,20 @@
 // status texts and the game's messages. A screen reader reads the label's name some time after it was
 // told of a change, so what appears in one go (a move, then the points) is said as one text, and a
 // repeated text is told again all the same. The label shows the last text said.
-#include <QLabel>
 #include <QString>
 #include <QStringList>
 #include <QTimer>
 #include <array>
 #include <vector>
 
+#include "ui/statustext.h"
 #include "ui/wiedergabe.h"
 
 namespace fuh {
 
 class BrettFlaeche;
 
-class Ansage : public QLabel {
+class Ansage : public Statustext {
     Q_OBJECT
   public:
     explicit Ansage(const BrettFlaeche& brett, QWidget* parent = nullptr);
