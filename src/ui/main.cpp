@@ -9,6 +9,7 @@
 #include <system_error>
 
 #include "game/partiedatei.h"
+#include "ui/beendigung.h"
 #include "ui/brett_fenster.h"
 #include "ui/datenordner.h"
 #include "ui/meldung.h"
@@ -16,6 +17,7 @@
 int main(int argc, char* argv[]) {
     QApplication app(argc, argv);
     fuh::BrettFenster::anwendungEinrichten(app);
+    fuh::signaleBeendenLassen(app);
 
     // The game runs in its data folder and keeps its files in the current directory.
     const std::filesystem::path ordner = fuh::datenordner();

@@ -9,10 +9,12 @@
 #include <QMessageBox>
 #include <QTest>
 #include <QTimer>
+#include <csignal>
 
 #include "dialogs/statistikdatei.h"
 #include "fenster_aufbau.h"
 #include "game/partiedatei.h"
+#include "ui/beendigung.h"
 
 using namespace fuh;
 using namespace fuh::test;
@@ -73,6 +75,20 @@ class FortsetzenTest : public QObject {
         QVERIFY(!a.spiel().laeuft());
         a.starten();
         QVERIFY(!std::filesystem::exists(datei));
+    }
+
+    // The session ends the program with a signal: the running game is kept as on "Beenden".
+    void signalBehaeltDiePartie() {
+        Aufbau a;
+        const std::filesystem::path datei = a.pfad() / "partie";
+        a.fenster->fortsetzenAnbieten(datei);
+        a.aktion("Neu");
+        a.ziehe(24, 17);
+        signaleBeendenLassen(*qApp);
+        QTimer::singleShot(0, [] { ::raise(SIGTERM); }); // unhandled, it would end the test
+        QCOMPARE(QCoreApplication::exec(), 0);
+        a.starten(); // the window goes as it does when the program ends
+        QVERIFY(std::filesystem::exists(datei));
     }
 
     // The computer against itself, shown move by move: continued, it plays on to the end by itself.
