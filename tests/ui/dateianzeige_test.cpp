@@ -27,6 +27,7 @@
 #include <unistd.h>
 
 #include "game/spiel.h"
+#include "kinder.h"
 #include "testdateien.h"
 #include "ui/brett_fenster.h"
 #include "ui/datenordner.h"
@@ -41,22 +42,10 @@ namespace {
 
 using Bytes = std::vector<uint8_t>;
 using test::hsSatz;
+using test::kind;
+using test::klick;
 using test::TempOrdner;
-
-template <class T = QWidget> T* kind(QWidget* w, const QString& name) {
-    T* k = w->findChild<T*>(name);
-    if (!k) qFatal("missing child %s", qPrintable(name));
-    return k;
-}
-
-QString text(QWidget* w, const QString& name) {
-    return kind<QLabel>(w, name)->text();
-}
-
-void klick(QWidget* w, const char* knopf) {
-    QTest::mouseClick(kind<QPushButton>(w, QString::fromLatin1(knopf)), Qt::LeftButton);
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-}
+using test::text;
 
 } // namespace
 

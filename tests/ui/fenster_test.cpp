@@ -22,6 +22,7 @@
 #include <QtTest>
 
 #include "game/spiel.h"
+#include "kinder.h"
 #include "testdateien.h"
 #include "ui/brett_fenster.h"
 #include "ui/einst_dialog.h"
@@ -36,7 +37,10 @@ namespace {
 
 using Bytes = std::vector<uint8_t>;
 using test::hsSatz;
+using test::kind;
+using test::klick;
 using test::TempOrdner;
+using test::text;
 
 // Deletes windows closed with WA_DeleteOnClose.
 void aufraeumen() {
@@ -59,21 +63,6 @@ std::shared_ptr<QString> meldungAnnehmen() {
 void tippen(QWidget* w, const QString& text) {
     for (const QChar c : text)
         QTest::sendKeyEvent(QTest::Click, w, Qt::Key_unknown, QString(c), Qt::NoModifier);
-}
-
-template <class T = QWidget> T* kind(QWidget* w, const QString& name) {
-    T* k = w->findChild<T*>(name);
-    if (!k) qFatal("missing child %s", qPrintable(name));
-    return k;
-}
-
-QString text(QWidget* w, const QString& name) {
-    return kind<QLabel>(w, name)->text();
-}
-
-void klick(QWidget* w, const char* knopf) {
-    QTest::mouseClick(kind<QPushButton>(w, QString::fromLatin1(knopf)), Qt::LeftButton);
-    aufraeumen();
 }
 
 Oeffentlich spielende(int16_t score, const char* sieger = "Ja") {
