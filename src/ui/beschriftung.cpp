@@ -57,6 +57,12 @@ void Beschriftung::titel(QWidget* fenster, const char* quelle) {
     });
 }
 
+void Beschriftung::zugangsname(QWidget* w, std::function<QString()> bauen) {
+    merken([z = QPointer(w), bauen = std::move(bauen)] {
+        if (z) z->setAccessibleName(bauen());
+    });
+}
+
 void Beschriftung::eintraege(QComboBox* c, std::initializer_list<const char*> quellen) {
     const std::vector<const char*> liste(quellen);
     while (c->count() < static_cast<int>(liste.size()))

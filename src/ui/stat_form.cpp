@@ -11,7 +11,9 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
+#include <QStringList>
 #include <QVBoxLayout>
+#include <array>
 
 #include "dialogs/statistikdatei.h"
 #include "ui/meldung.h"
@@ -19,6 +21,14 @@
 namespace fuh {
 
 namespace {
+
+// The heads of the table of wins.
+constexpr const char* kComputer = QT_TRANSLATE_NOOP("fuh::StatForm", "Computer");
+constexpr const char* kUser = QT_TRANSLATE_NOOP("fuh::StatForm", "User");
+constexpr const char* kStaerke = QT_TRANSLATE_NOOP("fuh::StatForm", "Stärke");
+constexpr const char* kHennen = QT_TRANSLATE_NOOP("fuh::StatForm", "Hennen");
+constexpr const char* kFuchs = QT_TRANSLATE_NOOP("fuh::StatForm", "Fuchs");
+constexpr const char* kGesamt = QT_TRANSLATE_NOOP("fuh::StatForm", "Gesamt");
 
 QLabel* wert(const QString& name, int zahl, QWidget* eltern, Qt::Alignment ausrichtung = Qt::AlignRight) {
     auto* l = klartext(new QLabel(QString::number(zahl), eltern)); // a number, but read from a file
@@ -42,6 +52,8 @@ QGridLayout* zeilen(Beschriftung& texte, std::initializer_list<std::pair<const c
     for (const auto& [text, label] : paare) {
         auto* l = new QLabel;
         texte.text(l, text);
+        texte.zugangsname(label,
+                          [&texte, text, label] { return texte.uebersetzt(text) + ' ' + label->text(); });
         g->addWidget(l, r, 0);
         g->addWidget(label, r, 1);
         ++r;
@@ -96,8 +108,8 @@ StatForm::StatForm(std::filesystem::path ordner, QWidget* parent) : QDialog(pare
         t->addWidget(l, r, c, 1, spalten);
         return l;
     };
-    texte_.text(kopf(QString(), 0, 2, 3), QT_TR_NOOP("Computer"));
-    texte_.text(kopf(QString(), 0, 6, 3), QT_TR_NOOP("User"));
+    texte_.text(kopf(QString(), 0, 2, 3), kComputer);
+    texte_.text(kopf(QString(), 0, 6, 3), kUser);
     for (int k = 0; k < 3; ++k) {
         kopf(QString::number(k + 1), 2, 2 + k);
         kopf(QString::number(k + 1), 2, 6 + k);
@@ -107,27 +119,34 @@ StatForm::StatForm(std::filesystem::path ordner, QWidget* parent) : QDialog(pare
         texte_.text(l, text);
         t->addWidget(l, r, 0);
     };
-    zeilenkopf(QT_TR_NOOP("Stärke"), 2);
-    zeilenkopf(QT_TR_NOOP("Hennen"), 4);
-    zeilenkopf(QT_TR_NOOP("Fuchs"), 5);
-    zeilenkopf(QT_TR_NOOP("Gesamt"), 7);
-    auto zelle = [&](int nr, int zahl) {
-        return wert(QStringLiteral("wert%1").arg(nr), zahl, siege, Qt::AlignHCenter);
+    zeilenkopf(kStaerke, 2);
+    zeilenkopf(kHennen, 4);
+    zeilenkopf(kFuchs, 5);
+    zeilenkopf(kGesamt, 7);
+    // A cell says where it stands: "Computer, Hennen, Stärke 1: 4", "User, Gesamt: 57".
+    auto zelle = [&](int nr, int zahl, std::array<const char*, 2> wo, int staerke = 0) {
+        QLabel* l = wert(QStringLiteral("wert%1").arg(nr), zahl, siege, Qt::AlignHCenter);
+        texte_.zugangsname(l, [this, l, wo, staerke] {
+            QStringList teile = {texte_.uebersetzt(wo[0]), texte_.uebersetzt(wo[1])};
+            if (staerke > 0) teile << texte_.uebersetzt(kStaerke) + ' ' + QString::number(staerke);
+            return teile.join(QStringLiteral(", ")) + QStringLiteral(": ") + l->text();
+        });
+        return l;
     };
     int pc = 0;
     int user = 0;
     for (int k = 0; k < 3; ++k) {
         const int werte[4] = {s.pcSiegeHennen(k), s.pcSiegeFuchs(k), s.userSiegeHennen(k),
                               s.userSiegeFuchs(k)};
-        t->addWidget(zelle(k, werte[0]), 4, 2 + k);
-        t->addWidget(zelle(3 + k, werte[1]), 5, 2 + k);
-        t->addWidget(zelle(6 + k, werte[2]), 4, 6 + k);
-        t->addWidget(zelle(9 + k, werte[3]), 5, 6 + k);
+        t->addWidget(zelle(k, werte[0], {kComputer, kHennen}, k + 1), 4, 2 + k);
+        t->addWidget(zelle(3 + k, werte[1], {kComputer, kFuchs}, k + 1), 5, 2 + k);
+        t->addWidget(zelle(6 + k, werte[2], {kUser, kHennen}, k + 1), 4, 6 + k);
+        t->addWidget(zelle(9 + k, werte[3], {kUser, kFuchs}, k + 1), 5, 6 + k);
         pc += werte[0] + werte[1];
         user += werte[2] + werte[3];
     }
-    t->addWidget(zelle(12, pc), 7, 3);
-    t->addWidget(zelle(13, user), 7, 7);
+    t->addWidget(zelle(12, pc, {kComputer, kGesamt}), 7, 3);
+    t->addWidget(zelle(13, user, {kUser, kGesamt}), 7, 7);
     for (const int r : {1, 3, 6})
         t->addWidget(linie(QFrame::HLine, siege), r, 0, 1, 9);
     for (const int c : {1, 5})

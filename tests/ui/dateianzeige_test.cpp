@@ -70,6 +70,13 @@ class DateianzeigeTest : public QObject {
         const char* werte[14] = {"4", "5", "6", "1", "2", "3", "10", "11", "12", "7", "8", "9", "21", "57"};
         for (int i = 0; i < 14; ++i)
             QCOMPARE(text(f, QStringLiteral("wert%1").arg(i)), QString::fromLatin1(werte[i]));
+        // A screen reader hears what each number stands for.
+        const auto name = [&f](const char* kind) {
+            return test::kind(f, QString::fromLatin1(kind))->accessibleName();
+        };
+        QCOMPARE(name("Spiele"), QStringLiteral("Spiele gesamt: 45"));
+        QCOMPARE(name("wert4"), QStringLiteral("Computer, Fuchs, Stärke 2: 2"));
+        QCOMPARE(name("wert13"), QStringLiteral("User, Gesamt: 57"));
         klick(f, "Command1");
         QVERIFY(f.isNull());
     }

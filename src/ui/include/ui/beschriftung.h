@@ -32,6 +32,9 @@ class Beschriftung {
     void text(QAction* a, const char* quelle);
     void titel(QGroupBox* g, const char* quelle);
     void titel(QWidget* fenster, const char* quelle);
+    // What a screen reader says for `w`, built anew in each language: a value the eye places by its row
+    // and column needs them said in words.
+    void zugangsname(QWidget* w, std::function<QString()> bauen);
     // The entries of `c`, in this order.
     void eintraege(QComboBox* c, std::initializer_list<const char*> quellen);
 
