@@ -13,6 +13,7 @@
 #include <QLocale>
 #include <QPushButton>
 #include <QVBoxLayout>
+#include <array>
 #include <cmath>
 
 #include "memory/satzdatei.h"
@@ -25,12 +26,22 @@ namespace {
 
 const QDate kNullDatum(1899, 12, 30);
 
+// The columns: their heads, and the names of their cells ("datum0" … "sieg9").
+constexpr std::array<const char*, 4> kKoepfe = {
+    QT_TRANSLATE_NOOP("fuh::HighscoreFenster", "Datum"), QT_TRANSLATE_NOOP("fuh::HighscoreFenster", "Punkte"),
+    QT_TRANSLATE_NOOP("fuh::HighscoreFenster", "Name"), QT_TRANSLATE_NOOP("fuh::HighscoreFenster", "Sieg")};
+constexpr std::array<const char*, 4> kSpalten = {"datum", "score", "user", "sieg"};
+
 // Fixed-width file fields end in blanks or, in rows never written, in zeros.
 QString feldText(const std::string& bytes) {
     std::string s = vonWindows1252(bytes);
     while (!s.empty() && (s.back() == ' ' || s.back() == '\0'))
         s.pop_back();
     return QString::fromStdString(s);
+}
+
+QString zellenname(int spalte, int zeile) {
+    return QString::fromLatin1(kSpalten[static_cast<std::size_t>(spalte)]) + QString::number(zeile);
 }
 
 QLabel* zelle(const QString& name, QWidget* eltern) {
@@ -68,11 +79,9 @@ HighscoreFenster::HighscoreFenster(Seite seite, Oeffentlich& spiel, std::filesys
     auto* haupt = new QVBoxLayout(this);
     auto* tabelle = new QGridLayout;
     tabelle->setHorizontalSpacing(16);
-    const char* const koepfe[4] = {QT_TR_NOOP("Datum"), QT_TR_NOOP("Punkte"), QT_TR_NOOP("Name"),
-                                   QT_TR_NOOP("Sieg")};
     for (int c = 0; c < 4; ++c) {
         auto* k = new QLabel(this);
-        texte_.text(k, koepfe[c]);
+        texte_.text(k, kKoepfe[static_cast<std::size_t>(c)]);
         QFont f = k->font();
         f.setBold(true);
         k->setFont(f);
@@ -82,14 +91,14 @@ HighscoreFenster::HighscoreFenster(Seite seite, Oeffentlich& spiel, std::filesys
     QLineEdit* name = nullptr;
     for (int i = 0; i < kListenzeilen; ++i) {
         const Eintrag& e = liste_.eintraege()[static_cast<std::size_t>(i)];
-        auto* datum = zelle(QStringLiteral("datum%1").arg(i), this);
-        auto* score = zelle(QStringLiteral("score%1").arg(i), this);
+        auto* datum = zelle(zellenname(0, i), this);
+        auto* score = zelle(zellenname(1, i), this);
         score->setText(QString::number(e.score));
         score->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-        auto* user = zelle(QStringLiteral("user%1").arg(i), this);
+        auto* user = zelle(zellenname(2, i), this);
         user->setText(feldText(e.user));
         user->setMinimumWidth(fm.horizontalAdvance(QLatin1Char('W')) * 12);
-        auto* sieg = zelle(QStringLiteral("sieg%1").arg(i), this);
+        auto* sieg = zelle(zellenname(3, i), this);
         tabelle->addWidget(datum, i + 1, 0);
         tabelle->addWidget(score, i + 1, 1);
         tabelle->addWidget(user, i + 1, 2);
@@ -131,9 +140,15 @@ HighscoreFenster::HighscoreFenster(Seite seite, Oeffentlich& spiel, std::filesys
 void HighscoreFenster::zeilenSetzen() {
     for (int i = 0; i < kListenzeilen; ++i) {
         const Eintrag& e = liste_.eintraege()[static_cast<std::size_t>(i)];
-        findChild<QLabel*>(QStringLiteral("datum%1").arg(i))->setText(datumText(e.datum));
+        findChild<QLabel*>(zellenname(0, i))->setText(datumText(e.datum));
         // The file keeps the German flag; it is shown in the player's language.
-        findChild<QLabel*>(QStringLiteral("sieg%1").arg(i))->setText(kernText(feldText(e.sieg)));
+        findChild<QLabel*>(zellenname(3, i))->setText(kernText(feldText(e.sieg)));
+        // A screen reader hears row and column with each cell: "1. Punkte: 44000".
+        for (std::size_t c = 0; c < kSpalten.size(); ++c) {
+            auto* l = findChild<QLabel*>(zellenname(static_cast<int>(c), i));
+            l->setAccessibleName(QStringLiteral("%1. %2: %3")
+                                     .arg(QString::number(i + 1), texte_.uebersetzt(kKoepfe[c]), l->text()));
+        }
     }
 }
 

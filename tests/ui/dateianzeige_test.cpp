@@ -120,6 +120,7 @@ class DateianzeigeTest : public QObject {
         QString name;
         QString sieg;
         Qt::TextFormat format = Qt::AutoText;
+        QString zugang;
         {
             Oeffentlich spiel;
             HighscoreFenster w(Seite::Fuchs, spiel, dir.pfad());
@@ -128,6 +129,7 @@ class DateianzeigeTest : public QObject {
             name = text(&w, "user0");
             sieg = text(&w, "sieg0");
             format = kind<QLabel>(&w, "user0")->textFormat();
+            zugang = kind<QLabel>(&w, "score0")->accessibleName();
         }
         fertig = true;
         waechter.join();
@@ -136,6 +138,7 @@ class DateianzeigeTest : public QObject {
         QCOMPARE(name, QStringLiteral("<img src=f>"));
         QCOMPARE(sieg, QStringLiteral("<b>J"));
         QCOMPARE(format, Qt::PlainText);
+        QCOMPARE(zugang, QStringLiteral("1. Punkte: 100")); // a screen reader hears row and column
 
         // Messages may name folders and files: shown as they are, too.
         auto boxFormat = std::make_shared<Qt::TextFormat>(Qt::AutoText);
