@@ -28,7 +28,7 @@ QUrl startseite() {
 
 } // namespace
 
-HilfeFenster::HilfeFenster(QWidget* parent) : QWidget(parent, Qt::Window) {
+HilfeFenster::HilfeFenster(QWidget* parent) : QDialog(parent, Qt::Window) {
     setAttribute(Qt::WA_DeleteOnClose);
     // The platform adds the application's name to the caption.
     texte_.titel(this, QT_TR_NOOP("Hilfe"));
@@ -76,7 +76,7 @@ void HilfeFenster::changeEvent(QEvent* e) {
         browser_->clearHistory();
         zumAnfang();
     }
-    QWidget::changeEvent(e);
+    QDialog::changeEvent(e);
 }
 
 void HilfeFenster::zumAnfang() {

@@ -4,8 +4,8 @@
 
 #pragma once
 // The help window: the guide from the program's resources, in the player's language, in a browser with
-// back and home.
-#include <QWidget>
+// back and home. A dialog, so that a screen reader presents it as a window of the game.
+#include <QDialog>
 
 #include "ui/beschriftung.h"
 
@@ -13,7 +13,7 @@ class QTextBrowser;
 
 namespace fuh {
 
-class HilfeFenster : public QWidget {
+class HilfeFenster : public QDialog {
     Q_OBJECT
   public:
     explicit HilfeFenster(QWidget* parent = nullptr);
