@@ -16,8 +16,9 @@ namespace fuh {
 namespace {
 
 // A signal handler may do next to nothing: it writes one byte, and the event loop reads it. The socket
-// is the handler's only way to the loop, so it lives in a variable of its own.
+// is the handler's only way to the loop, so it lives in a variable of its own, as does what came.
 int signalSocket = -1;
+bool verlangt = false;
 
 void signalMelden(int) {
     const char zeichen = 1;
@@ -37,7 +38,8 @@ void signaleBeendenLassen(QCoreApplication& app) {
         std::array<char, 16> puffer{};
         while (::read(static_cast<int>(melder->socket()), puffer.data(), puffer.size()) > 0) {
         }
-        QCoreApplication::quit();
+        verlangt = true;
+        QCoreApplication::exit(0); // also a dialog's loop, and before the main loop runs
     });
     struct sigaction aktion {};
     aktion.sa_handler = signalMelden;
@@ -45,6 +47,10 @@ void signaleBeendenLassen(QCoreApplication& app) {
     aktion.sa_flags = SA_RESTART;
     for (const int signal : {SIGTERM, SIGHUP, SIGINT})
         ::sigaction(signal, &aktion, nullptr);
+}
+
+bool beendenVerlangt() {
+    return verlangt;
 }
 
 } // namespace fuh

@@ -40,8 +40,10 @@ void BrettFenster::fortsetzenAnbieten(const std::filesystem::path& datei) {
                       QMessageBox::Yes | QMessageBox::No, this);
     frage.setTextFormat(Qt::PlainText);
     frage.setDefaultButton(QMessageBox::Yes);
-    // "Nein": the game was counted when it began, so it stays an abandoned one.
-    if (frage.exec() != QMessageBox::Yes) return;
+    frage.exec();
+    // "Nein" (or Escape): the game was counted when it began, so it stays an abandoned one. Without an
+    // answer the program is ending: the game is taken over, so that it is kept for the next start.
+    if (frage.clickedButton() == frage.button(QMessageBox::No)) return;
     naechsterZug_.stop();
     brett_->tippLoeschen();
     brett_->ziehenAbbrechen();

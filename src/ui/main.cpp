@@ -35,5 +35,6 @@ int main(int argc, char* argv[]) {
     fuh::BrettFenster fenster(std::filesystem::current_path());
     fenster.show();
     fenster.fortsetzenAnbieten(fuh::partieDateiStandard());
+    if (fuh::beendenVerlangt()) return 0; // ended while asking; the window keeps the game as it goes
     return app.exec();
 }

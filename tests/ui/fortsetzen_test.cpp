@@ -65,30 +65,40 @@ class FortsetzenTest : public QObject {
         QVERIFY(!std::filesystem::exists(datei));
         bilderPruefen(a);
 
-        // "Nein" drops it; a window without a running game leaves no file.
+        // "Nein", here by Escape, drops it; a window without a running game leaves no file.
         a.starten();
-        QTimer::singleShot(0, [] {
-            if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget()))
-                box->button(QMessageBox::No)->click();
-        });
+        QTimer::singleShot(0, [] { QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Escape); });
         a.fenster->fortsetzenAnbieten(datei);
         QVERIFY(!a.spiel().laeuft());
         a.starten();
         QVERIFY(!std::filesystem::exists(datei));
     }
 
-    // The session ends the program with a signal: the running game is kept as on "Beenden".
+    // The session ends the program with a signal: the running game is kept as on "Beenden", also when
+    // the signal comes while the next start asks about it.
     void signalBehaeltDiePartie() {
         Aufbau a;
         const std::filesystem::path datei = a.pfad() / "partie";
         a.fenster->fortsetzenAnbieten(datei);
         a.aktion("Neu");
         a.ziehe(24, 17);
+        const Sicherung vorher = a.spiel().sicherung();
         signaleBeendenLassen(*qApp);
         QTimer::singleShot(0, [] { ::raise(SIGTERM); }); // unhandled, it would end the test
         QCOMPARE(QCoreApplication::exec(), 0);
+        QVERIFY(beendenVerlangt());
         a.starten(); // the window goes as it does when the program ends
         QVERIFY(std::filesystem::exists(datei));
+
+        QTimer::singleShot(0, [] { ::raise(SIGTERM); });
+        a.fenster->fortsetzenAnbieten(datei); // the question is open when the signal comes
+        QVERIFY(a.spiel().sicherung() == vorher);
+        a.starten();
+        QVERIFY(std::filesystem::exists(datei));
+        // The application is ending now, and any dialog would return at once; a run of the main loop
+        // ends that for the tests that follow.
+        QTimer::singleShot(0, qApp, &QCoreApplication::quit);
+        QCoreApplication::exec();
     }
 
     // The computer against itself, shown move by move: continued, it plays on to the end by itself.

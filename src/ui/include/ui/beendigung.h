@@ -12,5 +12,7 @@ namespace fuh {
 
 // Once per process; later calls change nothing.
 void signaleBeendenLassen(QCoreApplication& app);
+// Whether such a signal came: it may end a dialog shown before the event loop runs.
+bool beendenVerlangt();
 
 } // namespace fuh
