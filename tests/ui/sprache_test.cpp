@@ -109,6 +109,11 @@ class SpracheTest : public QObject {
         QCOMPARE(stat->windowTitle(), QStringLiteral("Statistics"));
         QCOMPARE(liste->windowTitle(), QStringLiteral("High scores fox"));
         QCOMPARE(kindText(liste, "sieg0"), QStringLiteral("Yes")); // the file keeps "Ja"
+        // What a screen reader hears of a number follows too.
+        QCOMPARE(stat->findChild<QLabel*>(QStringLiteral("wert13"))->accessibleName(),
+                 QStringLiteral("Player, Total: 0"));
+        QCOMPARE(liste->findChild<QLabel*>(QStringLiteral("sieg0"))->accessibleName(),
+                 QStringLiteral("1. Won: Yes"));
         QCOMPARE(hilfe->browser()->source().fileName(), QStringLiteral("ratgeber_en.html"));
         QCOMPARE(abbrechenKnopf(), QStringLiteral("Cancel"));
         QCOMPARE(QLocale().language(), QLocale::English);
