@@ -16,6 +16,19 @@
 
 namespace fuh {
 
+namespace {
+
+// Sets `quelle`, translated, on `ziel` through `setzen`, as long as `ziel` lives.
+template <class Ziel>
+std::function<void()> setzer(const Beschriftung& texte, Ziel* ziel, const char* quelle,
+                             void (Ziel::*setzen)(const QString&)) {
+    return [&texte, z = QPointer<Ziel>(ziel), quelle, setzen] {
+        if (z) (z.data()->*setzen)(texte.uebersetzt(quelle));
+    };
+}
+
+} // namespace
+
 Beschriftung::Beschriftung(const QMetaObject& fenster) : kontext_(fenster.className()) {}
 
 QString Beschriftung::uebersetzt(const char* quelle) const {
@@ -28,33 +41,23 @@ void Beschriftung::merken(std::function<void()> setzen) {
 }
 
 void Beschriftung::text(QLabel* l, const char* quelle) {
-    merken([this, z = QPointer(l), quelle] {
-        if (z) z->setText(uebersetzt(quelle));
-    });
+    merken(setzer(*this, l, quelle, &QLabel::setText));
 }
 
 void Beschriftung::text(QAbstractButton* b, const char* quelle) {
-    merken([this, z = QPointer(b), quelle] {
-        if (z) z->setText(uebersetzt(quelle));
-    });
+    merken(setzer(*this, b, quelle, &QAbstractButton::setText));
 }
 
 void Beschriftung::text(QAction* a, const char* quelle) {
-    merken([this, z = QPointer(a), quelle] {
-        if (z) z->setText(uebersetzt(quelle));
-    });
+    merken(setzer(*this, a, quelle, &QAction::setText));
 }
 
 void Beschriftung::titel(QGroupBox* g, const char* quelle) {
-    merken([this, z = QPointer(g), quelle] {
-        if (z) z->setTitle(uebersetzt(quelle));
-    });
+    merken(setzer(*this, g, quelle, &QGroupBox::setTitle));
 }
 
 void Beschriftung::titel(QWidget* fenster, const char* quelle) {
-    merken([this, z = QPointer(fenster), quelle] {
-        if (z) z->setWindowTitle(uebersetzt(quelle));
-    });
+    merken(setzer(*this, fenster, quelle, &QWidget::setWindowTitle));
 }
 
 void Beschriftung::zugangsname(QWidget* w, std::function<QString()> bauen) {
