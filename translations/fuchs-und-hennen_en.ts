@@ -55,6 +55,14 @@
         <translation>PC plays fox and hens</translation>
     </message>
     <message>
+        <source>Zwei Spieler: Füchse am Zug</source>
+        <translation>Two players: foxes to move</translation>
+    </message>
+    <message>
+        <source>Zwei Spieler: Hennen am Zug</source>
+        <translation>Two players: hens to move</translation>
+    </message>
+    <message>
         <source>SPielstärke 3</source>
         <translation>Strength 3</translation>
     </message>
@@ -281,6 +289,10 @@
     <message>
         <source>Fuchs und Hennen</source>
         <translation>Fox and hens</translation>
+    </message>
+    <message>
+        <source>niemand (zwei Spieler)</source>
+        <translation>nobody (two players)</translation>
     </message>
     <message>
         <source>1 leicht</source>

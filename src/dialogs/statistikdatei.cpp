@@ -69,4 +69,9 @@ bool spielGestartet(const std::filesystem::path& ordner) {
                          [](std::array<int16_t, kZaehler>& z) { addiere(z[Zaehlerstelle::gestartet], 1); });
 }
 
+bool zweiSpielerBeendet(const std::filesystem::path& ordner) {
+    return fortschreiben(ordner,
+                         [](std::array<int16_t, kZaehler>& z) { addiere(z[Zaehlerstelle::beendet], 1); });
+}
+
 } // namespace fuh

@@ -13,27 +13,35 @@ void Spiel::beende() {
     if (z_.ergebnis == Ergebnis::fuchs) z_.partie.sanktion(-3, 3, 1);
     if (z_.ergebnis == Ergebnis::remis) z_.oeff.sw_spielende = false;
     ansicht_.hinweis(Hinweis::speichern_msg, true);
-    std::vector<std::string> fehler;
-    {
-        // One lock for the whole filing: another program using the files is waited for once.
-        const datei::Ordnersperre sperre = ordnerSperren();
-        if (z_.oeff.einst.Lernmodus == 1) {
-            const auto merge = lerndatei_.speichern(z_.partie, z_.oeff.einst.Staerke);
-            z_.neueZuege = merge.neueZuege;
-            if (!merge.geschrieben) fehler.emplace_back(lerndateiName(z_.oeff.einst.Staerke));
-        }
-        if (!statistik(ordner_, static_cast<int>(z_.ergebnis), z_.oeff.einst, z_.neueZuege))
-            fehler.emplace_back(kStatistikdatei);
-    }
-    meldeSchreibfehler(fehler);
+    meldeSchreibfehler(ablegen());
     ansicht_.hinweis(Hinweis::speichern_msg, false);
     // Taking moves back could improve any score: such a game is filed and learned from, but not listed.
     if (z_.zurueckgenommen) {
         z_.oeff.sw_spielende = false;
         return;
     }
-    if (z_.oeff.einst.computer() == Computer::fuchs) ansicht_.oeffnen(Fenster::highh);
-    if (z_.oeff.einst.computer() == Computer::hennen) ansicht_.oeffnen(Fenster::highf);
+    const std::optional<Seite> mensch = menschenseite();
+    if (mensch == Seite::Hennen) ansicht_.oeffnen(Fenster::highh);
+    if (mensch == Seite::Fuchs) ansicht_.oeffnen(Fenster::highf);
+}
+
+std::vector<std::string> Spiel::ablegen() {
+    std::vector<std::string> fehler;
+    // One lock for the whole filing: another program using the files is waited for once.
+    const datei::Ordnersperre sperre = ordnerSperren();
+    if (spielerwahl_.zweiSpieler) {
+        // Two people teach the learned memory nothing, and only that their game was finished is counted.
+        if (!zweiSpielerBeendet(ordner_)) fehler.emplace_back(kStatistikdatei);
+        return fehler;
+    }
+    if (z_.oeff.einst.Lernmodus == 1) {
+        const auto merge = lerndatei_.speichern(z_.partie, z_.oeff.einst.Staerke);
+        z_.neueZuege = merge.neueZuege;
+        if (!merge.geschrieben) fehler.emplace_back(lerndateiName(z_.oeff.einst.Staerke));
+    }
+    if (!statistik(ordner_, static_cast<int>(z_.ergebnis), z_.oeff.einst, z_.neueZuege))
+        fehler.emplace_back(kStatistikdatei);
+    return fehler;
 }
 
 } // namespace fuh

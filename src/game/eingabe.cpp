@@ -2,21 +2,21 @@
 //
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// The human's moves: drops of a piece on a square, and the right mouse button closing a jump sequence.
+// A person's moves: drops of a piece on a square, and the right mouse button closing a jump sequence.
 #include "board/regeln.h"
 #include "game/spiel.h"
 
 namespace fuh {
 
-void Spiel::platz_DragDrop(int t, int k) {
-    if (!z_.bilder.ziehbar || t < 0 || t >= kFelder || k < 0 || k >= kFiguren) return;
+void Spiel::abgelegt(int t, int k) {
+    if (!menschAmZug() || t < 0 || t >= kFelder || k < 0 || k >= kFiguren) return;
     const int von = z_.stellung.figurplatz[k];
     Teilzug& r = z_.zugregister;
     const Teilzug vorher = r;
     r = {static_cast<int16_t>(feldX(von)), static_cast<int16_t>(feldY(von)), static_cast<int16_t>(feldX(t)),
          static_cast<int16_t>(feldY(t))};
-    const Computer PC = z_.oeff.einst.computer();
-    if (!korrekterZug(z_.stellung.Feld, PC, z_.sprungfolge, r.vonX, r.vonY, r.nachX, r.nachY)) return;
+    // Every drop, a refused one too, stays in the move register (a fox without a move reads its origin).
+    if (!korrekterZug(z_.stellung.Feld, z_.amZug, z_.sprungfolge, r.vonX, r.vonY, r.nachX, r.nachY)) return;
     // A jump that continues a sequence belongs to the move that began it.
     if (!z_.sprungfolge.imSprung) {
         verlauf_.push_back(zustand());
@@ -24,19 +24,15 @@ void Spiel::platz_DragDrop(int t, int k) {
     }
     zug(true);
     if (endecheck(z_.stellung.Feld[r.nachX][r.nachY])) return;
-    if (z_.oeff.einst.Einzelzug != 0) return;
-    if (r.nachX == r.vonX && r.nachY == r.vonY) return;
-    if (PC == Computer::hennen && !z_.sprungfolge.imSprung)
-        z_.pcZug = Anforderung::hennen;
-    else if (PC == Computer::fuchs)
-        z_.pcZug = Anforderung::fuchs;
+    // A fox's chain of jumps stays open until the person closes it.
+    if (!z_.sprungfolge.imSprung) zugBeendet(z_.amZug);
 }
 
-void Spiel::figur_MouseDown(int /*k*/, Maustaste button) {
-    if (button != Maustaste::rechts || !z_.sprungfolge.imSprung) return;
+void Spiel::sprungfolgeSchliessen() {
+    if (!menschAmZug() || !z_.sprungfolge.imSprung) return;
     z_.sprungfolge.imSprung = false;
     ansicht_.hinweis(Hinweis::spr_msg, false);
-    z_.pcZug = Anforderung::hennen;
+    amZugSetzen(Seite::Hennen); // also in single-move mode: closing a chain asks for the hens' reply
 }
 
 } // namespace fuh

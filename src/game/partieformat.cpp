@@ -15,7 +15,7 @@ namespace fuh {
 namespace {
 
 constexpr char kMagie[4] = {'F', 'u', 'H', 'P'};
-constexpr uint16_t kVersion = 1;
+constexpr uint16_t kVersion = 2; // 1 kept the computer's pending reply instead of the side to move
 constexpr std::size_t kKopf = sizeof kMagie + 2 + 4; // magic, version, length of what follows
 constexpr std::size_t kPruefsumme = 4;
 constexpr std::size_t kHoechstVerlauf = kSituationen; // a player cannot make more moves than positions
@@ -107,8 +107,39 @@ class Leser {
     std::size_t pos_ = 0;
 };
 
+// Version 1 named the side to move only through the computer's pending reply (where the side to move
+// stands now) or, in a game of the computer alone, through two flags after the result.
+struct AltesAmZug {
+    int16_t antwort = 0;
+};
+
+void amZug(Schreiber& a, const Spielstand& z, uint16_t, AltesAmZug&) {
+    a.art(z.amZug);
+}
+void amZugNachtragen(Schreiber&, const Spielstand&, uint16_t, const AltesAmZug&) {}
+
+void amZug(Leser& a, Spielstand& z, uint16_t version, AltesAmZug& alt) {
+    if (version >= 2)
+        a.art(z.amZug);
+    else
+        a.i16(alt.antwort);
+}
+
+void amZugNachtragen(Leser& a, Spielstand& z, uint16_t version, const AltesAmZug& alt) {
+    if (version >= 2) return;
+    bool selbstspiel = false, hennenAmZug = false;
+    a.ja(selbstspiel), a.ja(hennenAmZug);
+    a.kaputt |= alt.antwort < 0 || alt.antwort > 2;
+    if (alt.antwort != 0)
+        z.amZug = alt.antwort == 1 ? Seite::Hennen : Seite::Fuchs;
+    else if (selbstspiel)
+        z.amZug = hennenAmZug ? Seite::Hennen : Seite::Fuchs;
+    else // a person's turn: the person plays the foxes when the computer plays the hens
+        z.amZug = z.oeff.einst.computer() == Computer::hennen ? Seite::Fuchs : Seite::Hennen;
+}
+
 // Every field of a game, in file order. Z is Spielstand or const Spielstand.
-template <class A, class Z> void felder(A& a, Z& z) {
+template <class A, class Z> void felder(A& a, Z& z, uint16_t version = kVersion) {
     for (int x = 0; x <= 6; ++x)
         for (int y = 0; y <= 6; ++y)
             a.i16(z.stellung.Feld[x][y]);
@@ -128,8 +159,10 @@ template <class A, class Z> void felder(A& a, Z& z) {
     a.i16(z.oeff.einst.PC), a.i16(z.oeff.einst.Staerke), a.i16(z.oeff.einst.Lernmodus);
     a.i16(z.oeff.einst.Einzelzug);
     a.i16(z.oeff.score), a.text(z.oeff.u_is_sieger), a.ja(z.oeff.fuchs_null), a.ja(z.oeff.sw_spielende);
-    a.art(z.pcZug), a.art(z.ergebnis), a.i16(z.neueZuege), a.ja(z.endeGefunden), a.art(z.letztesErgebnis);
-    a.ja(z.selbstspielLaeuft), a.ja(z.hennenAmZug);
+    AltesAmZug alt;
+    amZug(a, z, version, alt);
+    a.art(z.ergebnis), a.i16(z.neueZuege), a.ja(z.endeGefunden), a.art(z.letztesErgebnis);
+    amZugNachtragen(a, z, version, alt);
     a.u32(z.zufall), a.u32(z.tippZufall);
     a.text(z.punkte), a.ja(z.zurueckgenommen);
 }
@@ -198,7 +231,8 @@ bool gueltig(const Spielstand& z) {
     if (z.punkte.size() > 32 ||
         !std::all_of(z.punkte.begin(), z.punkte.end(), [](char c) { return c >= ' ' && c <= '~'; }))
         return false;
-    return imBereich(static_cast<int>(z.pcZug), 0, 2) && imBereich(static_cast<int>(z.ergebnis), 0, 3) &&
+    return (z.amZug == Seite::Fuchs || z.amZug == Seite::Hennen) &&
+           imBereich(static_cast<int>(z.ergebnis), 0, 3) &&
            imBereich(static_cast<int>(z.letztesErgebnis), 0, 3) && z.zufall < (1u << 24) &&
            z.tippZufall < (1u << 24);
 }
@@ -228,7 +262,7 @@ std::optional<Sicherung> partieDekodieren(const Bytes& b) {
     uint16_t version = 0;
     uint32_t laenge = 0;
     kopf.u16(version), kopf.u32(laenge);
-    if (version != kVersion || laenge != b.size() - kKopf - kPruefsumme) return std::nullopt;
+    if (version < 1 || version > kVersion || laenge != b.size() - kKopf - kPruefsumme) return std::nullopt;
     const uint8_t* inhalt = b.data() + kKopf;
     Leser summe(inhalt + laenge, kPruefsumme);
     uint32_t pruefsumme = 0;
@@ -237,13 +271,13 @@ std::optional<Sicherung> partieDekodieren(const Bytes& b) {
 
     Leser l(inhalt, laenge);
     Sicherung s;
-    felder(l, s.stand);
+    felder(l, s.stand, version);
     uint16_t n = 0;
     l.u16(n);
     if (n > kHoechstVerlauf) return std::nullopt;
     s.verlauf.resize(n);
     for (Spielstand& z : s.verlauf)
-        felder(l, z);
+        felder(l, z, version);
     if (l.kaputt || !l.amEnde() || !gueltig(s.stand)) return std::nullopt;
     if (!std::all_of(s.verlauf.begin(), s.verlauf.end(), gueltig)) return std::nullopt;
     return s;

@@ -22,14 +22,16 @@ Spiel::Spiel(Ansicht& ansicht, Zufall& zufall, std::filesystem::path ordner)
 Spiel::~Spiel() = default;
 
 void Spiel::spielerFestlegen(const Spielerwahl& w) {
+    const bool andereSeiten = w.zweiSpieler != spielerwahl_.zweiSpieler;
     spielerwahl_ = w;
+    if (andereSeiten) spielerGewechselt();
     meisterHennen_.reset();
     meisterFuchs_.reset();
     meisterTipp_.reset();
     statusTexte();
 }
 
-void Spiel::Form_Load(uint32_t sekundenSeitMitternacht) {
+void Spiel::programmStart(uint32_t sekundenSeitMitternacht) {
     init();
     zufall_.setzen(sekundenSeitMitternacht);
     tippZufall_.setzen(sekundenSeitMitternacht);
@@ -49,7 +51,7 @@ void Spiel::init() {
     z_.stellung.grundstellung();
     z_.sprungfolge.imSprung = false;
     z_.partie.spielzug = 0;
-    z_.selbstspielLaeuft = false;
+    z_.amZug = Seite::Hennen;
     verlauf_.clear();
     if (z_.zurueckgenommen) ansicht_.status(Statusfeld::zuruecknahme, "");
     z_.zurueckgenommen = false;
@@ -57,7 +59,11 @@ void Spiel::init() {
 }
 
 void Spiel::statusTexte() {
-    if (const auto text = pcStatustext(z_.oeff.einst.PC)) ansicht_.status(Statusfeld::seite, *text);
+    if (spielerwahl_.zweiSpieler)
+        ansicht_.status(Statusfeld::seite,
+                        z_.amZug == Seite::Fuchs ? kZweiSpielerFuchsAmZug : kZweiSpielerHennenAmZug);
+    else if (const auto text = pcStatustext(z_.oeff.einst.PC))
+        ansicht_.status(Statusfeld::seite, *text);
     const auto meister = [](const std::optional<Spieler>& s) { return s && s->meister; };
     if (meister(spielerwahl_.fuchs) || meister(spielerwahl_.hennen))
         ansicht_.status(Statusfeld::staerke, kMeisterStatustext);
@@ -70,7 +76,7 @@ void Spiel::punkteZeigen(std::string text) {
     ansicht_.status(Statusfeld::punkte, z_.punkte);
 }
 
-void Spiel::Neu_Click() {
+void Spiel::neuesSpiel() {
     init();
     bool gezaehlt = false;
     {
@@ -97,9 +103,38 @@ void Spiel::sperren(bool ziehbar) {
 }
 
 void Spiel::einstellungenUebernehmen(const Einstellungen& e) {
-    // The moves so far were made under the old settings; taking them back would bring those back too.
-    if (!(e == z_.oeff.einst)) verlauf_.clear();
+    const bool anders = !(e == z_.oeff.einst);
     z_.oeff.einst = e;
+    if (anders) spielerGewechselt();
+}
+
+void Spiel::spielerGewechselt() {
+    // The moves so far were made under the old players; taking them back would bring those back too.
+    verlauf_.clear();
+    // A chain of jumps is a person's: it ends when the computer takes over the foxes.
+    if (z_.sprungfolge.imSprung && !menschSpielt(Seite::Fuchs)) {
+        z_.sprungfolge.imSprung = false;
+        ansicht_.hinweis(Hinweis::spr_msg, false);
+        amZugSetzen(Seite::Hennen);
+    }
+}
+
+bool Spiel::menschSpielt(Seite s) const {
+    if (spielerwahl_.zweiSpieler) return true;
+    const Computer PC = z_.oeff.einst.computer();
+    return PC == (s == Seite::Fuchs ? Computer::hennen : Computer::fuchs);
+}
+
+bool Spiel::computerSpielt(Seite s) const {
+    if (spielerwahl_.zweiSpieler) return false;
+    const Computer PC = z_.oeff.einst.computer();
+    return PC == Computer::beide || PC == (s == Seite::Fuchs ? Computer::fuchs : Computer::hennen);
+}
+
+std::optional<Seite> Spiel::menschenseite() const {
+    for (Seite s : {Seite::Fuchs, Seite::Hennen})
+        if (menschSpielt(s) && computerSpielt(gegner(s))) return s;
+    return std::nullopt;
 }
 
 void Spiel::einstellungenFestlegen(const Einstellungen& e) {
@@ -129,8 +164,15 @@ datei::Ordnersperre Spiel::ordnerSperren() {
 }
 
 void Spiel::zug(bool normal) {
-    Zugumgebung u{z_.stellung, z_.zugregister, z_.sprungfolge, z_.bilder, ansicht_, z_.partie};
-    fuh::zug(u, z_.oeff.einst.computer(), normal);
+    Zugumgebung u{z_.stellung,
+                  z_.zugregister,
+                  z_.sprungfolge,
+                  z_.bilder,
+                  ansicht_,
+                  z_.partie,
+                  menschSpielt(Seite::Fuchs),
+                  menschSpielt(Seite::Hennen)};
+    fuh::zug(u, normal);
 }
 
 } // namespace fuh

@@ -48,7 +48,7 @@ void Spiel::spielende(int16_t figur) {
                 ++n;
                 if (imZielfeld(x, y)) ++z;
             }
-    const Computer PC = z_.oeff.einst.computer();
+    const std::optional<Seite> mensch = menschenseite();
     z_.ergebnis = Ergebnis::offen;
     auto ende = [&](Ergebnis e, const char* text, bool menschGewinnt) {
         z_.ergebnis = e;
@@ -56,27 +56,22 @@ void Spiel::spielende(int16_t figur) {
         sperren(false);
         z_.oeff.u_is_sieger = menschGewinnt ? kSiegJa : kSiegNein;
     };
-    if (z == 9) ende(Ergebnis::hennen, kHennenGewinnen, PC == Computer::fuchs);
-    if (n < 9) ende(Ergebnis::fuchs, kFuchsGewinnt, PC == Computer::hennen);
+    if (z == 9) ende(Ergebnis::hennen, kHennenGewinnen, mensch == Seite::Hennen);
+    if (n < 9) ende(Ergebnis::fuchs, kFuchsGewinnt, mensch == Seite::Fuchs);
     if (z_.zugregister.nachX == 0 && z_.zugregister.nachY == 0) {
         // The side to move found no move (or the last fox would have been parked).
-        if (figur == henne) ende(Ergebnis::fuchs, kFuchsGewinntOhneZug, PC == Computer::hennen);
+        if (figur == henne) ende(Ergebnis::fuchs, kFuchsGewinntOhneZug, mensch == Seite::Fuchs);
         if (figur == fuchs) ende(Ergebnis::remis, kRemisZiel, false);
     }
 }
 
 std::optional<int16_t> Spiel::punkte() {
     const int s = hennenwert(z_.stellung.Feld);
-    switch (z_.oeff.einst.computer()) {
-    case Computer::fuchs:
-        z_.oeff.score = wrap16(s);
-        return z_.oeff.score;
-    case Computer::hennen:
-        z_.oeff.score = wrap16(kHoechstpunkte - s);
-        return z_.oeff.score;
-    default:
-        return std::nullopt;
-    }
+    // Only a person playing against the computer scores.
+    const std::optional<Seite> mensch = menschenseite();
+    if (!mensch) return std::nullopt;
+    z_.oeff.score = wrap16(*mensch == Seite::Hennen ? s : kHoechstpunkte - s);
+    return z_.oeff.score;
 }
 
 } // namespace fuh

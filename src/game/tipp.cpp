@@ -2,7 +2,7 @@
 //
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// A hint: what the computer would play now for the human's side.
+// A hint: what the computer would play now for the person to move.
 #include <system_error>
 
 #include "game/spiel.h"
@@ -11,9 +11,7 @@
 namespace fuh {
 
 bool Spiel::tippMoeglich() const {
-    const Computer PC = z_.oeff.einst.computer();
-    return z_.bilder.ziehbar && (PC == Computer::fuchs || PC == Computer::hennen) &&
-           z_.pcZug == Anforderung::keine && !z_.sprungfolge.imSprung;
+    return menschAmZug() && !z_.sprungfolge.imSprung;
 }
 
 Zugwahl Spiel::tipp() {
@@ -26,10 +24,9 @@ Zugwahl Spiel::tipp() {
         Staerke = 0;
     const Erinnerung erinnerung{lerndatei_, Staerke, z_.partie};
     // Against the Meister the hint searches too.
-    const bool menschHennen = z_.oeff.einst.computer() == Computer::fuchs;
-    Meister* gegner = meister(menschHennen ? spielerwahl_.fuchs : spielerwahl_.hennen, meisterTipp_);
-    if (menschHennen) return hennenWahl(erinnerung, tippZufall_, gegner);
-    return fuchsWahl(erinnerung, tippZufall_, gegner);
+    Meister* sucher = meister(spieler(gegner(z_.amZug)), meisterTipp_);
+    if (z_.amZug == Seite::Hennen) return hennenWahl(erinnerung, tippZufall_, sucher);
+    return fuchsWahl(erinnerung, tippZufall_, sucher);
 }
 
 } // namespace fuh

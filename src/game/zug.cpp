@@ -28,7 +28,7 @@ void gleiten(Figurbilder& bilder, Ansicht& ansicht, int k, int zielLeft, int zie
     }
 }
 
-void zug(Zugumgebung& u, Computer PC, bool normal) {
+void zug(Zugumgebung& u, bool normal) {
     Stellung& s = u.stellung;
     const Teilzug& r = u.zugregister;
     auto& Feld = s.Feld;
@@ -37,10 +37,9 @@ void zug(Zugumgebung& u, Computer PC, bool normal) {
     const int k = figur_index(s, von).value_or(0);
     const int t = feldNummer(r.nachX, r.nachY);
 
-    // The human's own pieces snap into place; the computer's slide.
+    // A person's own pieces snap into place; the computer's slide.
     const int16_t figur = Feld[r.vonX][r.vonY];
-    const bool sofort =
-        (figur == fuchs && PC == Computer::hennen) || (figur == henne && PC == Computer::fuchs);
+    const bool sofort = (figur == fuchs && u.menschFuchs) || (figur == henne && u.menschHennen);
     if (sofort) {
         u.bilder.left[k] = platzLeft(t);
         u.bilder.top[k] = platzTop(t);
@@ -62,7 +61,7 @@ void zug(Zugumgebung& u, Computer PC, bool normal) {
         u.sprungfolge.imSprung = false;
         return;
     }
-    if (PC == Computer::hennen) {
+    if (u.menschFuchs) {
         u.sprungfolge = {true, r.nachX, r.nachY};
         u.ansicht.hinweis(Hinweis::spr_msg, true);
     }

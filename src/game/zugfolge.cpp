@@ -39,15 +39,14 @@ Zugwahl Spiel::hennenWahl(const Erinnerung& erinnerung, Zufall& zufall, Meister*
 }
 
 Zugwahl Spiel::fuchsWahl(const Erinnerung& erinnerung, Zufall& zufall, Meister* meister) {
-    const Computer PC = z_.oeff.einst.computer();
-    const bool strafe = (PC == Computer::hennen || PC == Computer::beide) && z_.oeff.einst.Einzelzug == 0;
+    const bool strafe = computerSpielt(Seite::Hennen) && z_.oeff.einst.Einzelzug == 0;
     if (meister)
         return meister->berechne(
             {z_.stellung.Feld, fuchs, z_.partie.spielzug, strafe, spielerwahl_.bedenkzeit});
     return berechneFuchs(z_.stellung.Feld, erinnerung, zufall);
 }
 
-bool Spiel::hennenZiehen() {
+void Spiel::hennenZiehen() {
     ansicht_.hinweis(Hinweis::h_zug, true);
     strafeAnwenden(strafregel(z_.stellung.Feld, z_.partie, z_.oeff.einst.Einzelzug));
     const Zugwahl wahl =
@@ -55,10 +54,10 @@ bool Spiel::hennenZiehen() {
     z_.zugregister = wahl.keinZug() ? Teilzug{} : *wahl.begin();
     if (!wahl.keinZug()) zug(true);
     ansicht_.hinweis(Hinweis::h_zug, false);
-    return endecheck(henne);
+    endecheck(henne);
 }
 
-bool Spiel::fuechseZiehen() {
+void Spiel::fuechseZiehen() {
     ansicht_.hinweis(Hinweis::f_zug, true);
     // Without a move the target stays (0, 0), which the end-of-move check reads as "no move".
     z_.zugregister.nachX = 0;
@@ -70,43 +69,42 @@ bool Spiel::fuechseZiehen() {
         zug(true);
         ansicht_.hinweis(Hinweis::f_zug, false);
     }
-    return endecheck(fuchs);
+    endecheck(fuchs);
 }
 
-void Spiel::Timer1_Timer() {
-    const Anforderung a = z_.pcZug;
-    z_.pcZug = Anforderung::keine;
-    if (a == Anforderung::hennen) hennenZiehen();
-    if (a == Anforderung::fuchs) fuechseZiehen();
+bool Spiel::computerZieht() {
+    // The move limit always ends a game before its positions run out.
+    if (!computerAmZug() || z_.partie.spielzug >= kZugbegrenzung) return false;
+    const Seite seite = z_.amZug;
+    if (seite == Seite::Hennen)
+        hennenZiehen();
+    else
+        fuechseZiehen();
+    zugBeendet(seite);
+    return true;
+}
+
+void Spiel::zugBeendet(Seite seite) {
+    // With single-move mode a person moves again instead of the computer; a closed chain of jumps, the
+    // hens' opening move and a game of the computer alone still bring the computer's moves.
+    if (menschSpielt(seite) && computerSpielt(gegner(seite)) && z_.oeff.einst.Einzelzug != 0) return;
+    amZugSetzen(gegner(seite));
+}
+
+void Spiel::amZugSetzen(Seite seite) {
+    z_.amZug = seite;
+    if (spielerwahl_.zweiSpieler) statusTexte(); // two people read whose turn it is there
 }
 
 void Spiel::spielBeginnen() {
-    switch (z_.oeff.einst.computer()) {
-    case Computer::hennen:
-        hennenZiehen();
-        break;
-    case Computer::beide:
-        z_.selbstspielLaeuft = true;
-        z_.hennenAmZug = true;
+    amZugSetzen(Seite::Hennen);
+    if (selbstspielLaeuft()) {
         if (!schrittweise_)
-            while (selbstspielZug()) {
+            while (computerZieht()) {
             }
-        break;
-    default:
-        break; // the human's hens move first
+        return;
     }
-}
-
-bool Spiel::selbstspielZug() {
-    if (!z_.selbstspielLaeuft) return false;
-    // The computer plays itself until an end is announced, also one announced inside the hens' turn by
-    // the penalty rule; the move limit always supplies one.
-    const bool ende = z_.hennenAmZug
-                          ? z_.partie.spielzug >= kZugbegrenzung || hennenZiehen() || z_.endeGefunden
-                          : fuechseZiehen();
-    z_.hennenAmZug = !z_.hennenAmZug;
-    if (ende) z_.selbstspielLaeuft = false;
-    return z_.selbstspielLaeuft;
+    computerZieht(); // computer hens open at once; a person's hens move first
 }
 
 } // namespace fuh

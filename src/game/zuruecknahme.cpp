@@ -21,9 +21,7 @@ Spielstand Spiel::zustand() const {
 }
 
 bool Spiel::zuruecknehmenMoeglich() const {
-    const Computer PC = z_.oeff.einst.computer();
-    return !verlauf_.empty() && laeuft() && !z_.selbstspielLaeuft &&
-           (PC == Computer::fuchs || PC == Computer::hennen);
+    return !verlauf_.empty() && laeuft() && (menschSpielt(Seite::Fuchs) || menschSpielt(Seite::Hennen));
 }
 
 void Spiel::zuruecknehmen() {

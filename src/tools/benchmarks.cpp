@@ -120,13 +120,13 @@ void BM_Ablegen(benchmark::State& state) {
 }
 BENCHMARK(BM_Ablegen)->Arg(0)->Arg(32767)->Unit(benchmark::kMicrosecond);
 
-// The first fox move a human could make in the running game: piece and square.
+// The first fox move a person could make in the running game: piece and square.
 std::pair<int, int> fuchszug(const fuh::Spiel& spiel) {
     const fuh::Stellung& s = spiel.stellung();
     for (int k = 0; k < fuh::kFiguren; ++k) {
         const int von = s.figurplatz[k];
         for (int t = 0; von != 0 && t < fuh::kFelder; ++t)
-            if (fuh::korrekterZug(s.Feld, fuh::Computer::hennen, spiel.sprungfolge(), fuh::feldX(von),
+            if (fuh::korrekterZug(s.Feld, fuh::Seite::Fuchs, spiel.sprungfolge(), fuh::feldX(von),
                                   fuh::feldY(von), fuh::feldX(t), fuh::feldY(t)))
                 return {k, t};
     }
@@ -147,11 +147,11 @@ void BM_Hennenzug(benchmark::State& state) {
     spiel.einstellungenFestlegen({1, static_cast<int16_t>(state.range(0) - 1), 0, 0});
     for (auto _ : state) {
         state.PauseTiming();
-        spiel.Neu_Click();
+        spiel.neuesSpiel();
         const auto [k, t] = fuchszug(spiel);
-        spiel.platz_DragDrop(t, k);
+        spiel.abgelegt(t, k);
         state.ResumeTiming();
-        spiel.Timer1_Timer();
+        spiel.computerZieht();
     }
 }
 BENCHMARK(BM_Hennenzug)->Args({1, 0})->Args({3, 0})->Args({3, 32767})->Unit(benchmark::kMicrosecond);

@@ -129,12 +129,12 @@ int partie(bool meisterHennen, uint32_t seed, std::chrono::milliseconds bedenkze
     wahl.meisterSeed = seed;
     spiel.spielerFestlegen(wahl);
     spiel.schrittweise(true);
-    spiel.Neu_Click();
-    for (bool weiter = true; weiter;) {
+    spiel.neuesSpiel();
+    while (spiel.computerAmZug()) {
         if (const int s = abbruch.angefordert()) return s;
-        const bool meisterZieht = spiel.selbstspielHennenAmZug() == meisterHennen;
+        const bool meisterZieht = (spiel.amZug() == fuh::Seite::Hennen) == meisterHennen;
         const auto start = std::chrono::steady_clock::now();
-        weiter = spiel.selbstspielZug();
+        spiel.computerZieht();
         const std::chrono::duration<double, std::milli> dauer = std::chrono::steady_clock::now() - start;
         if (meisterZieht) b.zeiten.push_back(dauer.count());
     }

@@ -27,12 +27,13 @@ struct Kandidat {
 std::vector<Kandidat> kandidaten(const Spiel& spiel) {
     std::vector<Kandidat> liste;
     const Stellung& s = spiel.stellung();
-    const Computer PC = spiel.oeffentlich().einst.computer();
+    if (!spiel.menschAmZug()) return liste;
     for (int k = 0; k < kFiguren; ++k) {
         const int von = s.figurplatz[k];
         if (von == 0) continue;
         for (int t = 0; t < kFelder; ++t)
-            if (korrekterZug(s.Feld, PC, spiel.sprungfolge(), feldX(von), feldY(von), feldX(t), feldY(t)))
+            if (korrekterZug(s.Feld, spiel.amZug(), spiel.sprungfolge(), feldX(von), feldY(von), feldX(t),
+                             feldY(t)))
                 liste.push_back({k, t});
     }
     if (spiel.sprungfolge().imSprung) liste.push_back({0, -1});
@@ -81,12 +82,8 @@ class Lauf {
     std::unique_ptr<Spiel> neuesSpiel() {
         auto spiel = std::make_unique<Spiel>(ansicht_, zufall_, ordner_);
         oeffentlich_ = &spiel->oeffentlich();
-        Einstellungen e;
-        e.PC = static_cast<int16_t>(o_.pc);
-        e.Staerke = static_cast<int16_t>(o_.staerke - 1);
-        e.Lernmodus = o_.lernen ? 1 : 0;
-        spiel->einstellungenFestlegen(e);
-        Spielerwahl spieler = o_.spieler;
+        spiel->einstellungenFestlegen(einstellungen(o_));
+        Spielerwahl spieler = spielerwahl(o_);
         spieler.meisterSeed = seed_;
         spiel->spielerFestlegen(spieler);
         // A saved game the computer plays itself goes on move by move.
@@ -104,7 +101,7 @@ class Lauf {
     std::filesystem::path zwischenordner_;
 };
 
-// The human's turns and the timer's replies alternate until an end is announced. False: abandoned.
+// A person's turns and the computer's replies alternate until an end is announced. False: abandoned.
 bool menschSpielt(Lauf& lauf) {
     while (!lauf.spiel().endeGefunden()) {
         Spiel& spiel = lauf.vorZug();
@@ -113,10 +110,10 @@ bool menschSpielt(Lauf& lauf) {
         const int i = lauf.zufall().ziehe(static_cast<int>(liste.size())) - 1;
         const Kandidat c = liste[static_cast<std::size_t>(i)];
         if (c.t < 0)
-            spiel.figur_MouseDown(c.k, Maustaste::rechts);
+            spiel.sprungfolgeSchliessen();
         else
-            spiel.platz_DragDrop(c.t, c.k);
-        if (!spiel.endeGefunden()) lauf.vorZug().Timer1_Timer();
+            spiel.abgelegt(c.t, c.k);
+        if (!spiel.endeGefunden()) lauf.vorZug().computerZieht();
     }
     return true;
 }
@@ -131,12 +128,12 @@ Summe selbstspiel(const Optionen& o, uint32_t seed, const std::filesystem::path&
     });
     for (uint64_t n = 1; n <= o.spiele; ++n) {
         if (o.protokoll) aus << "spiel " << n << '\n';
-        lauf.spiel().Neu_Click();
-        if (o.fortsetzenPruefen && o.pc == 2)
-            while (lauf.vorZug().selbstspielZug()) {
+        lauf.spiel().neuesSpiel();
+        if (o.fortsetzenPruefen && computerAllein(o))
+            while (lauf.vorZug().computerZieht()) {
             }
         bool beendet = lauf.spiel().endeGefunden();
-        if (!beendet && o.pc != 2) beendet = menschSpielt(lauf);
+        if (!beendet && !computerAllein(o)) beendet = menschSpielt(lauf);
         const int ergebnis = beendet ? static_cast<int>(lauf.spiel().letztesErgebnis()) : 0;
         if (o.protokoll) aus << "ende " << ergebnis << ' ' << lauf.spiel().spielzug() << '\n';
         ++summe.spiele;

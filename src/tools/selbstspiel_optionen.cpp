@@ -11,9 +11,14 @@ namespace fuh {
 namespace {
 constexpr uint32_t kHoechsteBedenkzeit = 500; // never longer than the window's turn tick
 
-// A side's player: strength 1, 2 or 3, or the Meister (which learns into the strength-3 file).
-Setzer spieler(std::optional<Spieler>& ziel) {
-    return [&ziel](const std::string& s) {
+// A side's player: strength 1, 2 or 3, the Meister (which learns into the strength-3 file), or a person.
+Setzer spieler(std::optional<Spieler>& ziel, bool& mensch) {
+    return [&ziel, &mensch](const std::string& s) {
+        mensch = s == "mensch";
+        if (mensch) {
+            ziel.reset();
+            return true;
+        }
         if (s == "meister") {
             ziel = Spieler{2, true};
             return true;
@@ -51,6 +56,29 @@ Option bedenkzeitOption(std::chrono::milliseconds& ziel) {
             }};
 }
 
+Einstellungen einstellungen(const Optionen& o) {
+    Einstellungen e;
+    e.PC = static_cast<int16_t>(o.pc);
+    e.Staerke = static_cast<int16_t>(o.staerke - 1);
+    e.Lernmodus = o.lernen ? 1 : 0;
+    if (o.menschFuchs == o.menschHennen) return e;
+    // One person: the computer plays the other side, at the strength given for that side.
+    e.PC = o.menschFuchs ? 1 : 0;
+    const std::optional<Spieler>& computer = o.menschFuchs ? o.spieler.hennen : o.spieler.fuchs;
+    if (computer && !computer->meister) e.Staerke = computer->Staerke;
+    return e;
+}
+
+Spielerwahl spielerwahl(const Optionen& o) {
+    Spielerwahl w = o.spieler;
+    w.zweiSpieler = o.menschFuchs && o.menschHennen;
+    return w;
+}
+
+bool computerAllein(const Optionen& o) {
+    return !o.menschFuchs && !o.menschHennen && o.pc == 2;
+}
+
 Programm selbstspielAufruf(Optionen& o) {
     const Optionen vorgabe;
     return {"selbstspiel",
@@ -76,10 +104,12 @@ Programm selbstspielAufruf(Optionen& o) {
                  seed(o.seed)},
                 {"protokoll", 'p', "", "eine Zeile je Ereignis (spiel, zug, meldung, liste, ende)",
                  schalter(o.protokoll)},
-                {"fuchs", 0, "S", "die Spielstärke nur der Füchse: 1, 2, 3 oder meister",
-                 spieler(o.spieler.fuchs)},
-                {"hennen", 0, "S", "die Spielstärke nur der Hennen: 1, 2, 3 oder meister",
-                 spieler(o.spieler.hennen)},
+                {"fuchs", 0, "S",
+                 "wer die Füchse spielt: Spielstärke 1, 2, 3, meister, oder mensch (ein zufälliger Mensch)",
+                 spieler(o.spieler.fuchs, o.menschFuchs)},
+                {"hennen", 0, "S",
+                 "wer die Hennen spielt: Spielstärke 1, 2, 3, meister, oder mensch (ein zufälliger Mensch)",
+                 spieler(o.spieler.hennen, o.menschHennen)},
                 bedenkzeitOption(o.spieler.bedenkzeit),
                 {"fortsetzen-pruefen", 0, "",
                  "vor jedem Zug die Partie in eine Datei sichern und aus ihr fortsetzen (Log und Dateien "

@@ -42,7 +42,7 @@ BrettFenster::BrettFenster(std::filesystem::path ordner, uint32_t startzeit, QWi
     setObjectName(QStringLiteral("brett"));
     setWindowTitle(QString::fromUtf8(kTitel));
 
-    brett_ = new BrettFlaeche([this] { return spiel_->ziehbar() && !beschaeftigt(); }, this);
+    brett_ = new BrettFlaeche([this] { return spiel_->menschAmZug() && !beschaeftigt(); }, this);
     setCentralWidget(brett_);
     menueAnlegen();
     statusleisteAnlegen();
@@ -52,15 +52,15 @@ BrettFenster::BrettFenster(std::filesystem::path ordner, uint32_t startzeit, QWi
     spiel_ = std::make_unique<Spiel>(*this, zufall_, std::move(ordner));
     // Computer against computer is shown move by move; the next move is asked for when one has been seen.
     spiel_->schrittweise(true);
-    connect(brett_, &BrettFlaeche::figurGedrueckt, this, [this](int k, Maustaste taste) {
-        if (beschaeftigt()) return;
-        spiel_->figur_MouseDown(k, taste);
+    connect(brett_, &BrettFlaeche::figurGedrueckt, this, [this](int, Maustaste taste) {
+        if (taste != Maustaste::rechts || beschaeftigt()) return;
+        spiel_->sprungfolgeSchliessen();
         spielWeiter();
     });
     connect(brett_, &BrettFlaeche::abgelegt, this, [this](int t, int k) {
         if (beschaeftigt()) return;
         brett_->tippLoeschen();
-        spiel_->platz_DragDrop(t, k);
+        spiel_->abgelegt(t, k);
         spielWeiter();
     });
     connect(&wiedergabe_, &Wiedergabe::fertig, this, &BrettFenster::wiedergabeFertig);
@@ -69,11 +69,12 @@ BrettFenster::BrettFenster(std::filesystem::path ordner, uint32_t startzeit, QWi
     naechsterZug_.setSingleShot(true);
     connect(&naechsterZug_, &QTimer::timeout, this, &BrettFenster::selbstspielSchritt);
 
-    spiel_->Form_Load(startzeit);
+    spiel_->programmStart(startzeit);
     // The Meister is stored as strength 3 in QZ.INI; a file that says otherwise now was changed since.
-    meister_ = fensterEinstellungen().value(QStringLiteral("meister")).toBool() &&
-               spiel_->oeffentlich().einst.Staerke == 2;
-    meisterAnwenden();
+    auswahl_.meister = fensterEinstellungen().value(QStringLiteral("meister")).toBool() &&
+                       spiel_->oeffentlich().einst.Staerke == 2;
+    auswahl_.zweiSpieler = fensterEinstellungen().value(QStringLiteral("zweiSpieler")).toBool();
+    spielerAnwenden();
     // Start-up moves nothing that could be paced: its reports are shown at once.
     wiedergabe_.abbrechen([](const Ereignis&) { return true; });
     // The images stand where the game keeps them before the window is first shown.
@@ -84,9 +85,9 @@ BrettFenster::BrettFenster(std::filesystem::path ordner, uint32_t startzeit, QWi
     }
     befehleAbgleichen();
 
-    timer1_.setInterval(500);
-    connect(&timer1_, &QTimer::timeout, this, &BrettFenster::Timer1_Timer);
-    timer1_.start();
+    takt_.setInterval(500);
+    connect(&takt_, &QTimer::timeout, this, &BrettFenster::zugTakt);
+    takt_.start();
     brett_->setFocus(); // the board is played with the keyboard as well
 }
 
@@ -107,23 +108,19 @@ void BrettFenster::groesseLaden() {
 }
 
 bool BrettFenster::beschaeftigt() const {
-    return wartetAufDateien_ || wiedergabe_.laeuft() || naechsterZug_.isActive() ||
-           (spiel_ && spiel_->selbstspielLaeuft());
+    return wartetAufDateien_ || wiedergabe_.laeuft() || naechsterZug_.isActive() || selbstspielSchleife_;
 }
 
-void BrettFenster::Timer1_Timer() {
+void BrettFenster::zugTakt() {
     // A requested reply waits until the player has seen everything before it.
     if (beschaeftigt()) return;
-    spiel_->Timer1_Timer();
+    spiel_->computerZieht();
     spielWeiter();
 }
 
 void BrettFenster::neu() {
     naechsterZug_.stop();
     brett_->tippLoeschen();
-    wartendeEinstellungen_.reset(); // the new game reads the settings file
-    if (wartenderMeister_) meisterSetzen(*wartenderMeister_);
-    wartenderMeister_.reset();
     // The abandoned game's pictures go where it left them and its announcements are dropped; a failure
     // to save and the high-score list of a finished game still reach the player.
     wiedergabe_.abbrechen([](const Ereignis& e) {
@@ -133,7 +130,7 @@ void BrettFenster::neu() {
     brett_->markierungLoeschen();
     ansage_->verwerfen();
     statusBar()->clearMessage();
-    spiel_->Neu_Click();
+    spiel_->neuesSpiel();
     spielWeiter();
 }
 
@@ -154,22 +151,17 @@ void BrettFenster::wiedergabeFertig() {
         // Shown at once: the whole game is played here.
         selbstspielSchleife_ = true;
         while (spiel_->selbstspielLaeuft() && !wiedergabe_.laeuft()) {
-            spiel_->selbstspielZug();
+            spiel_->computerZieht();
             wiedergabe_.abspielen();
         }
         selbstspielSchleife_ = false;
-    }
-    if (wartendeEinstellungen_ && !spiel_->selbstspielLaeuft()) {
-        spiel_->einstellungenUebernehmen(*wartendeEinstellungen_);
-        wartendeEinstellungen_.reset();
-        if (wartenderMeister_) meisterSetzen(*wartenderMeister_);
-        wartenderMeister_.reset();
     }
     befehleAbgleichen();
 }
 
 void BrettFenster::selbstspielSchritt() {
-    spiel_->selbstspielZug();
+    if (!spiel_->selbstspielLaeuft()) return; // the players changed during the rest
+    spiel_->computerZieht();
     spielWeiter();
 }
 

@@ -198,19 +198,13 @@ void BrettFenster::statusleisteAnlegen() {
 void BrettFenster::einstellungenZeigen() {
     einmalZeigen(einst_, [this] {
         return new EinstDialog(
-            spiel_->oeffentlich().einst, meister_, spiel_->ordner(),
+            spiel_->oeffentlich().einst, auswahl_, spiel_->ordner(),
             [this](Statusfeld feld, const std::string& text) {
                 panelSetzen(feld, QString::fromStdString(text));
             },
-            [this](const Einstellungen& e, bool meister) {
-                // A game the computer plays itself keeps its settings and players until it ends.
-                if (spiel_->selbstspielLaeuft()) {
-                    wartendeEinstellungen_ = e;
-                    wartenderMeister_ = meister;
-                    return;
-                }
+            [this](const Einstellungen& e, const Spielerauswahl& auswahl) {
                 spiel_->einstellungenUebernehmen(e);
-                meisterSetzen(meister);
+                spielerSetzen(auswahl);
             },
             this);
     });

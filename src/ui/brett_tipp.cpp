@@ -16,15 +16,17 @@ namespace {
 constexpr int kTippDauer = 3000; // ms a hint stays marked, unless the player moves first
 }
 
-void BrettFenster::meisterSetzen(bool meister) {
-    meister_ = meister;
-    fensterEinstellungen().setValue(QStringLiteral("meister"), meister);
-    meisterAnwenden();
+void BrettFenster::spielerSetzen(const Spielerauswahl& auswahl) {
+    auswahl_ = auswahl;
+    fensterEinstellungen().setValue(QStringLiteral("meister"), auswahl.meister);
+    fensterEinstellungen().setValue(QStringLiteral("zweiSpieler"), auswahl.zweiSpieler);
+    spielerAnwenden();
 }
 
-void BrettFenster::meisterAnwenden() {
+void BrettFenster::spielerAnwenden() {
     Spielerwahl wahl;
-    if (meister_) {
+    wahl.zweiSpieler = auswahl_.zweiSpieler;
+    if (auswahl_.meister) {
         wahl.fuchs = wahl.hennen = Spieler{2, true}; // learns and counts as strength 3
         wahl.meisterSeed = startzeit_;
     }

@@ -34,7 +34,8 @@ struct Lage {
     int textBreite;                 // pixels the content needs
 };
 
-constexpr int kMeister = 3; // the fourth entry of the strengths
+constexpr int kMeister = 3;     // the fourth entry of the strengths
+constexpr int kZweiSpieler = 3; // the fourth entry of the computer's side: nobody
 
 int eintrag(int wert) {
     return wert >= 0 && wert <= 2 ? wert : 0;
@@ -42,11 +43,12 @@ int eintrag(int wert) {
 
 } // namespace
 
-EinstDialog::EinstDialog(const Einstellungen& einst, bool meister, std::filesystem::path ordner,
+EinstDialog::EinstDialog(const Einstellungen& einst, Spielerauswahl wahl, std::filesystem::path ordner,
                          std::function<void(Statusfeld feld, const std::string& text)> statusSetzen,
-                         std::function<void(const Einstellungen&, bool)> uebernehmen, QWidget* parent)
+                         std::function<void(const Einstellungen&, const Spielerauswahl&)> uebernehmen,
+                         QWidget* parent)
     : QDialog(parent), ordner_(std::move(ordner)), statusSetzen_(std::move(statusSetzen)),
-      uebernehmen_(std::move(uebernehmen)) {
+      uebernehmen_(std::move(uebernehmen)), pcVorher_(einst.PC) {
     setAttribute(Qt::WA_DeleteOnClose);
     setAutoFillBackground(true);
     QPalette pal = palette();
@@ -61,7 +63,7 @@ EinstDialog::EinstDialog(const Einstellungen& einst, bool meister, std::filesyst
     abbruch_->setObjectName(QStringLiteral("Abbruch"));
     pc_spielt_ = new QComboBox(this);
     pc_spielt_->setObjectName(QStringLiteral("pc_spielt"));
-    pc_spielt_->addItems(QStringList(3, QString()));
+    pc_spielt_->addItems(QStringList(4, QString()));
     Staerke_ = new QComboBox(this);
     Staerke_->setObjectName(QStringLiteral("Staerke"));
     Staerke_->addItems(QStringList(4, QString()));
@@ -82,9 +84,9 @@ EinstDialog::EinstDialog(const Einstellungen& einst, bool meister, std::filesyst
     setTabOrder(Lernen_, Einzelzug_);
     ok_->setDefault(true);
 
-    // Form_Load: the values are unchecked file contents, so anything outside the lists shows entry 0.
-    pc_spielt_->setCurrentIndex(eintrag(einst.PC));
-    Staerke_->setCurrentIndex(meister && einst.Staerke == 2 ? kMeister : eintrag(einst.Staerke));
+    // On opening: the values are unchecked file contents, so anything outside the lists shows entry 0.
+    pc_spielt_->setCurrentIndex(wahl.zweiSpieler ? kZweiSpieler : eintrag(einst.PC));
+    Staerke_->setCurrentIndex(wahl.meister && einst.Staerke == 2 ? kMeister : eintrag(einst.Staerke));
     Lernen_->setChecked(einst.Lernmodus == 1);
     Einzelzug_->setChecked(einst.Einzelzug == 1);
     ausgleich();
@@ -104,7 +106,8 @@ void EinstDialog::texteSetzen() {
     staerkeText_->setText(tr("Spielstärke:"));
     ok_->setText(tr("Übernehmen"));
     abbruch_->setText(tr("Abbrechen"));
-    const QString seiten[] = {tr("Fuchs"), tr("Hennen"), tr("Fuchs und Hennen")};
+    const QString seiten[] = {tr("Fuchs"), tr("Hennen"), tr("Fuchs und Hennen"),
+                              tr("niemand (zwei Spieler)")};
     for (int i = 0; i < pc_spielt_->count(); ++i)
         pc_spielt_->setItemText(i, seiten[i]);
     const QString staerken[] = {tr("1 leicht"), tr("2 mittel"), tr("3 stark"), tr("4 Meister")};
@@ -157,12 +160,14 @@ void EinstDialog::ausgleich() {
 
 void EinstDialog::ok_Click() {
     Einstellungen e;
-    e.PC = static_cast<int16_t>(pc_spielt_->currentIndex());
-    const bool meister = Staerke_->currentIndex() == kMeister;
+    const Spielerauswahl wahl{Staerke_->currentIndex() == kMeister,
+                              pc_spielt_->currentIndex() == kZweiSpieler};
+    // The file knows no game of two people: it keeps the computer's side it had.
+    e.PC = wahl.zweiSpieler ? pcVorher_ : static_cast<int16_t>(pc_spielt_->currentIndex());
     e.Staerke = static_cast<int16_t>(std::min(Staerke_->currentIndex(), 2));
     e.Lernmodus = Lernen_->isChecked() ? 1 : 0;
     e.Einzelzug = Einzelzug_->isChecked() ? 1 : 0;
-    if (uebernehmen_) uebernehmen_(e, meister);
+    if (uebernehmen_) uebernehmen_(e, wahl);
     if (!einstellungenSchreiben(ordner_, e)) {
         // The next new game reads the file again, so the settings last only for the game being played.
         meldungZeigen(this, QMessageBox::Warning,
@@ -172,9 +177,10 @@ void EinstDialog::ok_Click() {
                                            ordner_, kEinstellungsdatei));
     }
     if (statusSetzen_) {
-        if (const auto t = pcStatustext(e.PC)) statusSetzen_(Statusfeld::seite, *t);
-        if (const auto t =
-                meister ? std::optional<std::string>(kMeisterStatustext) : staerkeStatustextDialog(e.Staerke))
+        // Two people: the game itself says whose turn it is there.
+        if (const auto t = pcStatustext(e.PC); t && !wahl.zweiSpieler) statusSetzen_(Statusfeld::seite, *t);
+        if (const auto t = wahl.meister ? std::optional<std::string>(kMeisterStatustext)
+                                        : staerkeStatustextDialog(e.Staerke))
             statusSetzen_(Statusfeld::staerke, *t);
     }
     close();

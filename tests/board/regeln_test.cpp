@@ -34,24 +34,24 @@ TEST(Regeln, ZuegeAnDenKanten) {
     std::vector<std::pair<int, int>> ziele;
     for (int x = 0; x <= 6; ++x)
         for (int y = 0; y <= 6; ++y)
-            if (korrekterZug(s.Feld, Computer::fuchs, keine, 3, 3, x, y)) ziele.emplace_back(x, y);
+            if (korrekterZug(s.Feld, Seite::Hennen, keine, 3, 3, x, y)) ziele.emplace_back(x, y);
     EXPECT_EQ(ziele, (std::vector<std::pair<int, int>>{{2, 2}, {2, 3}, {3, 2}, {4, 2}, {4, 3}}));
-    EXPECT_FALSE(korrekterZug(s.Feld, Computer::hennen, keine, 3, 3, 3, 2)); // the computer plays the hens
+    EXPECT_FALSE(korrekterZug(s.Feld, Seite::Fuchs, keine, 3, 3, 3, 2)); // not a piece of the foxes
 
     Stellung t = leeresKreuz();
     t.Feld[3][2] = fuchs; // x + y odd: no diagonals
     t.Feld[4][3] = henne;
     t.Feld[2][2] = henne;
-    EXPECT_FALSE(korrekterZug(t.Feld, Computer::hennen, keine, 3, 2, 5, 4));
-    EXPECT_TRUE(korrekterZug(t.Feld, Computer::hennen, keine, 3, 2, 1, 2));  // straight jump
-    EXPECT_FALSE(korrekterZug(t.Feld, Computer::hennen, keine, 3, 2, 2, 2)); // occupied
-    EXPECT_FALSE(korrekterZug(t.Feld, Computer::fuchs, keine, 3, 2, 1, 2));  // the computer plays the foxes
+    EXPECT_FALSE(korrekterZug(t.Feld, Seite::Fuchs, keine, 3, 2, 5, 4));
+    EXPECT_TRUE(korrekterZug(t.Feld, Seite::Fuchs, keine, 3, 2, 1, 2));   // straight jump
+    EXPECT_FALSE(korrekterZug(t.Feld, Seite::Fuchs, keine, 3, 2, 2, 2));  // occupied
+    EXPECT_FALSE(korrekterZug(t.Feld, Seite::Hennen, keine, 3, 2, 1, 2)); // not a piece of the hens
 
     t.Feld[5][2] = fuchs;
     const Sprungfolge offen{true, 3, 2};
-    EXPECT_FALSE(korrekterZug(t.Feld, Computer::hennen, offen, 3, 2, 3, 1)); // no step after a jump
-    EXPECT_FALSE(korrekterZug(t.Feld, Computer::hennen, offen, 5, 2, 5, 3)); // nor a move of the other fox
-    EXPECT_TRUE(korrekterZug(t.Feld, Computer::hennen, offen, 3, 2, 1, 2));
+    EXPECT_FALSE(korrekterZug(t.Feld, Seite::Fuchs, offen, 3, 2, 3, 1)); // no step after a jump
+    EXPECT_FALSE(korrekterZug(t.Feld, Seite::Fuchs, offen, 5, 2, 5, 3)); // nor a move of the other fox
+    EXPECT_TRUE(korrekterZug(t.Feld, Seite::Fuchs, offen, 3, 2, 1, 2));
 }
 
 } // namespace

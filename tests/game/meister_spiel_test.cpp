@@ -13,12 +13,12 @@ using test::SpielTest;
 // learns like strength 3 and counts as strength 3 in the statistics.
 TEST_F(SpielTest, MeisterGegenMeisterWirdAbgelegtWieStaerkeDrei) {
     ini(2, 2, 1);
-    spiel.Form_Load(3);
+    spiel.programmStart(3);
     Spielerwahl wahl;
     wahl.hennen = wahl.fuchs = Spieler{2, true};
     wahl.bedenkzeit = std::chrono::milliseconds(5);
     spiel.spielerFestlegen(wahl);
-    spiel.Neu_Click();
+    spiel.neuesSpiel();
     ASSERT_TRUE(spiel.endeGefunden());
     EXPECT_LE(spiel.spielzug(), kZugbegrenzung);
     EXPECT_EQ(statistik(0), 1); // finished

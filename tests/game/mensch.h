@@ -22,11 +22,12 @@ struct Aktion {
 inline std::vector<Aktion> moeglicheAktionen(const Spiel& spiel) {
     std::vector<Aktion> liste;
     const Stellung& s = spiel.stellung();
-    const Computer PC = spiel.oeffentlich().einst.computer();
+    if (!spiel.menschAmZug()) return liste;
     for (int k = 0; k < kFiguren; ++k) {
         const int von = s.figurplatz[k];
         for (int t = 0; von != 0 && t < kFelder; ++t)
-            if (korrekterZug(s.Feld, PC, spiel.sprungfolge(), feldX(von), feldY(von), feldX(t), feldY(t)))
+            if (korrekterZug(s.Feld, spiel.amZug(), spiel.sprungfolge(), feldX(von), feldY(von), feldX(t),
+                             feldY(t)))
                 liste.push_back({k, t});
     }
     if (spiel.sprungfolge().imSprung) liste.push_back({0, -1});
@@ -35,9 +36,9 @@ inline std::vector<Aktion> moeglicheAktionen(const Spiel& spiel) {
 
 inline void ausfuehren(Spiel& spiel, Aktion a) {
     if (a.t < 0)
-        spiel.figur_MouseDown(a.k, Maustaste::rechts);
+        spiel.sprungfolgeSchliessen();
     else
-        spiel.platz_DragDrop(a.t, a.k);
+        spiel.abgelegt(a.t, a.k);
 }
 
 // The player's whole move: one action, or a fox's jumps until the sequence is closed. Empty when the

@@ -20,11 +20,11 @@ namespace fs = std::filesystem;
 struct PartieTest : SpielTest {
     Sicherung mitten() {
         ini(1, 2, 1);
-        spiel.Neu_Click();
+        spiel.neuesSpiel();
         Zufall mensch(3);
         for (int i = 0; i < 12 && !spiel.endeGefunden(); ++i) {
             menschZieht(spiel, mensch);
-            spiel.Timer1_Timer();
+            spiel.computerZieht();
             if (i == 4) spiel.zuruecknehmen();
         }
         EXPECT_TRUE(spiel.laeuft());
@@ -90,7 +90,7 @@ TEST_F(PartieTest, WerteAusserhalbWerdenAbgelehnt) {
         {"position code", [](Spielstand& z) { z.partie.sits[0].code[8] = 64 + 7; }},
         {"jump flag", [](Spielstand& z) { z.partie.sits[1].sprung = 2; }},
         {"winner", [](Spielstand& z) { z.oeff.u_is_sieger = "Vielleicht"; }},
-        {"request", [](Spielstand& z) { z.pcZug = static_cast<Anforderung>(3); }},
+        {"request", [](Spielstand& z) { z.amZug = static_cast<Seite>(3); }},
         {"result", [](Spielstand& z) { z.ergebnis = static_cast<Ergebnis>(-1); }},
         {"random source", [](Spielstand& z) { z.zufall = 1u << 24; }},
         {"points text", [](Spielstand& z) { z.punkte = "Punkte: \x1b[2J"; }},

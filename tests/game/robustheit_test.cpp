@@ -28,13 +28,13 @@ TEST_F(SpielTest, BeliebigeDateiinhalteFuehrenNieZumAbsturz) {
         ordner.schreibe("QZ.sta", muell(17));
         ordner.schreibe("QZ3.DAT", muell(15 * 200 + 7));
         ordner.schreibe("QZ2.DAT", muell(4));
-        spiel.Form_Load(3);
-        spiel.Neu_Click();
+        spiel.programmStart(3);
+        spiel.neuesSpiel();
         for (int t = 0; t < kFelder; ++t)
             for (int k = 0; k < kFiguren; ++k)
-                spiel.platz_DragDrop(t, k);
-        spiel.figur_MouseDown(0, Maustaste::rechts);
-        spiel.Timer1_Timer();
+                spiel.abgelegt(t, k);
+        spiel.sprungfolgeSchliessen();
+        spiel.computerZieht();
         EXPECT_LE(spiel.spielzug(), kSituationen);
     }
     // A file that cannot be written is reported in German and the game goes on.
@@ -42,7 +42,7 @@ TEST_F(SpielTest, BeliebigeDateiinhalteFuehrenNieZumAbsturz) {
     std::filesystem::create_directory(ordner / "QZ.sta");
     ini(2, 0, 0, 0);
     ansicht.meldungen.clear();
-    spiel.Neu_Click();
+    spiel.neuesSpiel();
     ASSERT_FALSE(ansicht.meldungen.empty());
     EXPECT_NE(ansicht.meldungen.front().find("QZ.sta"), std::string::npos);
     EXPECT_TRUE(spiel.endeGefunden());
@@ -52,7 +52,7 @@ TEST_F(SpielTest, BeliebigeDateiinhalteFuehrenNieZumAbsturz) {
     std::filesystem::create_directory(ordner / "QZ3.DAT");
     ini(2, 2, 1, 0);
     ansicht.meldungen.clear();
-    spiel.Neu_Click();
+    spiel.neuesSpiel();
     ASSERT_TRUE(spiel.endeGefunden());
     EXPECT_EQ(ansicht.meldungen.back(),
               "Die Dateien „QZ3.DAT“ und „QZ.sta“ konnten nicht gespeichert werden. "

@@ -8,6 +8,7 @@
 #include "game/spiel.h"
 #include "temp_ordner.h"
 #include "test_ansicht.h"
+#include "versetzen.h"
 
 namespace fuh::test {
 
@@ -34,9 +35,10 @@ struct SpielTest : ::testing::Test {
     void ziehe(int von, int nach) {
         const auto k = figur_index(spiel.stellung(), von);
         ASSERT_TRUE(k.has_value()) << "no piece on " << von;
-        spiel.platz_DragDrop(nach, *k);
+        spiel.abgelegt(nach, *k);
     }
     void ziehe(int vx, int vy, int nx, int ny) { ziehe(feldNummer(vx, vy), feldNummer(nx, ny)); }
+    void versetzen(int von, int nach) { ASSERT_TRUE(test::versetzen(spiel, von, nach)) << von; }
     int16_t statistik(int i) {
         const auto b = ordner.lies("QZ.sta");
         return static_cast<int16_t>(b.at(2 * i) | (b.at(2 * i + 1) << 8));

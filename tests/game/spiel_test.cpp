@@ -12,11 +12,11 @@ using test::SpielTest;
 
 TEST_F(SpielTest, EinzelzugmodusFordertKeineAntwort) {
     ini(0, 0, 0, 1);
-    spiel.Form_Load(1);
-    spiel.Neu_Click();
+    spiel.programmStart(1);
+    spiel.neuesSpiel();
     ziehe(24, 17);
-    EXPECT_EQ(spiel.pcZug(), Anforderung::keine);
-    ziehe(22, 15); // another hen of the human's side
+    EXPECT_FALSE(spiel.computerAmZug());
+    ziehe(22, 15); // another hen of the person's side
     EXPECT_EQ(spiel.spielzug(), 2);
 }
 
@@ -25,24 +25,22 @@ TEST_F(SpielTest, EinzelzugmodusFordertKeineAntwort) {
 struct FuchsSpieltTest : SpielTest {
     void SetUp() override {
         ini(1);
-        spiel.Form_Load(1);
-        spiel.Neu_Click();
-        einstellen(2, 1);
-        ziehe(2, 4, 3, 3);
-        einstellen(1, 0);
+        spiel.programmStart(1);
+        spiel.neuesSpiel();
+        versetzen(feldNummer(2, 4), feldNummer(3, 3));
     }
 };
 
 TEST_F(FuchsSpieltTest, NeuNachFangUndStrafeStelltAllesAuf) {
     ziehe(4, 2, 4, 1); // a step although both foxes could jump
-    spiel.Timer1_Timer();
+    spiel.computerZieht();
     ASSERT_EQ(ansicht.meldungen, std::vector<std::string>{kFuchsAusgeschlossen});
     ASSERT_TRUE(figur_index(spiel.stellung(), kParkfeld).has_value());
     ziehe(2, 2, 2, 4); // the remaining fox captures
     ASSERT_EQ(spiel.stellung().Feld[2][3], leer);
 
     // Every piece is back and shown, the captured hens and the parked fox too; then the hens open.
-    spiel.Neu_Click();
+    spiel.neuesSpiel();
     Stellung erwartet;
     erwartet.grundstellung();
     erwartet.Feld[3][3] = leer;
@@ -72,8 +70,8 @@ TEST(Selbstspiel, SchrittweiseGleichtDemSpielInEinemZug) {
             spiel.einstellungenFestlegen({2, 2, 1, 0});
             spiel.schrittweise(schrittweise);
             for (int n = 0; n < 3; ++n) {
-                spiel.Neu_Click();
-                while (spiel.selbstspielZug()) {
+                spiel.neuesSpiel();
+                while (spiel.computerZieht()) {
                 }
             }
         }
@@ -90,11 +88,11 @@ TEST(Selbstspiel, SchrittweiseGleichtDemSpielInEinemZug) {
 TEST_F(SpielTest, AbgebrochenesSelbstspielWirdNichtAbgelegt) {
     ini(2, 2, 1);
     spiel.schrittweise(true);
-    spiel.Form_Load(1);
-    spiel.Neu_Click();
+    spiel.programmStart(1);
+    spiel.neuesSpiel();
     for (int i = 0; i < 10; ++i)
-        ASSERT_TRUE(spiel.selbstspielZug());
-    spiel.Neu_Click();
+        ASSERT_TRUE(spiel.computerZieht());
+    spiel.neuesSpiel();
     EXPECT_FALSE(spiel.selbstspielLaeuft() && spiel.spielzug() != 0);
     EXPECT_EQ(statistik(14), 2); // started twice
     EXPECT_EQ(statistik(0), 0);  // finished never

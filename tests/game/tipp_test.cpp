@@ -19,13 +19,13 @@ TEST(Tipp, FragenAendertNichts) {
         Spiel spiel{ansicht, zufall, ordner.pfad()};
         Lauf() {
             spiel.einstellungenFestlegen({0, 2, 1, 0});
-            spiel.Form_Load(5);
-            spiel.Neu_Click();
+            spiel.programmStart(5);
+            spiel.neuesSpiel();
         }
         void zieh(const Teilzug& z) {
-            spiel.platz_DragDrop(feldNummer(z.nachX, z.nachY),
-                                 *figur_index(spiel.stellung(), feldNummer(z.vonX, z.vonY)));
-            spiel.Timer1_Timer();
+            spiel.abgelegt(feldNummer(z.nachX, z.nachY),
+                           *figur_index(spiel.stellung(), feldNummer(z.vonX, z.vonY)));
+            spiel.computerZieht();
         }
     };
     Lauf fragend, still;
@@ -54,9 +54,9 @@ using test::SpielTest;
 
 TEST_F(SpielTest, TippIstDerZugDesComputers) {
     ini(0);
-    spiel.Form_Load(17);
+    spiel.programmStart(17);
     EXPECT_FALSE(spiel.tippMoeglich());
-    spiel.Neu_Click();
+    spiel.neuesSpiel();
     Zufall gleich{17};
     const Zugwahl erwartet = berechneHennen(spiel.stellung().Feld,
                                             Erinnerung(Lerndatei(ordner.pfad()), 0, spiel.partie()), gleich);
@@ -64,7 +64,7 @@ TEST_F(SpielTest, TippIstDerZugDesComputers) {
     ziehe(3, 3, 3, 2);
     EXPECT_FALSE(spiel.tippMoeglich()); // the fox replies first
     EXPECT_TRUE(spiel.tipp().keinZug());
-    spiel.Timer1_Timer();
+    spiel.computerZieht();
     EXPECT_TRUE(spiel.tippMoeglich());
     einstellen(2, 0);
     EXPECT_FALSE(spiel.tippMoeglich());

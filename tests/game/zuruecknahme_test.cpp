@@ -27,12 +27,12 @@ TEST(Zuruecknahme, StelltDenGanzenStandHerUndDieselbenZuegeFolgen) {
                 Zufall zufall(seed), mensch(seed * 7);
                 Spiel spiel(ansicht, zufall, ordner.pfad());
                 spiel.einstellungenFestlegen({PC, Staerke, 1, 0});
-                spiel.Neu_Click();
+                spiel.neuesSpiel();
                 while (!spiel.endeGefunden()) {
                     const Spielstand vorher = spiel.zustand();
                     const std::vector<Aktion> zug = menschZieht(spiel, mensch);
                     if (zug.empty() || spiel.endeGefunden()) break;
-                    spiel.Timer1_Timer();
+                    spiel.computerZieht();
                     if (spiel.endeGefunden()) break;
                     const Spielstand nachher = spiel.zustand();
                     const auto bytes = dateien(ordner);
@@ -47,7 +47,7 @@ TEST(Zuruecknahme, StelltDenGanzenStandHerUndDieselbenZuegeFolgen) {
 
                     for (const Aktion& a : zug)
                         ausfuehren(spiel, a);
-                    spiel.Timer1_Timer();
+                    spiel.computerZieht();
                     erwartet = nachher;
                     erwartet.zurueckgenommen = true;
                     ASSERT_TRUE(spiel.zustand() == erwartet)
@@ -63,11 +63,33 @@ TEST(Zuruecknahme, StelltDenGanzenStandHerUndDieselbenZuegeFolgen) {
     EXPECT_GT(strafen, 2);
 }
 
+// A chain of two jumps and the computer's reply are one move: taking it back restores the game as it
+// was before the first jump.
+TEST_F(SpielTest, ZuruecknahmeEinerKetteAusZweiSpruengen) {
+    ini(1);
+    spiel.programmStart(1);
+    spiel.neuesSpiel(); // the hens open
+    versetzen(feldNummer(2, 4), feldNummer(0, 2));
+    versetzen(feldNummer(2, 6), feldNummer(1, 2));
+    const Spielstand vorher = spiel.zustand();
+    ziehe(2, 2, 2, 4);
+    ziehe(2, 4, 2, 6);
+    ASSERT_EQ(spiel.stellung().Feld[2][5], leer);
+    ASSERT_TRUE(spiel.sprungfolge().imSprung);
+    spiel.sprungfolgeSchliessen();
+    ASSERT_TRUE(spiel.computerZieht());
+    spiel.zuruecknehmen();
+    Spielstand erwartet = vorher;
+    erwartet.zurueckgenommen = true;
+    EXPECT_TRUE(spiel.zustand() == erwartet);
+    EXPECT_FALSE(spiel.zuruecknehmenMoeglich()); // nothing before it
+}
+
 TEST_F(SpielTest, ZuruecknahmeNurImLaufendenSpielGegenDenComputer) {
-    spiel.Form_Load(0);
+    spiel.programmStart(0);
     EXPECT_FALSE(spiel.zuruecknehmenMoeglich());
     ini(0);
-    spiel.Neu_Click();
+    spiel.neuesSpiel();
     EXPECT_FALSE(spiel.zuruecknehmenMoeglich()); // nothing moved yet
     const Spielstand anfang = spiel.zustand();
     ziehe(3, 3, 3, 2);
@@ -85,22 +107,22 @@ TEST_F(SpielTest, ZuruecknahmeNurImLaufendenSpielGegenDenComputer) {
 
     // The computer against itself: the game is over when "Neu" returns.
     ini(2);
-    spiel.Neu_Click();
+    spiel.neuesSpiel();
     EXPECT_TRUE(spiel.endeGefunden());
     EXPECT_FALSE(spiel.zuruecknehmenMoeglich());
 }
 
 TEST_F(SpielTest, NachDerZuruecknahmeKeineBestenliste) {
     ini(0, 2, 1);
-    spiel.Neu_Click();
+    spiel.neuesSpiel();
     ziehe(3, 3, 3, 2);
-    spiel.Timer1_Timer();
+    spiel.computerZieht();
     spiel.zuruecknehmen();
     EXPECT_EQ(ansicht.panels[4], "Zurückgenommen: keine Bestenliste");
     Zufall mensch(5);
     while (!spiel.endeGefunden()) {
         ASSERT_FALSE(menschZieht(spiel, mensch).empty());
-        if (!spiel.endeGefunden()) spiel.Timer1_Timer();
+        if (!spiel.endeGefunden()) spiel.computerZieht();
     }
     // Filed, counted and learned from as any game, but offered to no list.
     EXPECT_FALSE(spiel.zuruecknehmenMoeglich());
@@ -108,7 +130,7 @@ TEST_F(SpielTest, NachDerZuruecknahmeKeineBestenliste) {
     EXPECT_FALSE(spiel.oeffentlich().sw_spielende);
     EXPECT_EQ(statistikLesen(ordner.pfad()).beendet(), 1);
     EXPECT_FALSE(ordner.lies("QZ3.DAT").empty());
-    spiel.Neu_Click();
+    spiel.neuesSpiel();
     EXPECT_EQ(ansicht.panels[4], "");
 }
 

@@ -119,7 +119,7 @@ TEST(Meister, HennenSchliessenDieLuecke) {
     ASSERT_EQ(w.anzahl, 1);
     Brettfeld danach = Feld;
     const Teilzug z = w.zuege[0];
-    ASSERT_TRUE(korrekterZug(danach, Computer::fuchs, {}, z.vonX, z.vonY, z.nachX, z.nachY));
+    ASSERT_TRUE(korrekterZug(danach, Seite::Hennen, {}, z.vonX, z.vonY, z.nachX, z.nachY));
     ausfuehren(danach, z);
     const auto b = meister::Suchbrett::aus(danach, true);
     EXPECT_FALSE(b.kannSpringen(b.fuchsFeld[0]) || b.kannSpringen(b.fuchsFeld[1]));
@@ -168,17 +168,17 @@ TEST(Meister, KnotengrenzeHaeltDieSucheAn) {
     const Zugwahl w = m.berechne({start.Feld, henne, 0, true, std::chrono::milliseconds{100000}});
     ASSERT_EQ(w.anzahl, 1);
     const Teilzug& z = w.zuege[0];
-    EXPECT_TRUE(korrekterZug(start.Feld, Computer::fuchs, {}, z.vonX, z.vonY, z.nachX, z.nachY));
+    EXPECT_TRUE(korrekterZug(start.Feld, Seite::Hennen, {}, z.vonX, z.vonY, z.nachX, z.nachY));
     EXPECT_LE(m.bericht().knoten, 3000u + 200u);
     EXPECT_GE(m.bericht().tiefe, 1);
 }
 
 // Plays the move as a human would have to: every part must pass the legality test first.
-bool spiele(Brettfeld& Feld, Partie& partie, const Zugwahl& w, Computer PC) {
+bool spiele(Brettfeld& Feld, Partie& partie, const Zugwahl& w, Seite seite) {
     Sprungfolge sprung;
     Teilzug letzter{};
     for (const Teilzug& z : w) {
-        if (!korrekterZug(Feld, PC, sprung, z.vonX, z.vonY, z.nachX, z.nachY)) return false;
+        if (!korrekterZug(Feld, seite, sprung, z.vonX, z.vonY, z.nachX, z.nachY)) return false;
         ausfuehren(Feld, z);
         if (z.sprung()) sprung = {true, z.nachX, z.nachY};
         letzter = z;
@@ -208,11 +208,11 @@ TEST(Meister, GanzePartieNurMitErlaubtenZuegen) {
     while (!ende && partie.spielzug < kZugbegrenzung) {
         if (strafeAusfuehren(s.Feld, partie)) break;
         const Zugwahl h = hennen.berechne({s.Feld, henne, partie.spielzug, true, kViel});
-        ASSERT_TRUE(spiele(s.Feld, partie, h, Computer::fuchs)) << partie.spielzug;
+        ASSERT_TRUE(spiele(s.Feld, partie, h, Seite::Hennen)) << partie.spielzug;
         ende = h.keinZug() || vorbei(s.Feld) || partie.spielzug == kZugbegrenzung;
         if (ende) break;
         const Zugwahl f = fuechse.berechne({s.Feld, fuchs, partie.spielzug, true, kViel});
-        ASSERT_TRUE(spiele(s.Feld, partie, f, Computer::hennen)) << partie.spielzug;
+        ASSERT_TRUE(spiele(s.Feld, partie, f, Seite::Fuchs)) << partie.spielzug;
         ende = f.keinZug() || vorbei(s.Feld);
     }
     EXPECT_LE(partie.spielzug, kZugbegrenzung);

@@ -121,6 +121,32 @@ TEST(Selbstspiel, JedeSeiteMitEigenerStaerke) {
     EXPECT_NE(lauf("--fuchs 1"), gewohnt);
 }
 
+// A side given to a person is the same game as --pc with that side's strength: log and files alike, also
+// through the saved game. Two people play whole games and teach nothing.
+TEST(Selbstspiel, SeitenformGleichtDerPcForm) {
+    auto lauf = [](const std::string& args) {
+        test::TempOrdner ordner;
+        std::ostringstream log;
+        selbstspiel(optionen("--spiele 4 --lernen --protokoll " + args), 31, ordner.pfad(), log);
+        return std::make_pair(log.str(), dateien(ordner.pfad()));
+    };
+    const std::vector<std::pair<std::string, std::string>> gleich = {
+        {"--pc 1 --staerke 3", "--fuchs mensch --hennen 3"},
+        {"--pc 0 --staerke 2", "--hennen mensch --fuchs 2"},
+        {"--pc 1 --staerke 2", "--staerke 2 --fuchs mensch"},
+        {"--pc 0 --staerke 3", "--fuchs 3 --hennen mensch --fortsetzen-pruefen"},
+    };
+    for (const auto& [pc, seiten] : gleich)
+        EXPECT_TRUE(lauf(pc) == lauf(seiten)) << pc << " / " << seiten;
+    EXPECT_FALSE(lauf("--pc 0 --staerke 3") == lauf("--hennen mensch --fuchs 2"));
+
+    const auto [log, dateienZwei] = lauf("--fuchs mensch --hennen mensch --staerke 3");
+    EXPECT_NE(log.find("\nsumme 4 "), std::string::npos);
+    EXPECT_EQ(dateienZwei.count("QZ3.DAT"), 0u);
+    EXPECT_EQ(lauf("--fuchs mensch --hennen mensch --fortsetzen-pruefen").first,
+              lauf("--fuchs mensch --hennen mensch").first);
+}
+
 TEST(Selbstspiel, NullSpieleBeruehrenKeineDatei) {
     test::TempOrdner ordner;
     std::ostringstream log;

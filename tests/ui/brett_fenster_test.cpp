@@ -21,6 +21,7 @@
 #include "ui/hilfe_fenster.h"
 #include "ui/info_win.h"
 #include "ui/stat_form.h"
+#include "versetzen.h"
 
 using namespace fuh;
 using namespace fuh::test;
@@ -35,12 +36,11 @@ std::vector<int> fuchsFelder(const Stellung& s) {
     return f;
 }
 
-// After the computer hens' opening, the hen on (2, 4) is moved by hand to (3, 3) in single-move mode: the
-// fox on (2, 2) can then jump (2, 3) onto (2, 4), and the fox on (4, 2) can jump (3, 3) onto (2, 4) too.
+// After the computer hens' opening, the hen on (2, 4) is put by hand on (3, 3): the fox on (2, 2) can
+// then jump (2, 3) onto (2, 4), and the fox on (4, 2) can jump (3, 3) onto (2, 4) too.
 void sprungVorbereiten(Aufbau& a) {
-    a.spiel().einstellungenUebernehmen({2, 0, 0, 1});
-    a.ziehe(feldNummer(2, 4), feldNummer(3, 3));
-    a.spiel().einstellungenUebernehmen({1, 0, 0, 0});
+    QVERIFY(test::versetzen(a.spiel(), feldNummer(2, 4), feldNummer(3, 3)));
+    QCoreApplication::processEvents(); // the window shows the position it was given
 }
 
 // Visible windows of type W belonging to the main window.
@@ -112,7 +112,7 @@ class BrettFensterTest : public QObject {
         QCOMPARE(abgelegt.at(0).at(1).toInt(), k);
         QCOMPARE(a.spiel().stellung().figurplatz[k], 17);
         QCOMPARE(a.panel(3), QStringLiteral("Punkte: 237"));
-        QVERIFY(a.spiel().pcZug() == Anforderung::fuchs);
+        QVERIFY(a.spiel().computerAmZug() && a.spiel().amZug() == Seite::Fuchs);
         bilderPruefen(a);
         // No stray floating copy survives the drags.
         int sichtbar = 0;
@@ -121,9 +121,9 @@ class BrettFensterTest : public QObject {
         QCOMPARE(sichtbar, kFiguren);
 
         // The fox replies on the next tick; its slide ends on its square.
-        a.fenster->Timer1_Timer();
+        a.fenster->zugTakt();
         QVERIFY(fuchsFelder(a.spiel().stellung()) != fuechse);
-        QVERIFY(a.spiel().pcZug() == Anforderung::keine);
+        QVERIFY(!a.spiel().computerAmZug());
         QVERIFY(!a.hinweisSichtbar("f_zug"));
         bilderPruefen(a);
     }
@@ -148,17 +148,17 @@ class BrettFensterTest : public QObject {
         bilderPruefen(a);                            // the captured hen's image is gone
         a.ziehe(feldNummer(4, 2), feldNummer(4, 1)); // the other fox may not move now
         QCOMPARE(a.spiel().stellung().Feld[4][2], fuchs);
-        a.fenster->Timer1_Timer(); // the hens wait until the sequence is closed
+        a.fenster->zugTakt(); // the hens wait until the sequence is closed
         QVERIFY(a.spiel().sprungfolge().imSprung);
 
         QTest::mouseClick(a.brett(), Qt::RightButton, Qt::NoModifier, a.mitte(nach));
         QVERIFY(!a.spiel().sprungfolge().imSprung);
         QVERIFY(!a.hinweisSichtbar("spr_msg"));
-        QVERIFY(a.spiel().pcZug() == Anforderung::hennen);
+        QVERIFY(a.spiel().computerAmZug() && a.spiel().amZug() == Seite::Hennen);
         QCOMPARE(a.spiel().stellung().figurplatz[fuchsK], nach);
 
         const Stellung vorher = a.spiel().stellung();
-        a.fenster->Timer1_Timer();
+        a.fenster->zugTakt();
         QVERIFY(!(a.spiel().stellung() == vorher));
         QVERIFY(antworter.texte.empty());
     }
@@ -168,7 +168,7 @@ class BrettFensterTest : public QObject {
         a.aktion("Neu");
         sprungVorbereiten(a);
         a.ziehe(feldNummer(4, 2), feldNummer(4, 1)); // a step although both foxes could jump
-        QVERIFY(a.spiel().pcZug() == Anforderung::hennen);
+        QVERIFY(a.spiel().computerAmZug() && a.spiel().amZug() == Seite::Hennen);
         // Answered the way a quick player would: as soon as the box is up.
         QString text;
         QTimer::singleShot(0, [&text] {
@@ -177,7 +177,7 @@ class BrettFensterTest : public QObject {
                 box->accept();
             }
         });
-        a.fenster->Timer1_Timer();
+        a.fenster->zugTakt();
         QVERIFY2(text.startsWith(QStringLiteral("Der Fuchs hätte springen können.")), qPrintable(text));
         const auto geparkt = figur_index(a.spiel().stellung(), kParkfeld);
         QVERIFY(geparkt && *geparkt < 2);
@@ -197,14 +197,14 @@ class BrettFensterTest : public QObject {
         QCOMPARE(felder.size(), size_t{2});
         const Stellung& s = a.spiel().stellung();
         QCOMPARE(s.Feld[feldX(felder[0])][feldY(felder[0])], henne);
-        QVERIFY(korrekterZug(s.Feld, Computer::fuchs, {}, feldX(felder[0]), feldY(felder[0]),
-                             feldX(felder[1]), feldY(felder[1])));
+        QVERIFY(korrekterZug(s.Feld, Seite::Hennen, {}, feldX(felder[0]), feldY(felder[0]), feldX(felder[1]),
+                             feldY(felder[1])));
         QVERIFY(s == vorher && a.spiel().spielzug() == 0);
 
         a.ziehe(felder[0], felder[1]);
         QVERIFY(a.brett()->tipp().empty());
         QVERIFY(!tipp->isEnabled()); // the fox replies first
-        a.fenster->Timer1_Timer();
+        a.fenster->zugTakt();
         QVERIFY(tipp->isEnabled());
     }
 
@@ -212,18 +212,18 @@ class BrettFensterTest : public QObject {
     // chosen after a restart.
     void meisterSpieltUndBleibt() {
         Aufbau a({{0, 2, 0, 0}});
-        a.fenster->meisterSetzen(true);
+        a.fenster->spielerSetzen({true, false});
         a.aktion("Neu");
         QCOMPARE(a.panel(2), QStringLiteral("Meister"));
         QVERIFY(a.spiel().spielerwahl().fuchs && a.spiel().spielerwahl().fuchs->meister);
         const Stellung start = a.spiel().stellung();
         a.ziehe(feldNummer(3, 3), feldNummer(3, 2));
-        a.fenster->Timer1_Timer();
+        a.fenster->zugTakt();
         QCOMPARE(a.spiel().spielzug(), 2); // the Meister's fox replied
         a.starten();
-        QVERIFY(a.fenster->meister());
+        QVERIFY(a.fenster->spielerauswahl().meister);
         QCOMPARE(a.panel(2), QStringLiteral("Meister"));
-        a.fenster->meisterSetzen(false);
+        a.fenster->spielerSetzen({false, false});
         a.aktion("Neu");
         QCOMPARE(a.panel(2), QStringLiteral("Spielstärke 3"));
         QVERIFY(a.spiel().stellung() == start);

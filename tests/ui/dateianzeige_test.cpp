@@ -195,8 +195,8 @@ class DateianzeigeTest : public QObject {
         std::filesystem::create_directories(ordner);
         {
             BrettFenster fenster(ordner, 36000);
-            fenster.timer1().stop();
-            fenster.spiel().Neu_Click(); // counts the game in the statistics file
+            fenster.takt().stop();
+            fenster.spiel().neuesSpiel(); // counts the game in the statistics file
         }
         QCOMPARE(basis.namen(), std::vector<std::string>{"a\xff"});
         QVERIFY(std::filesystem::is_regular_file(ordner / "QZ.sta"));

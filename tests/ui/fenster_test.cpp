@@ -89,14 +89,14 @@ class FensterTest : public QObject {
         Einst(const std::filesystem::path& ordner, Einstellungen e = {}, bool mitMeister = false) {
             spiel.einst = e;
             d = new EinstDialog(
-                spiel.einst, mitMeister, ordner,
+                spiel.einst, Spielerauswahl{mitMeister, false}, ordner,
                 [this](Statusfeld feld, const std::string& t) {
                     status.append({static_cast<int>(feld), QString::fromStdString(t)});
                 },
-                [this](const Einstellungen& neu, bool m) {
+                [this](const Einstellungen& neu, const Spielerauswahl& wahl) {
                     ++uebernommen;
                     spiel.einst = neu;
-                    meister = m;
+                    meister = wahl.meister;
                 });
             d->show();
         }

@@ -30,7 +30,7 @@ class FortsetzenTest : public QObject {
         const Stellung anfang = a.spiel().stellung();
         QVERIFY(!zurueck->isEnabled());
         a.ziehe(24, 17);
-        a.fenster->Timer1_Timer(); // the fox replies
+        a.fenster->zugTakt(); // the fox replies
         QVERIFY(zurueck->isEnabled());
         zurueck->trigger();
         QVERIFY(a.spiel().stellung() == anfang);
@@ -49,7 +49,7 @@ class FortsetzenTest : public QObject {
         a.fenster->fortsetzenAnbieten(datei); // nothing saved: no question
         a.aktion("Neu");
         a.ziehe(24, 17);
-        a.fenster->Timer1_Timer();
+        a.fenster->zugTakt();
         const Sicherung vorher = a.spiel().sicherung();
 
         a.starten(); // the window closes with the game running

@@ -15,6 +15,7 @@
 #include "fenster_aufbau.h"
 #include "fremde_sperre.h"
 #include "memory/dateizugriff.h"
+#include "versetzen.h"
 
 using namespace fuh;
 using namespace fuh::test;
@@ -60,15 +61,11 @@ class SpielendeFensterTest : public QObject {
         auto ziehe = [&](int vx, int vy, int nx, int ny) {
             const auto k = figur_index(s.stellung(), feldNummer(vx, vy));
             QVERIFY(k.has_value());
-            s.platz_DragDrop(feldNummer(nx, ny), *k);
+            s.abgelegt(feldNummer(nx, ny), *k);
         };
-        // The foxes step aside; nine hens walk into the target area, all but the last step.
-        s.einstellungenUebernehmen({2, 1, 1, 1});
-        ziehe(2, 2, 1, 2);
-        ziehe(1, 2, 0, 2);
-        ziehe(4, 2, 5, 2);
-        ziehe(5, 2, 6, 2);
-        s.einstellungenUebernehmen({0, 1, 1, 1});
+        // The foxes are put aside; nine hens walk into the target area, all but the last step.
+        QVERIFY(test::versetzen(s, feldNummer(2, 2), feldNummer(0, 2)));
+        QVERIFY(test::versetzen(s, feldNummer(4, 2), feldNummer(6, 2)));
         for (int x : {2, 3, 4})
             for (int start = 3; start <= 5; ++start)
                 for (int y = start; y > start - 3; --y)

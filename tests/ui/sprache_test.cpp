@@ -121,7 +121,7 @@ class SpracheTest : public QObject {
         // A message of the game, and the fox's reply with its prompt, in English.
         test::Antworter antworter;
         a.fenster->meldung(kHennenGewinnen);
-        a.fenster->Timer1_Timer();
+        a.fenster->zugTakt();
         QTRY_COMPARE(antworter.texte.size(), std::size_t{1});
         QCOMPARE(antworter.texte[0], QStringLiteral("The hens have won!"));
 

@@ -153,6 +153,22 @@ class TastaturTest : public QObject {
         bilderPruefen(a);
     }
 
+    // One move by keys as the hint (Ctrl+T) shows it; a chain of jumps is closed with Shift+F10.
+    void zugNachTipp(Aufbau& a, int& geschlossen) {
+        QTest::keyClick(a.fenster.get(), Qt::Key_T, Qt::ControlModifier);
+        const std::vector<int> tipp = a.brett()->tipp();
+        QVERIFY2(!tipp.empty(), "no hint while a person is to move");
+        for (int feld : tipp) {
+            fahren(a, feld);
+            taste(a, Qt::Key_Return);
+        }
+        if (a.spiel().sprungfolge().imSprung) {
+            QTest::keyClick(a.brett(), Qt::Key_F10, Qt::ShiftModifier);
+            QVERIFY(!a.spiel().sprungfolge().imSprung);
+            ++geschlossen;
+        }
+    }
+
     void ganzePartieOhneMaus() {
         Aufbau a({{1, 0, 0, 0}}); // the player has the foxes, so chains of jumps must be closed
         Antworter antworter;
@@ -162,24 +178,10 @@ class TastaturTest : public QObject {
         QVERIFY(a.spiel().ziehbar());
         int geschlossen = 0;
         for (int zug = 0; zug < 400 && !a.spiel().endeGefunden(); ++zug) {
-            // The player follows the hint, shown on the board by Ctrl+T.
-            QTest::keyClick(a.fenster.get(), Qt::Key_T, Qt::ControlModifier);
-            const std::vector<int> tipp = a.brett()->tipp();
-            QVERIFY2(!tipp.empty(), "no hint while the player is to move");
-            fahren(a, tipp.front());
-            taste(a, Qt::Key_Return);
-            for (size_t i = 1; i < tipp.size(); ++i) {
-                fahren(a, tipp[i]);
-                taste(a, Qt::Key_Return);
-            }
-            if (a.spiel().sprungfolge().imSprung) {
-                QTest::keyClick(a.brett(), Qt::Key_F10, Qt::ShiftModifier);
-                QVERIFY(!a.spiel().sprungfolge().imSprung);
-                ++geschlossen;
-            }
-            QVERIFY(a.spiel().pcZug() != Anforderung::keine || a.spiel().endeGefunden());
-            a.fenster->Timer1_Timer();
+            zugNachTipp(a, geschlossen);
             if (QTest::currentTestFailed()) return;
+            QVERIFY(a.spiel().computerAmZug() || a.spiel().endeGefunden());
+            a.fenster->zugTakt();
         }
         QVERIFY(a.spiel().endeGefunden());
         QVERIFY(geschlossen > 0);
@@ -189,6 +191,30 @@ class TastaturTest : public QObject {
         // The hints and the end were said to a screen reader as well.
         QTRY_VERIFY(ansagen(gesagt).contains(antworter.texte.front()));
         QVERIFY(ansagen(gesagt).contains(QStringLiteral("Tipp: Fuchs ")));
+    }
+
+    // Two people at one board, both by keys: the sides alternate, the status bar says whose turn it is,
+    // the turn tick never moves for them, and the end opens no high-score list.
+    void zweiSpielerOhneMaus() {
+        Aufbau a({{0, 0, 0, 0}});
+        Antworter antworter;
+        a.fenster->spielerSetzen({false, true});
+        aktivieren(a);
+        QTest::keyClick(a.fenster.get(), Qt::Key_N, Qt::ControlModifier);
+        int geschlossen = 0, zuege = 0;
+        for (; zuege < 400 && !a.spiel().endeGefunden(); ++zuege) {
+            const Seite seite = a.spiel().amZug();
+            QCOMPARE(a.panel(1), seite == Seite::Fuchs ? QStringLiteral("Zwei Spieler: Füchse am Zug")
+                                                       : QStringLiteral("Zwei Spieler: Hennen am Zug"));
+            zugNachTipp(a, geschlossen);
+            if (QTest::currentTestFailed()) return;
+            a.fenster->zugTakt();
+            QVERIFY(a.spiel().endeGefunden() || a.spiel().amZug() == gegner(seite));
+        }
+        QVERIFY(a.spiel().endeGefunden());
+        QVERIFY(zuege > 20);
+        QTRY_VERIFY(!antworter.texte.empty());
+        QVERIFY(!a.fenster->findChild<HighscoreFenster*>());
     }
 
     void computerzugWirdAngesagt() {
@@ -201,7 +227,7 @@ class TastaturTest : public QObject {
         taste(a, Qt::Key_Up);
         taste(a, Qt::Key_Return);
         QSignalSpy gesagt(a.fenster->findChild<Ansage*>(), &Ansage::angesagt);
-        a.fenster->Timer1_Timer();
+        a.fenster->zugTakt();
         // The fox that moved, by where it stood and where it stands now.
         QString von, nach;
         for (int s = 0; s < kFelder; ++s) {

@@ -44,7 +44,7 @@ class WiedergabeTest : public QObject {
         Aufbau a(std::nullopt, Tempo::normal);
         a.aktion("Neu");
         a.ziehe(24, 17);
-        QVERIFY(a.spiel().pcZug() == Anforderung::fuchs);
+        QVERIFY(a.spiel().computerAmZug() && a.spiel().amZug() == Seite::Fuchs);
 
         // Halfway through the fox's slide the player tries to move a hen and to start a game.
         std::vector<Schritt> schritte;
@@ -60,9 +60,9 @@ class WiedergabeTest : public QObject {
             hinweisDa = a.hinweisSichtbar("f_zug");
             schonMarkiert = a.brett()->markierung().has_value();
         });
-        a.fenster->Timer1_Timer();
+        a.fenster->zugTakt();
         // The game has moved; the screen has only begun to show it.
-        QVERIFY(a.spiel().pcZug() == Anforderung::keine);
+        QVERIFY(!a.spiel().computerAmZug());
         QVERIFY(schritte.size() < 100);
         QVERIFY(a.fenster->beschaeftigt());
         QTRY_VERIFY(!a.fenster->beschaeftigt());
@@ -135,7 +135,7 @@ class WiedergabeTest : public QObject {
         QCOMPARE(schritte, gezeigt);
         a.ziehe(24, 17);
         QCOMPARE(a.spiel().stellung().Feld[3][2], henne);
-        QVERIFY(a.spiel().pcZug() == Anforderung::fuchs);
+        QVERIFY(a.spiel().computerAmZug() && a.spiel().amZug() == Seite::Fuchs);
     }
 
     void brettWaechstMitDemFenster() {
@@ -165,7 +165,7 @@ class WiedergabeTest : public QObject {
         a.fenster->resize(klein + QSize(600, 200));
         QTRY_COMPARE(a.brett()->brettRechteck(), QRect(200, 0, 600, 600));
         bilderPruefen(a);
-        a.fenster->Timer1_Timer();
+        a.fenster->zugTakt();
         const int f = a.spiel().stellung().figurplatz[0];
         a.ziehe(a.mitte(17), a.mitte(f)); // a drop onto a fox's new place is refused
         QCOMPARE(a.spiel().stellung().figurplatz[k], 17);
@@ -204,11 +204,10 @@ class WiedergabeTest : public QObject {
     }
 
     void zugbegrenzungSagtRemis() {
-        // Single-move mode with the player moving both sides: one fox steps back and forth.
-        Aufbau a({{0, 0, 0, 1}});
+        // Single-move mode with the player's foxes after the hens' opening: one fox steps back and forth.
+        Aufbau a({{1, 0, 0, 1}});
         Antworter antworter;
         a.aktion("Neu");
-        a.spiel().einstellungenUebernehmen({2, 0, 0, 1});
         for (int i = 0; i < 200 && a.spiel().ziehbar(); ++i)
             a.ziehe(i % 2 == 0 ? 16 : 9, i % 2 == 0 ? 9 : 16);
         QCOMPARE(a.spiel().spielzug(), kZugbegrenzung);

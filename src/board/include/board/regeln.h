@@ -23,15 +23,15 @@ constexpr bool korrekt(int x, int y, int a, int b) {
 // which then matches none of these.
 enum class Computer : int16_t { fuchs = 0, hennen = 1, beide = 2 };
 
-// A human fox's open jump sequence: after a jump only that fox may jump on, until the right button.
+// A person's fox's open jump sequence: after a jump only that fox may jump on, until the right button.
 struct Sprungfolge {
     bool imSprung = false;
     int16_t sprungX = 0, sprungY = 0;
     friend bool operator==(const Sprungfolge&, const Sprungfolge&) = default;
 };
 
-// True when the human may move the piece on (x, y) to (x1, y1) now. `PC` is the side the computer plays.
-bool korrekterZug(const Brettfeld& Feld, Computer PC, const Sprungfolge& sprung, int x, int y, int x1,
+// True when a person playing `seite` may move the piece on (x, y) to (x1, y1) now.
+bool korrekterZug(const Brettfeld& Feld, Seite seite, const Sprungfolge& sprung, int x, int y, int x1,
                   int y1);
 
 } // namespace fuh

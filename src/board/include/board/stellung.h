@@ -18,6 +18,12 @@ inline constexpr int16_t leer = 1;
 inline constexpr int16_t henne = 2;
 inline constexpr int16_t fuchs = 3;
 
+// The two sides of the game. The hens begin.
+enum class Seite : int16_t { Fuchs, Hennen };
+constexpr Seite gegner(Seite s) {
+    return s == Seite::Fuchs ? Seite::Hennen : Seite::Fuchs;
+}
+
 inline constexpr int kFiguren = 22; // 0 and 1 foxes, 2..21 hens
 inline constexpr int kFelder = 49;  // 7 x 7 squares, each with a drop target
 inline constexpr int kParkfeld = 0; // where a penalised fox waits, off the cross

@@ -14,8 +14,6 @@
 
 namespace fuh {
 
-enum class Seite { Fuchs, Hennen };
-
 inline constexpr int kListenzeilen = 10; // rows of a list; as a row index: none
 inline constexpr int kNamenlaenge = 15;  // bytes of a name in the file
 

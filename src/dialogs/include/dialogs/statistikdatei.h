@@ -45,5 +45,7 @@ bool statistik(const std::filesystem::path& ordner, int ergebnis, const Einstell
 
 // Counts a started game. False when the file cannot be written.
 bool spielGestartet(const std::filesystem::path& ordner);
+// Counts a finished game of two people: no win or learning counter fits it.
+bool zweiSpielerBeendet(const std::filesystem::path& ordner);
 
 } // namespace fuh

@@ -19,6 +19,10 @@ std::optional<std::string> staerkeStatustext(int Staerke);
 // Panel 2 as the settings dialog writes it on confirmation ("SPielstärke 3" for strength 3).
 std::optional<std::string> staerkeStatustextDialog(int Staerke);
 
+// Panel 1 while two people play each other: whose turn it is.
+inline constexpr const char* kZweiSpielerFuchsAmZug = FUH_TR_NOOP("Kern", "Zwei Spieler: Füchse am Zug");
+inline constexpr const char* kZweiSpielerHennenAmZug = FUH_TR_NOOP("Kern", "Zwei Spieler: Hennen am Zug");
+
 // Panel 2 while the Meister plays; short enough for the narrowest window.
 inline constexpr const char* kMeisterStatustext = FUH_TR_NOOP("Kern", "Meister");
 

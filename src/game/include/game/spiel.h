@@ -38,32 +38,47 @@ class Spiel {
     ~Spiel();
 
     // Events of the main window.
-    void Form_Load(uint32_t sekundenSeitMitternacht); // initialise, seed the random source, lock pieces
-    void Neu_Click();
-    void start_Click() { Neu_Click(); }
-    void platz_DragDrop(int t, int k); // piece k dropped on the target of square t
-    void figur_MouseDown(int k, Maustaste button);
-    void Timer1_Timer();
+    void programmStart(uint32_t sekundenSeitMitternacht); // initialise, seed the random source, lock pieces
+    void neuesSpiel();
+    // A person dropped piece k on square t: taken only when a person plays the side to move and the move
+    // is legal, otherwise ignored.
+    void abgelegt(int t, int k);
+    // A person ends the fox's open chain of jumps (the right mouse button); the hens move next.
+    void sprungfolgeSchliessen();
+    // The computer makes the move of the side to move when it plays that side; true when it moved.
+    bool computerZieht();
 
-    // Computer against computer. By default "Neu" plays the whole game at once. A window that shows
-    // the moves one by one sets `schrittweise` and then calls selbstspielZug() for each computer move
-    // until it returns false (the game ended); the moves, random draws and files are the same.
-    // A new game abandons a game still running this way.
+    // Who plays: a side is played by a person or by the computer (a settings file with an unknown value
+    // leaves both sides to nobody, and the game waits).
+    bool menschSpielt(Seite s) const;
+    bool computerSpielt(Seite s) const;
+    Seite amZug() const { return z_.amZug; }
+    // Is a person to move now: the one question every input asks before it reaches the game.
+    bool menschAmZug() const { return laeuft() && menschSpielt(z_.amZug); }
+    bool computerAmZug() const { return laeuft() && computerSpielt(z_.amZug); }
+    // The side one person plays against the computer; none in a game of two people or of the computer alone.
+    std::optional<Seite> menschenseite() const;
+
+    // Computer against computer. By default a new game is played through at once. A window that shows
+    // the moves one by one sets `schrittweise` and then calls computerZieht() for each move; the moves,
+    // random draws and files are the same. A new game abandons a game still running this way.
     void schrittweise(bool ja) { schrittweise_ = ja; }
-    bool selbstspielZug();
-    bool selbstspielLaeuft() const { return z_.selbstspielLaeuft; }
-    bool selbstspielHennenAmZug() const { return z_.hennenAmZug; }
+    bool selbstspielLaeuft() const {
+        return laeuft() && computerSpielt(Seite::Fuchs) && computerSpielt(Seite::Hennen);
+    }
 
-    // The move the computer would make now for the human's side, without making it; its own random
+    // The move the computer would make now for the person to move, without making it; its own random
     // source, so asking never changes the game. Empty when there is nothing to advise (see tippMoeglich).
     Zugwahl tipp();
     bool tippMoeglich() const;
 
-    // The settings dialog confirmed: the settings take effect at once (no new game).
+    // The settings dialog confirmed: the settings take effect at once (no new game); when the computer
+    // now plays the side to move, it moves at its next turn.
     void einstellungenUebernehmen(const Einstellungen& e);
     // Headless drivers play with fixed settings: the settings file is then neither read nor written.
     void einstellungenFestlegen(const Einstellungen& e);
-    // Each computer side may play at its own strength; files and statistics follow the settings.
+    // Each computer side may play at its own strength, or two people play; files and statistics follow
+    // the settings. Takes effect at once, like the settings.
     void spielerFestlegen(const Spielerwahl& w);
     const Spielerwahl& spielerwahl() const { return spielerwahl_; }
 
@@ -76,7 +91,6 @@ class Spiel {
     Oeffentlich& oeffentlich() { return z_.oeff; }
     const Oeffentlich& oeffentlich() const { return z_.oeff; }
     const std::filesystem::path& ordner() const { return ordner_; }
-    Anforderung pcZug() const { return z_.pcZug; }
     Ergebnis ergebnis() const { return z_.ergebnis; }
     int16_t spielzug() const { return z_.partie.spielzug; }
     const Partie& partie() const { return z_.partie; }
@@ -85,9 +99,9 @@ class Spiel {
     bool endeGefunden() const { return z_.endeGefunden; }
     Ergebnis letztesErgebnis() const { return z_.letztesErgebnis; }
 
-    // Taking the player's last move back, with the computer's reply: the game is then exactly as it was
-    // before that move, random sources included. Only while the player plays against the computer and
-    // the game runs; nothing is written to any file.
+    // Taking a person's last move back, with the computer's reply: the game is then exactly as it was
+    // before that move, random sources included. Only while a person plays and the game runs; nothing is
+    // written to any file.
     bool zuruecknehmenMoeglich() const;
     void zuruecknehmen();
 
@@ -110,8 +124,12 @@ class Spiel {
     void spielBeginnen();
 
     // The turn driver: a computer side chooses, the game carries the choice out.
-    bool hennenZiehen();  // the computer hens' move and its end-of-move check; true at an end
-    bool fuechseZiehen(); // the same for the computer foxes
+    void hennenZiehen();  // the computer hens' move and its end-of-move check
+    void fuechseZiehen(); // the same for the computer foxes
+    // The turn passes after a completed move; in single-move mode the computer does not answer a person.
+    void zugBeendet(Seite seite);
+    void amZugSetzen(Seite seite);
+    void spielerGewechselt(); // the settings or the players changed during a game
     void strafeAnwenden(const Strafe& strafe);
     Zugwahl hennenWahl(const Erinnerung& erinnerung, Zufall& zufall, Meister* meister);
     Zugwahl fuchsWahl(const Erinnerung& erinnerung, Zufall& zufall, Meister* meister);
@@ -128,6 +146,7 @@ class Spiel {
     void spielende(int16_t figur);
     std::optional<int16_t> punkte();
     void beende();
+    std::vector<std::string> ablegen(); // writes the finished game's files; returns those that failed
     // One message names every file that could not be saved at this moment.
     void meldeSchreibfehler(const std::vector<std::string>& dateien);
     // The data folder's lock for a task of several writes, so that it waits for another program once at
@@ -144,6 +163,9 @@ class Spiel {
     std::optional<Einstellungen> festeEinstellungen_;
     Spielerwahl spielerwahl_;
     std::unique_ptr<Meister> meisterHennen_, meisterFuchs_, meisterTipp_;
+    const std::optional<Spieler>& spieler(Seite s) const {
+        return s == Seite::Fuchs ? spielerwahl_.fuchs : spielerwahl_.hennen;
+    }
     bool schrittweise_ = false;
 };
 

@@ -3,7 +3,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #pragma once
-// Who plays each computer side. Without a choice a side plays at the strength of the settings.
+// Who plays each side. The settings say which side the computer plays; here a computer side may get its
+// own strength (without one it plays at the strength of the settings), or two people share the board.
 #include <chrono>
 #include <cstdint>
 #include <optional>
@@ -17,6 +18,7 @@ struct Spieler {
 
 struct Spielerwahl {
     std::optional<Spieler> fuchs, hennen;
+    bool zweiSpieler = false;                  // two people play each other; the computer plays neither side
     std::chrono::milliseconds bedenkzeit{400}; // the Meister's time per move
     uint32_t meisterSeed = 1;                  // its own random source, for ties only
 };

@@ -18,26 +18,21 @@
 
 namespace fuh {
 
-// The computer move the timer is to make next (pcZug).
-enum class Anforderung : int16_t { keine = 0, hennen = 1, fuchs = 2 };
-
 // How the game ended (ergebnis); `offen` while it runs.
 enum class Ergebnis : int16_t { offen = 0, hennen = 1, fuchs = 2, remis = 3 };
 
 struct Spielstand {
     Stellung stellung;
     Teilzug zugregister;     // vonX, vonY, nachX, nachY: the move being made
-    Sprungfolge sprungfolge; // a human fox's open jump sequence
+    Sprungfolge sprungfolge; // a person's fox's open jump sequence
     Figurbilder bilder;
     Partie partie;
     Oeffentlich oeff;
-    Anforderung pcZug = Anforderung::keine;
+    Seite amZug = Seite::Hennen; // the side to move
     Ergebnis ergebnis = Ergebnis::offen;
     int16_t neueZuege = 0;
     bool endeGefunden = false; // an end was announced in the current game
     Ergebnis letztesErgebnis = Ergebnis::offen;
-    bool selbstspielLaeuft = false;
-    bool hennenAmZug = true;
     uint32_t zufall = 0;          // the game's random source
     uint32_t tippZufall = 0;      // the hint's own one
     std::string punkte;           // the points panel as last shown

@@ -21,11 +21,11 @@ struct Zugumgebung {
     Figurbilder& bilder;
     Ansicht& ansicht;
     Partie& partie;
+    bool menschFuchs, menschHennen; // a person's pieces snap into place, the computer's slide
 };
 
 // Executes the move in the move register. `normal` false: a penalty move, without jump handling.
-// `PC` decides which side's pieces slide (the computer's) and which snap (the human's).
-void zug(Zugumgebung& u, Computer PC, bool normal);
+void zug(Zugumgebung& u, bool normal);
 
 // One slide in 100 equal steps, each reported to the view; ends where the rounding puts it.
 void gleiten(Figurbilder& bilder, Ansicht& ansicht, int k, int zielLeft, int zielTop);

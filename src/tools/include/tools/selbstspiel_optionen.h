@@ -8,6 +8,7 @@
 #include <cstdint>
 #include <optional>
 
+#include "dialogs/oeffentlich.h"
 #include "game/spielerwahl.h"
 #include "tools/befehlszeile.h"
 
@@ -22,7 +23,15 @@ struct Optionen {
     bool protokoll = false;
     bool fortsetzenPruefen = false; // save the game to a file and go on from it before every move
     Spielerwahl spieler;            // --fuchs, --hennen, --bedenkzeit: each side at its own strength
+    bool menschFuchs = false, menschHennen = false; // --fuchs mensch, --hennen mensch: a random person
 };
+
+// The settings and players a run plays with: a side given to a person makes the other the computer's,
+// exactly as --pc would, and at the strength given for it.
+Einstellungen einstellungen(const Optionen& o);
+Spielerwahl spielerwahl(const Optionen& o);
+// The computer plays both sides: a new game is played through without a person.
+bool computerAllein(const Optionen& o);
 
 // --bedenkzeit: the Meister's time per move, for every program that lets it play.
 Option bedenkzeitOption(std::chrono::milliseconds& ziel);

@@ -20,6 +20,7 @@
 #include "dialogs/bestenliste.h"
 #include "game/ansicht.h"
 #include "ui/beschriftung.h"
+#include "ui/einst_dialog.h"
 #include "ui/sprache.h"
 #include "ui/wiedergabe.h"
 
@@ -58,7 +59,7 @@ class BrettFenster : public QMainWindow, public Ansicht {
 
     Spiel& spiel() { return *spiel_; }
     BrettFlaeche* brett() const { return brett_; }
-    QTimer& timer1() { return timer1_; }
+    QTimer& takt() { return takt_; }
     QLabel* panel(int nummer) const { return panels_.at(static_cast<size_t>(nummer - 1)); }
 
     // How fast computer moves are shown; the choice is kept in the user's settings.
@@ -70,8 +71,8 @@ class BrettFenster : public QMainWindow, public Ansicht {
 
     // The Meister plays the computer's sides; the choice is kept in the user's settings, while QZ.INI
     // holds strength 3 for it.
-    bool meister() const { return meister_; }
-    void meisterSetzen(bool meister);
+    const Spielerauswahl& spielerauswahl() const { return auswahl_; }
+    void spielerSetzen(const Spielerauswahl& auswahl);
     // Spiel -> Tipp: the move the computer would make for the player, marked on the board for a while.
     void tippZeigen();
     // Spiel -> Zug zurücknehmen: the player's last move and the computer's reply to it.
@@ -95,13 +96,13 @@ class BrettFenster : public QMainWindow, public Ansicht {
     void wartetAufDateien(bool fertig) override;
 
   public slots:
-    void Timer1_Timer();
+    void zugTakt();
 
   protected:
     void changeEvent(QEvent* e) override;
 
   private:
-    void meisterAnwenden();
+    void spielerAnwenden();
     void partieSichern();
     // Commands and their pacing.
     void neu();
@@ -138,14 +139,12 @@ class BrettFenster : public QMainWindow, public Ansicht {
     std::array<QLabel*, 4> panels_{};
     std::array<QString, 4> panelTexte_{}; // as the game wrote them, in German
     Beschriftung texte_{staticMetaObject};
-    QTimer timer1_;
+    QTimer takt_;
     Wiedergabe wiedergabe_;
     QTimer naechsterZug_; // the rest between two moves of a game the computer plays itself
     bool selbstspielSchleife_ = false;
-    bool zuletztGeglitten_ = false; // the last piece image moved was a computer piece's slide
-    bool wartetAufDateien_ = false; // the game waits for the data folder's lock
-    std::optional<Einstellungen> wartendeEinstellungen_; // confirmed while the computer plays itself
-    std::optional<bool> wartenderMeister_;
+    bool zuletztGeglitten_ = false;         // the last piece image moved was a computer piece's slide
+    bool wartetAufDateien_ = false;         // the game waits for the data folder's lock
     std::vector<QAction*> wartendeBefehle_; // disabled while busy
     std::array<QAction*, 3> tempoAktionen_{};
     QActionGroup* sprachen_ = nullptr; // Deutsch and English in Spiel -> Sprache
@@ -153,7 +152,7 @@ class BrettFenster : public QMainWindow, public Ansicht {
     QAction* zurueckAktion_ = nullptr;
     std::filesystem::path partieDatei_; // empty: a running game is not kept
     QTimer tippUhr_;                    // how long a hint stays on the board
-    bool meister_ = false;
+    Spielerauswahl auswahl_;            // kept in fenster.conf
     uint32_t startzeit_ = 0;
     QPointer<EinstDialog> einst_;
     QPointer<StatForm> stat_;

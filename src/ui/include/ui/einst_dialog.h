@@ -20,16 +20,23 @@ class QPushButton;
 
 namespace fuh {
 
+// What the window keeps beyond the settings file: the Meister as the fourth strength, and two people
+// at the board ("niemand (zwei Spieler)"), which leaves the file's side of the computer as it was.
+struct Spielerauswahl {
+    bool meister = false;
+    bool zweiSpieler = false;
+};
+
 class EinstDialog : public QDialog {
     Q_OBJECT
   public:
-    // Opens showing `einst` (and the Meister as the fourth strength when `meister` is set and the file
-    // says strength 3). `statusSetzen` writes a status bar panel (the game's German text); `uebernehmen`
-    // lets the game take the new
-    // settings and the Meister choice. QZ.INI stores the Meister as strength 3.
-    EinstDialog(const Einstellungen& einst, bool meister, std::filesystem::path ordner,
+    // Opens showing `einst` (and the Meister as the fourth strength when `wahl.meister` is set and the
+    // file says strength 3; "niemand" as the side of the computer with `wahl.zweiSpieler`).
+    // `statusSetzen` writes a status bar panel (the game's German text); `uebernehmen` lets the game take
+    // the new settings and choices. QZ.INI stores the Meister as strength 3.
+    EinstDialog(const Einstellungen& einst, Spielerauswahl wahl, std::filesystem::path ordner,
                 std::function<void(Statusfeld feld, const std::string& text)> statusSetzen,
-                std::function<void(const Einstellungen&, bool meister)> uebernehmen,
+                std::function<void(const Einstellungen&, const Spielerauswahl&)> uebernehmen,
                 QWidget* parent = nullptr);
 
   protected:
@@ -44,7 +51,8 @@ class EinstDialog : public QDialog {
 
     std::filesystem::path ordner_;
     std::function<void(Statusfeld, const std::string&)> statusSetzen_;
-    std::function<void(const Einstellungen&, bool)> uebernehmen_;
+    std::function<void(const Einstellungen&, const Spielerauswahl&)> uebernehmen_;
+    int16_t pcVorher_ = 0; // kept in the file while two people play
     QLabel* pcText_;
     QLabel* staerkeText_;
     QPushButton* ok_;
