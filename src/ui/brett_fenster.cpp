@@ -52,6 +52,23 @@ BrettFenster::BrettFenster(std::filesystem::path ordner, uint32_t startzeit, QWi
     spiel_ = std::make_unique<Spiel>(*this, zufall_, std::move(ordner));
     // Computer against computer is shown move by move; the next move is asked for when one has been seen.
     spiel_->schrittweise(true);
+    verbinden();
+
+    spiel_->Form_Load(startzeit);
+    // The Meister is stored as strength 3 in QZ.INI; a file that says otherwise now was changed since.
+    meister_ = fensterEinstellungen().value(QStringLiteral("meister")).toBool() &&
+               spiel_->oeffentlich().einst.Staerke == 2;
+    meisterAnwenden();
+    // Start-up moves nothing that could be paced: its reports are shown at once.
+    wiedergabe_.abbrechen([](const Ereignis&) { return true; });
+    bilderSetzen();
+    befehleAbgleichen();
+
+    zugUhr_.start();
+    brett_->setFocus(); // the board is played with the keyboard as well
+}
+
+void BrettFenster::verbinden() {
     connect(brett_, &BrettFlaeche::figurGedrueckt, this, [this](int k, Maustaste taste) {
         if (beschaeftigt()) return;
         spiel_->figur_MouseDown(k, taste);
@@ -68,26 +85,16 @@ BrettFenster::BrettFenster(std::filesystem::path ordner, uint32_t startzeit, QWi
     connect(&tippUhr_, &QTimer::timeout, brett_, &BrettFlaeche::tippLoeschen);
     naechsterZug_.setSingleShot(true);
     connect(&naechsterZug_, &QTimer::timeout, this, &BrettFenster::selbstspielSchritt);
+    zugUhr_.setInterval(500);
+    connect(&zugUhr_, &QTimer::timeout, this, &BrettFenster::Timer1_Timer);
+}
 
-    spiel_->Form_Load(startzeit);
-    // The Meister is stored as strength 3 in QZ.INI; a file that says otherwise now was changed since.
-    meister_ = fensterEinstellungen().value(QStringLiteral("meister")).toBool() &&
-               spiel_->oeffentlich().einst.Staerke == 2;
-    meisterAnwenden();
-    // Start-up moves nothing that could be paced: its reports are shown at once.
-    wiedergabe_.abbrechen([](const Ereignis&) { return true; });
-    // The images stand where the game keeps them before the window is first shown.
+void BrettFenster::bilderSetzen() {
     const Figurbilder& bilder = spiel_->bilder();
     for (int k = 0; k < kFiguren; ++k) {
         brett_->figurSetzen(k, bilder.left[k], bilder.top[k]);
         brett_->figurZeigen(k, bilder.sichtbar[k]);
     }
-    befehleAbgleichen();
-
-    timer1_.setInterval(500);
-    connect(&timer1_, &QTimer::timeout, this, &BrettFenster::Timer1_Timer);
-    timer1_.start();
-    brett_->setFocus(); // the board is played with the keyboard as well
 }
 
 BrettFenster::~BrettFenster() {

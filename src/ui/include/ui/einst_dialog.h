@@ -12,6 +12,7 @@
 #include "game/ansicht.h"
 
 #include "dialogs/oeffentlich.h"
+#include "ui/beschriftung.h"
 
 class QCheckBox;
 class QComboBox;
@@ -25,8 +26,7 @@ class EinstDialog : public QDialog {
   public:
     // Opens showing `einst` (and the Meister as the fourth strength when `meister` is set and the file
     // says strength 3). `statusSetzen` writes a status bar panel (the game's German text); `uebernehmen`
-    // lets the game take the new
-    // settings and the Meister choice. QZ.INI stores the Meister as strength 3.
+    // lets the game take the new settings and the Meister choice. QZ.INI stores the Meister as strength 3.
     EinstDialog(const Einstellungen& einst, bool meister, std::filesystem::path ordner,
                 std::function<void(Statusfeld feld, const std::string& text)> statusSetzen,
                 std::function<void(const Einstellungen&, bool meister)> uebernehmen,
@@ -36,23 +36,23 @@ class EinstDialog : public QDialog {
     void changeEvent(QEvent* e) override;
 
   private:
-    // The texts in the player's language, and the layout they need.
-    void texteSetzen();
-    void anordnen();
+    // The controls in their layout, with their texts in the player's language.
+    void aufbauen();
+    QLabel* beschriftet(const char* text, QWidget* feld);
     void ausgleich();
-    void ok_Click();
+    // "Übernehmen": the game takes the settings, QZ.INI and the status bar get them, the window closes.
+    void bestaetigen();
 
     std::filesystem::path ordner_;
     std::function<void(Statusfeld, const std::string&)> statusSetzen_;
     std::function<void(const Einstellungen&, bool)> uebernehmen_;
-    QLabel* pcText_;
-    QLabel* staerkeText_;
-    QPushButton* ok_;
-    QPushButton* abbruch_;
-    QComboBox* pc_spielt_;
-    QComboBox* Staerke_;
-    QCheckBox* Lernen_;
-    QCheckBox* Einzelzug_;
+    Beschriftung texte_{staticMetaObject};
+    QComboBox* computerSpielt_ = nullptr;
+    QComboBox* staerke_ = nullptr;
+    QCheckBox* lernmodus_ = nullptr;
+    QCheckBox* einzelzug_ = nullptr;
+    QPushButton* okKnopf_ = nullptr;
+    QPushButton* abbruchKnopf_ = nullptr;
 };
 
 } // namespace fuh
