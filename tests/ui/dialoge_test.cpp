@@ -162,6 +162,8 @@ class DialogeTest : public QObject {
             QVERIFY(QTest::qWaitForWindowActive(o.d));
             const QList<QWidget*> alle = bedienelemente(o.d);
             QVERIFY(!alle.isEmpty());
+            // A new high-score row waits for the name: the player types it at once.
+            if (auto* name = o.d->findChild<QLineEdit*>()) QCOMPARE(QApplication::focusWidget(), name);
             QSet<QWidget*> erreicht;
             for (int i = 0; i <= 2 * alle.size(); ++i) {
                 QWidget* fokus = QApplication::focusWidget();
