@@ -52,6 +52,24 @@ BrettFenster::BrettFenster(std::filesystem::path ordner, uint32_t startzeit, QWi
     spiel_ = std::make_unique<Spiel>(*this, zufall_, std::move(ordner));
     // Computer against computer is shown move by move; the next move is asked for when one has been seen.
     spiel_->schrittweise(true);
+    verbinden();
+
+    spiel_->programmStart(startzeit);
+    // The Meister is stored as strength 3 in QZ.INI; a file that says otherwise now was changed since.
+    auswahl_.meister = fensterEinstellungen().value(QStringLiteral("meister")).toBool() &&
+                       spiel_->oeffentlich().einst.Staerke == 2;
+    auswahl_.zweiSpieler = fensterEinstellungen().value(QStringLiteral("zweiSpieler")).toBool();
+    spielerAnwenden();
+    // Start-up moves nothing that could be paced: its reports are shown at once.
+    wiedergabe_.abbrechen([](const Ereignis&) { return true; });
+    bilderSetzen();
+    befehleAbgleichen();
+
+    zugUhr_.start();
+    brett_->setFocus(); // the board is played with the keyboard as well
+}
+
+void BrettFenster::verbinden() {
     connect(brett_, &BrettFlaeche::figurGedrueckt, this, [this](int, Maustaste taste) {
         if (taste != Maustaste::rechts || beschaeftigt()) return;
         spiel_->sprungfolgeSchliessen();
@@ -68,27 +86,16 @@ BrettFenster::BrettFenster(std::filesystem::path ordner, uint32_t startzeit, QWi
     connect(&tippUhr_, &QTimer::timeout, brett_, &BrettFlaeche::tippLoeschen);
     naechsterZug_.setSingleShot(true);
     connect(&naechsterZug_, &QTimer::timeout, this, &BrettFenster::selbstspielSchritt);
+    zugUhr_.setInterval(500);
+    connect(&zugUhr_, &QTimer::timeout, this, &BrettFenster::zugTakt);
+}
 
-    spiel_->programmStart(startzeit);
-    // The Meister is stored as strength 3 in QZ.INI; a file that says otherwise now was changed since.
-    auswahl_.meister = fensterEinstellungen().value(QStringLiteral("meister")).toBool() &&
-                       spiel_->oeffentlich().einst.Staerke == 2;
-    auswahl_.zweiSpieler = fensterEinstellungen().value(QStringLiteral("zweiSpieler")).toBool();
-    spielerAnwenden();
-    // Start-up moves nothing that could be paced: its reports are shown at once.
-    wiedergabe_.abbrechen([](const Ereignis&) { return true; });
-    // The images stand where the game keeps them before the window is first shown.
+void BrettFenster::bilderSetzen() {
     const Figurbilder& bilder = spiel_->bilder();
     for (int k = 0; k < kFiguren; ++k) {
         brett_->figurSetzen(k, bilder.left[k], bilder.top[k]);
         brett_->figurZeigen(k, bilder.sichtbar[k]);
     }
-    befehleAbgleichen();
-
-    takt_.setInterval(500);
-    connect(&takt_, &QTimer::timeout, this, &BrettFenster::zugTakt);
-    takt_.start();
-    brett_->setFocus(); // the board is played with the keyboard as well
 }
 
 BrettFenster::~BrettFenster() {

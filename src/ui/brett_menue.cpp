@@ -82,63 +82,71 @@ Tempo tempoAusName(const QString& name) {
 
 } // namespace
 
+QAction* BrettFenster::befehl(QMenu* menue, const char* name, const char* text, std::function<void()> tun) {
+    QAction* a = menue->addAction(QString());
+    texte_.text(a, text);
+    a->setObjectName(QString::fromLatin1(name));
+    connect(a, &QAction::triggered, this, std::move(tun));
+    return a;
+}
+
 void BrettFenster::menueAnlegen() {
-    auto aktion = [this](QMenu* menue, const char* name, const char* text, auto slot) {
-        QAction* a = menue->addAction(QString());
-        texte_.text(a, text);
-        a->setObjectName(QString::fromLatin1(name));
-        connect(a, &QAction::triggered, this, slot);
-        return a;
-    };
-
-    QMenu* spielMenue = menuBar()->addMenu(QString());
-    texte_.text(spielMenue->menuAction(), QT_TR_NOOP("&Spiel"));
-    spielMenue->setObjectName(QStringLiteral("spiel"));
-    // "Neu" also stops a game being shown; "Start" waits until what the game reported has been seen.
-    wartendeBefehle_.push_back(aktion(spielMenue, "start", QT_TR_NOOP("&Start"), [this] { neu(); }));
-    aktion(spielMenue, "Neu", QT_TR_NOOP("&Neu"), [this] {
-        neu();
-    })->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_N));
-    tippAktion_ = aktion(spielMenue, "tipp", QT_TR_NOOP("&Tipp"), [this] { tippZeigen(); });
-    tippAktion_->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_T));
-    zurueckAktion_ =
-        aktion(spielMenue, "zurueck", QT_TR_NOOP("Zug &zurücknehmen"), [this] { zuruecknehmen(); });
-    zurueckAktion_->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Z));
-    connect(spielMenue, &QMenu::aboutToShow, this, &BrettFenster::befehleAbgleichen);
-    spielMenue->addSeparator();
-    tempoMenue(spielMenue);
-    spracheMenue(spielMenue);
-    spielMenue->addSeparator();
-    aktion(spielMenue, "Beenden", QT_TR_NOOP("&Beenden"), [] {
-        QApplication::quit();
-    })->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Q));
-
+    spielMenue();
     // A command right on the menu bar, as the game has always had it.
     QAction* einstellungen = menuBar()->addAction(QString());
     texte_.text(einstellungen, QT_TR_NOOP("&Einstellungen"));
     einstellungen->setObjectName(QStringLiteral("Einstellungen"));
     connect(einstellungen, &QAction::triggered, this, &BrettFenster::einstellungenZeigen);
     wartendeBefehle_.push_back(einstellungen);
+    ergebnisMenue();
+    hilfeMenue();
+}
 
-    QMenu* ergebnisse = menuBar()->addMenu(QString());
-    texte_.text(ergebnisse->menuAction(), QT_TR_NOOP("E&rgebnisse"));
-    ergebnisse->setObjectName(QStringLiteral("erg"));
-    aktion(ergebnisse, "Stt", QT_TR_NOOP("&Statistik"), [this] { statistikZeigen(); });
+void BrettFenster::spielMenue() {
+    QMenu* menue = menuBar()->addMenu(QString());
+    texte_.text(menue->menuAction(), QT_TR_NOOP("&Spiel"));
+    menue->setObjectName(QStringLiteral("spiel"));
+    // "Neu" also stops a game being shown; "Start" waits until what the game reported has been seen.
+    wartendeBefehle_.push_back(befehl(menue, "start", QT_TR_NOOP("&Start"), [this] { neu(); }));
+    befehl(menue, "Neu", QT_TR_NOOP("&Neu"), [this] {
+        neu();
+    })->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_N));
+    tippAktion_ = befehl(menue, "tipp", QT_TR_NOOP("&Tipp"), [this] { tippZeigen(); });
+    tippAktion_->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_T));
+    zurueckAktion_ = befehl(menue, "zurueck", QT_TR_NOOP("Zug &zurücknehmen"), [this] { zuruecknehmen(); });
+    zurueckAktion_->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Z));
+    connect(menue, &QMenu::aboutToShow, this, &BrettFenster::befehleAbgleichen);
+    menue->addSeparator();
+    tempoMenue(menue);
+    spracheMenue(menue);
+    menue->addSeparator();
+    befehl(menue, "Beenden", QT_TR_NOOP("&Beenden"), [] {
+        QApplication::quit();
+    })->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Q));
+}
+
+void BrettFenster::ergebnisMenue() {
+    QMenu* menue = menuBar()->addMenu(QString());
+    texte_.text(menue->menuAction(), QT_TR_NOOP("E&rgebnisse"));
+    menue->setObjectName(QStringLiteral("ergebnisse"));
+    befehl(menue, "statistik", QT_TR_NOOP("&Statistik"), [this] { statistikZeigen(); });
     // A list enters a just finished game, so it waits until the game's end has been shown.
-    wartendeBefehle_.push_back(aktion(ergebnisse, "highfu", QT_TR_NOOP("Highscore &Fuchs"),
+    wartendeBefehle_.push_back(befehl(menue, "highscoreFuchs", QT_TR_NOOP("Highscore &Fuchs"),
                                       [this] { highscoreZeigen(Seite::Fuchs); }));
-    wartendeBefehle_.push_back(aktion(ergebnisse, "highhe", QT_TR_NOOP("Highscore &Hennen"),
+    wartendeBefehle_.push_back(befehl(menue, "highscoreHennen", QT_TR_NOOP("Highscore &Hennen"),
                                       [this] { highscoreZeigen(Seite::Hennen); }));
+}
 
-    QMenu* hilfe = menuBar()->addMenu(QString());
-    texte_.text(hilfe->menuAction(), QT_TR_NOOP("&Hilfe"));
-    hilfe->setObjectName(QStringLiteral("hilfe"));
-    aktion(hilfe, "help", QT_TR_NOOP("&Hilfe"), [this] {
+void BrettFenster::hilfeMenue() {
+    QMenu* menue = menuBar()->addMenu(QString());
+    texte_.text(menue->menuAction(), QT_TR_NOOP("&Hilfe"));
+    menue->setObjectName(QStringLiteral("hilfe"));
+    befehl(menue, "hilfeZeigen", QT_TR_NOOP("&Hilfe"), [this] {
         // The help always opens at its first topic, also when it was left open elsewhere.
         einmalZeigen(hilfe_, [this] { return new HilfeFenster(this); });
         hilfe_->zumAnfang();
     })->setShortcut(QKeySequence(Qt::Key_F1));
-    aktion(hilfe, "info", QT_TR_NOOP("&Info"),
+    befehl(menue, "info", QT_TR_NOOP("&Info"),
            [this] { einmalZeigen(info_, [this] { return new InfoWin(this); }); });
 }
 
@@ -182,7 +190,7 @@ void BrettFenster::tempoMenue(QMenu* menue) {
 
 void BrettFenster::statusleisteAnlegen() {
     QStatusBar* leiste = statusBar();
-    leiste->setObjectName(QStringLiteral("StatusBar1"));
+    leiste->setObjectName(QStringLiteral("statusleiste"));
     const std::array<int, 4> anteile = {2, 1, 1, 2};
     for (size_t i = 0; i < panels_.size(); ++i) {
         auto* label = new Statustext(leiste);

@@ -5,9 +5,9 @@
 #include "ui/highscore_fenster.h"
 
 #include <QDate>
+#include <QDialogButtonBox>
 #include <QEvent>
 #include <QGridLayout>
-#include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QLocale>
@@ -87,54 +87,58 @@ HighscoreFenster::HighscoreFenster(Seite seite, Oeffentlich& spiel, std::filesys
         k->setFont(f);
         tabelle->addWidget(k, 0, c);
     }
-    const QFontMetrics fm(font());
-    QLineEdit* name = nullptr;
-    for (int i = 0; i < kListenzeilen; ++i) {
-        const Eintrag& e = liste_.eintraege()[static_cast<std::size_t>(i)];
-        auto* datum = zelle(zellenname(0, i), this);
-        auto* score = zelle(zellenname(1, i), this);
-        score->setText(QString::number(e.score));
-        score->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-        auto* user = zelle(zellenname(2, i), this);
-        user->setText(feldText(e.user));
-        user->setMinimumWidth(fm.horizontalAdvance(QLatin1Char('W')) * 12);
-        auto* sieg = zelle(zellenname(3, i), this);
-        tabelle->addWidget(datum, i + 1, 0);
-        tabelle->addWidget(score, i + 1, 1);
-        tabelle->addWidget(user, i + 1, 2);
-        tabelle->addWidget(sieg, i + 1, 3);
-
-        // The new row has an edit for the name; it lies over the name cell.
-        if (i == neu) {
-            name = new QLineEdit(this);
-            name->setObjectName(QStringLiteral("name1_%1").arg(i));
-            name->setMaxLength(kNamenlaenge);
-            name->setAccessibleName(tr("Ihr Name für Platz %1").arg(i + 1));
-            tabelle->addWidget(name, i + 1, 2);
-            connect(name, &QLineEdit::textEdited, this,
-                    [this](const QString& text) { liste_.nameSetzen(text.toStdString()); });
-        }
-    }
+    for (int i = 0; i < kListenzeilen; ++i)
+        zeileAnlegen(tabelle, i);
+    // The new row has an edit for the name; it lies over the name cell and comes first in the tab order.
+    if (neu >= 0 && neu < kListenzeilen) tabelle->addWidget(namensfeldAnlegen(neu), neu + 1, 2);
     haupt->addLayout(tabelle);
     zeilenSetzen();
+    haupt->addWidget(knoepfeAnlegen());
+    // The window takes the size its texts need, anew in each language.
+    haupt->setSizeConstraint(QLayout::SetFixedSize);
+}
 
-    auto* knoepfe = new QHBoxLayout;
-    knoepfe->addStretch();
+void HighscoreFenster::zeileAnlegen(QGridLayout* tabelle, int i) {
+    const Eintrag& e = liste_.eintraege()[static_cast<std::size_t>(i)];
+    auto* datum = zelle(zellenname(0, i), this);
+    auto* score = zelle(zellenname(1, i), this);
+    score->setText(QString::number(e.score));
+    score->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    auto* user = zelle(zellenname(2, i), this);
+    user->setText(feldText(e.user));
+    user->setMinimumWidth(fontMetrics().horizontalAdvance(QLatin1Char('W')) * 12);
+    auto* sieg = zelle(zellenname(3, i), this);
+    tabelle->addWidget(datum, i + 1, 0);
+    tabelle->addWidget(score, i + 1, 1);
+    tabelle->addWidget(user, i + 1, 2);
+    tabelle->addWidget(sieg, i + 1, 3);
+}
+
+QLineEdit* HighscoreFenster::namensfeldAnlegen(int zeile) {
+    auto* name = new QLineEdit(this);
+    name->setObjectName(QStringLiteral("nameEingabe%1").arg(zeile));
+    name->setMaxLength(kNamenlaenge);
+    name->setAccessibleName(tr("Ihr Name für Platz %1").arg(zeile + 1));
+    connect(name, &QLineEdit::textEdited, this,
+            [this](const QString& text) { liste_.nameSetzen(text.toStdString()); });
+    name->setFocus();
+    return name;
+}
+
+QDialogButtonBox* HighscoreFenster::knoepfeAnlegen() {
     auto* ok = new QPushButton(this);
     texte_.text(ok, QT_TR_NOOP("OK"));
-    ok->setObjectName(QStringLiteral("ok"));
+    ok->setObjectName(QStringLiteral("okKnopf"));
     ok->setDefault(true);
     auto* abbruch = new QPushButton(this);
     texte_.text(abbruch, QT_TR_NOOP("Abbruch"));
-    abbruch->setObjectName(QStringLiteral("Abbruch"));
-    knoepfe->addWidget(ok);
-    knoepfe->addWidget(abbruch);
-    haupt->addLayout(knoepfe);
-    haupt->setSizeConstraint(QLayout::SetFixedSize);
-
-    connect(ok, &QPushButton::clicked, this, [this] { ok_Click(); });
+    abbruch->setObjectName(QStringLiteral("abbruchKnopf"));
+    auto* knoepfe = new QDialogButtonBox(this);
+    knoepfe->addButton(ok, QDialogButtonBox::AcceptRole);
+    knoepfe->addButton(abbruch, QDialogButtonBox::RejectRole);
+    connect(ok, &QPushButton::clicked, this, [this] { speichernUndSchliessen(); });
     connect(abbruch, &QPushButton::clicked, this, &QDialog::close);
-    if (name) name->setFocus();
+    return knoepfe;
 }
 
 void HighscoreFenster::zeilenSetzen() {
@@ -156,11 +160,12 @@ void HighscoreFenster::changeEvent(QEvent* e) {
     if (e->type() == QEvent::LanguageChange) {
         texte_.erneuern();
         zeilenSetzen();
+        layout()->activate(); // the new size at once, not at the next layout pass
     }
     QDialog::changeEvent(e);
 }
 
-void HighscoreFenster::ok_Click() {
+void HighscoreFenster::speichernUndSchliessen() {
     if (!liste_.speichern(ordner_)) {
         meldungZeigen(this, QMessageBox::Warning,
                       linkHinweisAnhaengen(tr("Die Highscore-Liste „%1“ konnte nicht gespeichert werden.")

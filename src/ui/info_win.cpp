@@ -22,13 +22,17 @@ InfoWin::InfoWin(QWidget* parent) : QDialog(parent) {
     auto* bilder = new QVBoxLayout;
     for (int i = 1; i <= 4; ++i) {
         auto* bild = new QSvgWidget(QStringLiteral(":/bilder/info%1.svg").arg(i), this);
-        bild->setObjectName(QStringLiteral("Image%1").arg(i));
+        bild->setObjectName(QStringLiteral("bild%1").arg(i));
         bild->setFixedSize(32, 32);
         bilder->addWidget(bild);
     }
     bilder->addStretch();
     haupt->addLayout(bilder);
+    haupt->addLayout(texteAnlegen());
+    setMinimumWidth(420);
+}
 
+QLayout* InfoWin::texteAnlegen() {
     auto* texte = new QVBoxLayout;
     auto text = [&](const QString& name, const char* inhalt) {
         auto* l = new QLabel(this);
@@ -38,26 +42,18 @@ InfoWin::InfoWin(QWidget* parent) : QDialog(parent) {
         texte->addWidget(l);
         return l;
     };
-    QLabel* titel = text(QStringLiteral("Label1"), QT_TR_NOOP("Fuchs und Hennen 2026"));
+    QLabel* titel = text(QStringLiteral("titel"), QT_TR_NOOP("Fuchs und Hennen 2026"));
     QFont f = titel->font();
     f.setBold(true);
     titel->setFont(f);
-    text(QStringLiteral("Label2"), QT_TR_NOOP("© 2026 Das Fuchs-und-Hennen-Team"));
-    text(QStringLiteral("Label3"),
+    text(QStringLiteral("rechte"), QT_TR_NOOP("© 2026 Das Fuchs-und-Hennen-Team"));
+    text(QStringLiteral("dank"),
          QT_TR_NOOP("Dank an Anna Gärtner und Paul Hofmann für ihre Geduld beim Testen"));
-    auto* mail = new QLabel(
-        QStringLiteral("<a href=\"mailto:fuchs-und-hennen@example.org\">fuchs-und-hennen@example.org</a>"),
-        this);
-    mail->setObjectName(QStringLiteral("email"));
-    mail->setWordWrap(true);
-    texte->addWidget(mail);
-    // It looks like a mail link, but like every label here it does nothing when clicked.
-    mail->setTextFormat(Qt::RichText);
-    mail->setTextInteractionFlags(Qt::NoTextInteraction);
+    texte->addWidget(mailAnlegen());
     // The address gets a line of its own and is never broken inside.
-    text(QStringLiteral("Label4"), QT_TR_NOOP("Neue Versionen, Informationen und Neuigkeiten:<br>"
-                                              "<span style=\"white-space: nowrap\">"
-                                              "https://example.org/fuchs-und-hennen</span>"))
+    text(QStringLiteral("webseite"), QT_TR_NOOP("Neue Versionen, Informationen und Neuigkeiten:<br>"
+                                                "<span style=\"white-space: nowrap\">"
+                                                "https://example.org/fuchs-und-hennen</span>"))
         ->setTextFormat(Qt::RichText);
     text(
         QStringLiteral("lizenz"),
@@ -65,17 +61,30 @@ InfoWin::InfoWin(QWidget* parent) : QDialog(parent) {
             "Freie Software unter der GNU General Public License, Version 3 oder später (GPL-3.0-or-later)"));
     auto* ok = new QPushButton(this);
     texte_.text(ok, QT_TR_NOOP("Ok"));
-    ok->setObjectName(QStringLiteral("Command1"));
+    ok->setObjectName(QStringLiteral("okKnopf"));
     ok->setDefault(true);
     texte->addWidget(ok, 0, Qt::AlignRight);
-    haupt->addLayout(texte);
-    setMinimumWidth(420);
-
     connect(ok, &QPushButton::clicked, this, &QDialog::close);
+    return texte;
+}
+
+QLabel* InfoWin::mailAnlegen() {
+    auto* mail = new QLabel(
+        QStringLiteral("<a href=\"mailto:fuchs-und-hennen@example.org\">fuchs-und-hennen@example.org</a>"),
+        this);
+    mail->setObjectName(QStringLiteral("email"));
+    mail->setWordWrap(true);
+    // It looks like a mail link, but like every label here it does nothing when clicked.
+    mail->setTextFormat(Qt::RichText);
+    mail->setTextInteractionFlags(Qt::NoTextInteraction);
+    return mail;
 }
 
 void InfoWin::changeEvent(QEvent* e) {
-    if (e->type() == QEvent::LanguageChange) texte_.erneuern();
+    if (e->type() == QEvent::LanguageChange) {
+        texte_.erneuern();
+        layout()->activate(); // the new size at once, not at the next layout pass
+    }
     QDialog::changeEvent(e);
 }
 

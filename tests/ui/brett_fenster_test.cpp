@@ -95,7 +95,7 @@ class BrettFensterTest : public QObject {
         QTest::mouseMove(a.brett(), a.mitte(17));
         QTest::mouseRelease(a.brett(), Qt::RightButton, Qt::NoModifier, a.mitte(17));
         // Nor over a window lying on the board: the board holds the mouse, but the release is not its.
-        a.aktion("Stt");
+        a.aktion("statistik");
         QPointer<StatForm> stat = a.fenster->findChild<StatForm*>();
         stat->move(a.brett()->mapToGlobal(a.mitte(17)) - QPoint(20, 20));
         a.ziehe(24, 17);
@@ -232,7 +232,8 @@ class BrettFensterTest : public QObject {
     void fensterAusDemMenue() {
         Aufbau a;
         // Asking again brings the one open window forward.
-        for (const char* name : {"Einstellungen", "help", "info", "Einstellungen", "help", "info"})
+        for (const char* name :
+             {"Einstellungen", "hilfeZeigen", "info", "Einstellungen", "hilfeZeigen", "info"})
             a.aktion(name);
         QCOMPARE(a.fenster->findChildren<EinstDialog*>().size(), 1);
         QCOMPARE(a.fenster->findChildren<HilfeFenster*>().size(), 1);
@@ -241,16 +242,16 @@ class BrettFensterTest : public QObject {
         QTextBrowser* hilfe = a.fenster->findChild<HilfeFenster*>()->browser();
         hilfe->setSource(QUrl(QStringLiteral("qrc:/hilfe/ratgeber.html#punkte")));
         QVERIFY(hilfe->verticalScrollBar()->value() > 0);
-        a.aktion("help");
+        a.aktion("hilfeZeigen");
         QCOMPARE(hilfe->source(), QUrl(QStringLiteral("qrc:/hilfe/ratgeber.html")));
         QCOMPARE(hilfe->verticalScrollBar()->value(), 0);
         QVERIFY(QApplication::activeModalWidget() == nullptr); // modeless: the board stays usable
 
         // Lists and statistics are made fresh each time; the game may open a list on its own.
-        a.aktion("Stt");
-        a.aktion("Stt");
-        a.aktion("highfu");
-        a.aktion("highhe");
+        a.aktion("statistik");
+        a.aktion("statistik");
+        a.aktion("highscoreFuchs");
+        a.aktion("highscoreHennen");
         a.fenster->oeffnen(Fenster::highf);
         QTRY_VERIFY(!a.fenster->beschaeftigt());
         QCOMPARE(offene<StatForm>(*a.fenster), 1);
@@ -278,7 +279,7 @@ class BrettFensterTest : public QObject {
         spielEnde(300);
         QPointer<HighscoreFenster> erste = henneListen().at(0);
         QCOMPARE(erste->liste().neuePos(), 0);
-        a.aktion("highhe");
+        a.aktion("highscoreHennen");
         QVERIFY(!erste.isNull() && erste->isVisible());
         QCOMPARE(henneListen().size(), 1u);
         spielEnde(200);
@@ -287,7 +288,7 @@ class BrettFensterTest : public QObject {
         for (HighscoreFenster* w : beide)
             QCOMPARE(w->liste().neuePos(), 0);
         QVERIFY(!beide[0]->frameGeometry().intersects(beide[1]->frameGeometry()));
-        a.aktion("highhe");
+        a.aktion("highscoreHennen");
         QCOMPARE(henneListen().size(), 2u);
         QCOMPARE(offene<HighscoreFenster>(*a.fenster), 3); // the foxes' list stays as it was
     }

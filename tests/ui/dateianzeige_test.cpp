@@ -62,8 +62,11 @@ class DateianzeigeTest : public QObject {
         dir.schreibe("QZ.sta", test::zaehlerBytes(z));
         QPointer<StatForm> f = new StatForm(dir.pfad());
         f->show();
-        const std::pair<const char*, const char*> felder[] = {
-            {"Spiele", "45"}, {"abbruch", "5"}, {"gelernte", "6"}, {"Zuge", "300"}, {"Zugaenge", "17"}};
+        const std::pair<const char*, const char*> felder[] = {{"gestartet", "45"},
+                                                              {"abgebrochen", "5"},
+                                                              {"imLernmodus", "6"},
+                                                              {"bewertet", "300"},
+                                                              {"neuAusLetztem", "17"}};
         for (const auto& [name, wert] : felder)
             QCOMPARE(text(f, QString::fromLatin1(name)), QString::fromLatin1(wert));
         // Hens then foxes, computer then user, strengths 1..3, then the two sums.
@@ -74,10 +77,10 @@ class DateianzeigeTest : public QObject {
         const auto name = [&f](const char* kind) {
             return test::kind(f, QString::fromLatin1(kind))->accessibleName();
         };
-        QCOMPARE(name("Spiele"), QStringLiteral("Spiele gesamt: 45"));
+        QCOMPARE(name("gestartet"), QStringLiteral("Spiele gesamt: 45"));
         QCOMPARE(name("wert4"), QStringLiteral("Computer, Fuchs, Stärke 2: 2"));
         QCOMPARE(name("wert13"), QStringLiteral("User, Gesamt: 57"));
-        klick(f, "Command1");
+        klick(f, "okKnopf");
         QVERIFY(f.isNull());
     }
 
@@ -195,7 +198,7 @@ class DateianzeigeTest : public QObject {
         std::filesystem::create_directories(ordner);
         {
             BrettFenster fenster(ordner, 36000);
-            fenster.takt().stop();
+            fenster.zugUhr().stop();
             fenster.spiel().neuesSpiel(); // counts the game in the statistics file
         }
         QCOMPARE(basis.namen(), std::vector<std::string>{"a\xff"});

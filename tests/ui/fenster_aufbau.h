@@ -78,7 +78,7 @@ struct Aufbau {
     void starten() {
         fenster.reset();
         fenster = std::make_unique<BrettFenster>(pfad(), kStartzeit);
-        fenster->takt().stop(); // the tests tick by hand
+        fenster->zugUhr().stop(); // the tests tick by hand
         fenster->show();
         QVERIFY(QTest::qWaitForWindowExposed(fenster.get()));
     }

@@ -78,9 +78,9 @@ class SpracheTest : public QObject {
         QCOMPARE(a.panel(3), QStringLiteral("Punkte: 237"));
         // Opened after the move: lying over the board, they would take the drag.
         a.aktion("Einstellungen");
-        a.aktion("Stt");
-        a.aktion("highfu");
-        a.aktion("help");
+        a.aktion("statistik");
+        a.aktion("highscoreFuchs");
+        a.aktion("hilfeZeigen");
         auto* einst = a.fenster->findChild<EinstDialog*>();
         auto* stat = a.fenster->findChild<StatForm*>();
         auto* liste = a.fenster->findChild<HighscoreFenster*>();
@@ -102,8 +102,8 @@ class SpracheTest : public QObject {
                  QStringLiteral("The foxes are to move."));
         // Every open window follows; the settings grow where English needs more room.
         QCOMPARE(einst->windowTitle(), QStringLiteral("Settings"));
-        QCOMPARE(kindText(einst, "ok"), QStringLiteral("Apply"));
-        QCOMPARE(einst->findChild<QComboBox*>(QStringLiteral("Staerke"))->itemText(3),
+        QCOMPARE(kindText(einst, "okKnopf"), QStringLiteral("Apply"));
+        QCOMPARE(einst->findChild<QComboBox*>(QStringLiteral("staerke"))->itemText(3),
                  QStringLiteral("4 Master"));
         QVERIFY(einst->width() >= breiteDeutsch);
         QCOMPARE(stat->windowTitle(), QStringLiteral("Statistics"));
@@ -126,7 +126,7 @@ class SpracheTest : public QObject {
         QCOMPARE(antworter.texte[0], QStringLiteral("The hens have won!"));
 
         // A window opened now is English from the start.
-        a.aktion("Stt");
+        a.aktion("statistik");
         QCOMPARE(a.fenster->findChild<StatForm*>()->windowTitle(), QStringLiteral("Statistics"));
 
         waehle(a, "sprache_deutsch");

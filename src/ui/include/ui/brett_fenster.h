@@ -12,6 +12,7 @@
 #include <array>
 #include <cstdint>
 #include <filesystem>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <vector>
@@ -59,7 +60,7 @@ class BrettFenster : public QMainWindow, public Ansicht {
 
     Spiel& spiel() { return *spiel_; }
     BrettFlaeche* brett() const { return brett_; }
-    QTimer& takt() { return takt_; }
+    QTimer& zugUhr() { return zugUhr_; }
     QLabel* panel(int nummer) const { return panels_.at(static_cast<size_t>(nummer - 1)); }
 
     // How fast computer moves are shown; the choice is kept in the user's settings.
@@ -112,9 +113,18 @@ class BrettFenster : public QMainWindow, public Ansicht {
     void zeigen(const Ereignis& e);
     void befehleAbgleichen();
     void groesseLaden();
+    // The board's input, the playback and the timers, wired to the game.
+    void verbinden();
+    // The pieces where the game keeps them, before the window is first shown.
+    void bilderSetzen();
 
     // Menu and the other windows (brett_menue.cpp).
     void menueAnlegen();
+    void spielMenue();
+    void ergebnisMenue();
+    void hilfeMenue();
+    // A command named `name` in `menue` that does `tun`, its text in the player's language.
+    QAction* befehl(QMenu* menue, const char* name, const char* text, std::function<void()> tun);
     void tempoMenue(QMenu* menue);
     void tempoLaden();
     void statusleisteAnlegen();
@@ -139,7 +149,7 @@ class BrettFenster : public QMainWindow, public Ansicht {
     std::array<QLabel*, 4> panels_{};
     std::array<QString, 4> panelTexte_{}; // as the game wrote them, in German
     Beschriftung texte_{staticMetaObject};
-    QTimer takt_;
+    QTimer zugUhr_; // asks the game for the computer's reply
     Wiedergabe wiedergabe_;
     QTimer naechsterZug_; // the rest between two moves of a game the computer plays itself
     bool selbstspielSchleife_ = false;

@@ -5,6 +5,7 @@
 #pragma once
 // The settings window: side the computer plays, strength, learning and single-move mode.
 #include <QDialog>
+#include <cstdint>
 #include <filesystem>
 #include <functional>
 #include <string>
@@ -12,6 +13,7 @@
 #include "game/ansicht.h"
 
 #include "dialogs/oeffentlich.h"
+#include "ui/beschriftung.h"
 
 class QCheckBox;
 class QComboBox;
@@ -31,9 +33,9 @@ class EinstDialog : public QDialog {
     Q_OBJECT
   public:
     // Opens showing `einst` (and the Meister as the fourth strength when `wahl.meister` is set and the
-    // file says strength 3; "niemand" as the side of the computer with `wahl.zweiSpieler`).
-    // `statusSetzen` writes a status bar panel (the game's German text); `uebernehmen` lets the game take
-    // the new settings and choices. QZ.INI stores the Meister as strength 3.
+    // file says strength 3; "niemand" as the computer's side with `wahl.zweiSpieler`). `statusSetzen`
+    // writes a status bar panel (the game's German text); `uebernehmen` lets the game take the new
+    // settings and choices. QZ.INI stores the Meister as strength 3.
     EinstDialog(const Einstellungen& einst, Spielerauswahl wahl, std::filesystem::path ordner,
                 std::function<void(Statusfeld feld, const std::string& text)> statusSetzen,
                 std::function<void(const Einstellungen&, const Spielerauswahl&)> uebernehmen,
@@ -43,24 +45,24 @@ class EinstDialog : public QDialog {
     void changeEvent(QEvent* e) override;
 
   private:
-    // The texts in the player's language, and the layout they need.
-    void texteSetzen();
-    void anordnen();
+    // The controls in their layout, with their texts in the player's language.
+    void aufbauen();
+    QLabel* beschriftet(const char* text, QWidget* feld);
     void ausgleich();
-    void ok_Click();
+    // "Übernehmen": the game takes the settings, QZ.INI and the status bar get them, the window closes.
+    void bestaetigen();
 
     std::filesystem::path ordner_;
     std::function<void(Statusfeld, const std::string&)> statusSetzen_;
     std::function<void(const Einstellungen&, const Spielerauswahl&)> uebernehmen_;
     int16_t pcVorher_ = 0; // kept in the file while two people play
-    QLabel* pcText_;
-    QLabel* staerkeText_;
-    QPushButton* ok_;
-    QPushButton* abbruch_;
-    QComboBox* pc_spielt_;
-    QComboBox* Staerke_;
-    QCheckBox* Lernen_;
-    QCheckBox* Einzelzug_;
+    Beschriftung texte_{staticMetaObject};
+    QComboBox* computerSpielt_ = nullptr;
+    QComboBox* staerke_ = nullptr;
+    QCheckBox* lernmodus_ = nullptr;
+    QCheckBox* einzelzug_ = nullptr;
+    QPushButton* okKnopf_ = nullptr;
+    QPushButton* abbruchKnopf_ = nullptr;
 };
 
 } // namespace fuh

@@ -10,6 +10,10 @@
 #include "dialogs/bestenliste.h"
 #include "ui/beschriftung.h"
 
+class QDialogButtonBox;
+class QGridLayout;
+class QLineEdit;
+
 namespace fuh {
 
 class HighscoreFenster : public QDialog {
@@ -24,7 +28,12 @@ class HighscoreFenster : public QDialog {
     void changeEvent(QEvent* e) override;
 
   private:
-    void ok_Click();
+    void zeileAnlegen(QGridLayout* tabelle, int i);
+    // The edit for the name of the new row `zeile`; it has the focus.
+    QLineEdit* namensfeldAnlegen(int zeile);
+    QDialogButtonBox* knoepfeAnlegen();
+    // "OK": the list goes to its file; a list that cannot be saved stays open, so the name is not lost.
+    void speichernUndSchliessen();
     // The dates and win flags of the rows, in the player's language.
     void zeilenSetzen();
 

@@ -8,6 +8,9 @@
 
 #include "ui/beschriftung.h"
 
+class QLabel;
+class QLayout;
+
 namespace fuh {
 
 class InfoWin : public QDialog {
@@ -19,6 +22,10 @@ class InfoWin : public QDialog {
     void changeEvent(QEvent* e) override;
 
   private:
+    // The texts from the title down to the Ok button.
+    QLayout* texteAnlegen();
+    QLabel* mailAnlegen();
+
     Beschriftung texte_{staticMetaObject};
 };
 
