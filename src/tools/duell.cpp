@@ -4,6 +4,7 @@
 
 #include "tools/duell.h"
 
+#include <algorithm>
 #include <array>
 #include <cstdio>
 #include <memory>
@@ -17,6 +18,8 @@
 namespace fuh {
 
 namespace {
+
+constexpr int kUeberzugProzent = 110; // a move that takes longer than this share of its budget is counted
 
 struct Bilanz {
     uint64_t siege = 0, niederlagen = 0;
@@ -57,15 +60,17 @@ std::string name(const Duellant& d) {
            std::to_string(d.bedenkzeit.count()) + " ms";
 }
 
-void zeile(std::ostream& aus, const char* wer, const Bilanz& b) {
+void zeile(std::ostream& aus, const char* wer, const Bilanz& b, std::chrono::milliseconds budget) {
     const Punktzahl p = punktzahl(b.paarpunkte);
+    const double grenze = static_cast<double>(budget.count()) * kUeberzugProzent / 100;
+    const auto ueber = std::count_if(b.ms.begin(), b.ms.end(), [grenze](double ms) { return ms > grenze; });
     char text[160];
     std::snprintf(
-        text, sizeof text, "%-7s %6llu %12llu %6llu %6llu %6llu %6llu %7.3f ±%5.3f %10.1f %10.1f %8zu", wer,
-        static_cast<unsigned long long>(b.siege), static_cast<unsigned long long>(b.niederlagen),
+        text, sizeof text, "%-7s %6llu %12llu %6llu %6llu %6llu %6llu %7.3f ±%5.3f %10.1f %10.1f %8zu %6ld",
+        wer, static_cast<unsigned long long>(b.siege), static_cast<unsigned long long>(b.niederlagen),
         static_cast<unsigned long long>(b.remisGesamt()), static_cast<unsigned long long>(b.remis[0]),
         static_cast<unsigned long long>(b.remis[1]), static_cast<unsigned long long>(b.remis[2]), p.wert,
-        p.plusMinus, median(b.ms), hoechstwert(b.ms), b.ms.size());
+        p.plusMinus, median(b.ms), hoechstwert(b.ms), b.ms.size(), static_cast<long>(ueber));
     aus << text << std::endl;
 }
 
@@ -100,15 +105,17 @@ int duell(const DuellOptionen& o, const Abbruch& abbruch, std::ostream& aus, std
     }
     fortschritt.beenden();
     char kopf[160];
-    std::snprintf(kopf, sizeof kopf, "%-7s %6s %12s %6s %6s %6s %6s %7s %6s %10s %10s %9s", "Spieler",
+    std::snprintf(kopf, sizeof kopf, "%-7s %6s %12s %6s %6s %6s %6s %7s %6s %10s %10s %9s %6s", "Spieler",
                   "Siege", "Niederlagen", "Remis", "Grenze", "LFuchs", "KZug", "Punkte", "±95 %", "Median ms",
-                  "Max ms", "Züge");
+                  "Max ms", "Züge", "Über");
     aus << kopf << '\n';
-    zeile(aus, "F", bf);
-    zeile(aus, "H", bh);
+    zeile(aus, "F", bf, o.f.bedenkzeit);
+    zeile(aus, "H", bh, o.h.bedenkzeit);
     aus << "\nRemis: an der Zugbegrenzung (Grenze), letzter Fuchs ausgeschlossen (LFuchs), die Füchse ohne "
-           "Zug "
-           "(KZug).\nPunkte: Sieg 1, Remis 0,5, je Startwert gemittelt; 95 %-Intervall über die Startwerte.\n"
+           "Zug (KZug).\nÜber: Züge mehr als "
+        << kUeberzugProzent - 100
+        << " % über der Bedenkzeit.\nPunkte: Sieg 1, Remis 0,5, je Startwert gemittelt; 95 %-Intervall über "
+           "die Startwerte.\n"
         << "Nach Seiten: die Hennen gewinnen " << nachSeite[0] << ", die Füchse " << nachSeite[1]
         << ", Remis " << nachSeite[2] << std::endl;
     return 0;
