@@ -37,9 +37,11 @@ struct Klassisch : Zugquelle {
 // Replays fixed moves; nothing once they are used up.
 struct Drehbuch : Zugquelle {
     std::vector<Zugwahl> zuege;
+    std::vector<Brettfeld> gesehen; // the position of every call
     std::size_t naechster = 0;
     void neuePartie(uint32_t) override { naechster = 0; }
-    Zugwahl waehle(const Brettfeld&, int16_t, const Partie&) override {
+    Zugwahl waehle(const Brettfeld& Feld, int16_t, const Partie&) override {
+        gesehen.push_back(Feld);
         return naechster < zuege.size() ? zuege[naechster++] : Zugwahl{};
     }
 };
@@ -104,6 +106,20 @@ TEST(Schiedsrichter, FalscheUndFehlendeZuege) {
         EXPECT_EQ(b.ausgang, f.ausgang);
         EXPECT_EQ(b.schuldig, f.schuldig);
     }
+}
+
+TEST(Schiedsrichter, VerpassterSprungParktDenFuchs) {
+    // The hen on (1, 2) can be jumped from (2, 2); the foxes step elsewhere, so before the hens' next
+    // move that fox waits on the parking square.
+    Drehbuch h, fu;
+    h.zuege = {wahl({{1, 3, 1, 2}}), wahl({{5, 3, 5, 2}})};
+    fu.zuege = {wahl({{4, 2, 4, 1}})};
+    const Partiebericht b = partieLeiten(h, fu, 1);
+    ASSERT_EQ(h.gesehen.size(), 2u);
+    EXPECT_EQ(h.gesehen[1][feldX(kParkfeld)][feldY(kParkfeld)], fuchs);
+    EXPECT_EQ(h.gesehen[1][2][2], leer);
+    EXPECT_EQ(b.ausgang, Ausgang::fuchsOhneZug);
+    EXPECT_EQ(b.partie.spielzug, 4);
 }
 
 TEST(Auswertung, PunkteMitIntervall) {
