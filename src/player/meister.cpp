@@ -11,16 +11,6 @@
 namespace fuh {
 
 namespace {
-// A new depth is begun only within this share (percent) of the budget; each costs a few times the one
-// before. A game still open after 80 positions is one the move limit may draw (won games mostly end
-// earlier), so from there the search may take half the budget; the median move stays short.
-constexpr int kWeicherAnteil = 10;
-constexpr int kSpaeterAnteil = 50;
-constexpr int kSpaet = 80; // positions recorded
-// The clock is read every thousand positions, so the search keeps a margin below the budget.
-constexpr int kHarterAnteilProzent = 90;
-constexpr std::chrono::milliseconds kHoechsteBedenkzeit{450};
-
 Zugwahl alsZugwahl(const meister::Suchzug& z) {
     Zugwahl w;
     auto teil = [](int von, int nach) {
@@ -68,10 +58,7 @@ Zugwahl Meister::berechne(const MeisterLage& lage) {
     a.spielzug = std::clamp(lage.spielzug, 0, meister::kZugbegrenzung);
     a.strafregel = lage.strafregel;
     a.start = start;
-    const auto budget = std::clamp(lage.bedenkzeit, std::chrono::milliseconds{1}, kHoechsteBedenkzeit);
-    const auto budgetUs = std::chrono::duration_cast<std::chrono::microseconds>(budget);
-    a.hart = budgetUs * kHarterAnteilProzent / 100;
-    a.weich = budgetUs * (a.spielzug >= kSpaet ? kSpaeterAnteil : kWeicherAnteil) / 100;
+    a.budget = std::clamp(lage.bedenkzeit, kKuerzesteBedenkzeit, kLaengsteBedenkzeit);
     a.knotenGrenze = knotenGrenze_;
     a.tiefenGrenze = tiefenGrenze_;
 

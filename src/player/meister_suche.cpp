@@ -11,7 +11,6 @@ namespace fuh::meister {
 
 namespace {
 constexpr int kUnendlich = kMatt + 1;
-constexpr int kPruefIntervall = 1023; // nodes between two looks at the clock
 constexpr int kTtZug = 1 << 30, kKiller1 = 1 << 28, kKiller2 = (1 << 28) - 1, kSprungnote = 1 << 29;
 
 int zumSpeichern(int wert, int ply) {
@@ -32,9 +31,8 @@ bool passt(const Eintrag& e, const Suchzug& z) {
 } // namespace
 
 bool Suche::zeitUm() {
-    if (auftrag_.knotenGrenze != 0 && knoten_ >= auftrag_.knotenGrenze) return true;
-    if ((knoten_ & kPruefIntervall) != 0) return false;
-    return std::chrono::steady_clock::now() - auftrag_.start >= auftrag_.hart;
+    if (!halt_ && zeit_.um(knoten_)) halt_ = true;
+    return halt_;
 }
 
 int Suche::statisch(const Suchbrett& b, int spielzug) const {
@@ -59,6 +57,7 @@ bool Suche::nachZug(const Suchbrett& kind, Folge folge, int spielzug, int ply, i
 // Fox jumps only, so that the horizon does not hide a capture; the hens' side is judged as it stands.
 int Suche::ruhe(const Suchbrett& b, int alpha, int beta, int ply, int spielzug) {
     ++knoten_;
+    if (zeitUm()) return 0;
     const int stehen = statisch(b, spielzug);
     if (!b.fuchsAmZug || ply >= kPlies - 1) return stehen;
     Suchzug* zuege = zuege_[ply].data();
@@ -134,8 +133,7 @@ void Suche::speichere(const Suchbrett& b, const Suchzug& z, int wert, Grenze art
 int Suche::ab(const Suchbrett& b, int tiefe, int alpha, int beta, int ply, int spielzug) {
     if (tiefe <= 0 || ply >= kPlies - 1) return ruhe(b, alpha, beta, ply, spielzug);
     ++knoten_;
-    if (zeitUm()) halt_ = true;
-    if (halt_) return 0;
+    if (zeitUm()) return 0;
     const int rest = kZugbegrenzung - spielzug;
     const Eintrag* e = tt_.finde(b.schluessel, rest);
     if (e && e->tiefe >= tiefe && entscheidet(*e, alpha, beta, ply)) return ausDemSpeicher(e->wert, ply);
@@ -211,6 +209,7 @@ int Suche::iteration(int tiefe, int n, int alpha, int beta) {
 Ergebnis Suche::wurzel(const Auftrag& a, Zufall& zufall) {
     auftrag_ = a;
     wurzelFuchs_ = a.brett.fuchsAmZug;
+    zeit_ = Zeitplan(a.start, a.budget, a.knotenGrenze);
     halt_ = false;
     knoten_ = 0;
     killer_ = {};
@@ -238,7 +237,7 @@ Ergebnis Suche::wurzel(const Auftrag& a, Zufall& zufall) {
         erg.tiefe = tiefe;
         const bool entschieden = wert > kEntschieden || wert < -kEntschieden;
         const bool tiefGenug = a.tiefenGrenze != 0 && tiefe >= a.tiefenGrenze;
-        if (entschieden || tiefGenug || std::chrono::steady_clock::now() - a.start >= a.weich) break;
+        if (entschieden || tiefGenug || !zeit_.naechsteTiefe(knoten_)) break;
     }
     erg.knoten = knoten_;
     return erg;

@@ -140,10 +140,7 @@ std::optional<int> befehlszeileLesen(const Programm& p, const std::vector<std::s
     argv.push_back(nullptr);
     const int argc = static_cast<int>(kopie.size());
 
-    auto scheitern = [&](const std::string& grund) {
-        fehler << p.name << ": " << grund << '\n' << aufruf(p) << "Mehr mit „" << p.name << " --help“.\n";
-        return kAufruffehler;
-    };
+    auto scheitern = [&](const std::string& grund) { return aufrufFehler(p, grund, fehler); };
     optind = 0; // start afresh: a second reading must not continue the first
     opterr = 0; // the messages below replace getopt's English ones
     for (int c; (c = getopt_long(argc, argv.data(), t.kurz.c_str(), t.lang.data(), nullptr)) != -1;) {
@@ -160,6 +157,11 @@ std::optional<int> befehlszeileLesen(const Programm& p, const std::vector<std::s
     if (optind < argc)
         return scheitern(std::string("überzähliges Argument: ") + argv[static_cast<std::size_t>(optind)]);
     return std::nullopt;
+}
+
+int aufrufFehler(const Programm& p, const std::string& grund, std::ostream& fehler) {
+    fehler << p.name << ": " << grund << '\n' << aufruf(p) << "Mehr mit „" << p.name << " --help“.\n";
+    return kAufruffehler;
 }
 
 std::optional<uint64_t> zahlLesen(const std::string& s, uint64_t von, uint64_t bis) {

@@ -2,11 +2,9 @@
 //
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// match: the Meister against strength 3, on each side, over games with fixed seeds. Prints the
-// Meister's wins, losses and draws and its time per move (median and maximum). A developer's tool for
-// measuring the Meister; it is not installed.
-#include <signal.h>
-
+// match: the Meister against strength 3, on each side, over games with fixed seeds, or against the
+// Meister (of this build, or of another one). Prints wins, losses and draws and the time per move
+// (median and maximum). A developer's tool for measuring the Meister; it is not installed.
 #include <algorithm>
 #include <cerrno>
 #include <chrono>
@@ -16,11 +14,16 @@
 #include <filesystem>
 #include <iostream>
 #include <limits>
+#include <optional>
 #include <string>
 #include <vector>
 
 #include "game/spiel.h"
+#include "tools/abbruch.h"
+#include "tools/auswertung.h"
+#include "tools/duell.h"
 #include "tools/fortschritt.h"
+#include "tools/meisterquellen.h"
 #include "tools/protokoll_ansicht.h"
 #include "tools/selbstspiel_optionen.h"
 #include "tools/zeichen.h"
@@ -28,56 +31,69 @@
 namespace {
 
 namespace fs = std::filesystem;
+using fuh::Abbruch;
 using fuh::Ergebnis;
 
 struct MatchOptionen {
     uint64_t spiele = 200;
     std::chrono::milliseconds bedenkzeit = fuh::Spielerwahl{}.bedenkzeit;
+    bool fuchsMeister = false, hennenMeister = false; // both: the Meister against the Meister
+    bool duellZeit = false;                           // a duel's option was given
+    fuh::DuellOptionen duell;
 };
+
+// The only player `--fuchs` and `--hennen` know so far.
+fuh::Setzer meisterWahl(bool& ziel) {
+    return [&ziel](const std::string& s) { return ziel = s == "meister"; };
+}
+
+std::string duellBereich() {
+    return ", " + std::to_string(fuh::kKuerzesteBedenkzeit.count()) + " bis " +
+           std::to_string(fuh::kLaengsteBedenkzeit.count()) + " (Vorgabe " +
+           std::to_string(fuh::Duellant{}.bedenkzeit.count()) + ")";
+}
+
+fuh::Setzer duellBedenkzeit(MatchOptionen& o, std::chrono::milliseconds& ziel) {
+    return [&o, &ziel](const std::string& s) {
+        const auto v = fuh::zahlLesen(s, static_cast<uint64_t>(fuh::kKuerzesteBedenkzeit.count()),
+                                      static_cast<uint64_t>(fuh::kLaengsteBedenkzeit.count()));
+        if (v) ziel = std::chrono::milliseconds(*v);
+        o.duellZeit = true;
+        return v.has_value();
+    };
+}
 
 fuh::Programm matchAufruf(MatchOptionen& o) {
     return {
         "match",
         "Der Meister gegen Stärke 3 auf jeder Seite, in Partien mit den Startwerten 1 bis N:\n"
-        "seine Siege, Niederlagen und Remis und seine Zeit je Zug.\n"
+        "seine Siege, Niederlagen und Remis und seine Zeit je Zug. Mit --fuchs meister\n"
+        "--hennen meister der Meister gegen den Meister: je Startwert zwei Partien mit\n"
+        "getauschten Seiten; F beginnt mit den Füchsen, H mit den Hennen.\n"
         "Ein Werkzeug für die Entwicklung; es wird nicht installiert.",
-        "Rückgabewert: 0 fertig, 1 kein Arbeitsordner, 2 falscher Aufruf. Der Arbeitsordner\n"
-        "im temporären Ordner wird am Ende entfernt, auch nach SIGINT, SIGTERM oder SIGHUP.",
+        "Rückgabewert: 0 fertig, 1 kein Arbeitsordner oder ein Gegner versagt, 2 falscher\n"
+        "Aufruf. Der Arbeitsordner im temporären Ordner wird am Ende entfernt, auch nach\n"
+        "SIGINT, SIGTERM oder SIGHUP.",
         {
-            {"spiele", 'n', "N", "Partien je Seite (Vorgabe " + std::to_string(MatchOptionen{}.spiele) + ")",
+            {"spiele", 'n', "N",
+             "Partien je Seite, im Duell Startwerte (Vorgabe " + std::to_string(MatchOptionen{}.spiele) + ")",
              fuh::zahl(o.spiele, 1, std::numeric_limits<uint32_t>::max())},
             fuh::bedenkzeitOption(o.bedenkzeit),
+            {"fuchs", 0, "meister", "F ist der Meister (mit --hennen meister)", meisterWahl(o.fuchsMeister)},
+            {"hennen", 0, "meister", "H ist der Meister (mit --fuchs meister)", meisterWahl(o.hennenMeister)},
+            {"bedenkzeit-fuchs", 0, "MS", "die Bedenkzeit von F" + duellBereich(),
+             duellBedenkzeit(o, o.duell.f.bedenkzeit)},
+            {"bedenkzeit-hennen", 0, "MS", "die Bedenkzeit von H" + duellBereich(),
+             duellBedenkzeit(o, o.duell.h.bedenkzeit)},
+            {"gegner", 0, "PROGRAMM",
+             "H ist der Meister eines anderen Builds: dessen selbstspiel, über --dienen befragt",
+             [&o](const std::string& s) {
+                 o.duell.h.programm = s;
+                 o.duellZeit = true;
+                 return !s.empty();
+             }},
         }};
 }
-
-// SIGINT, SIGTERM and SIGHUP stay blocked and are asked for between moves, so a stopped match still removes
-// its folder.
-class Abbruch {
-  public:
-    Abbruch() {
-        sigemptyset(&signale_);
-        sigaddset(&signale_, SIGINT);
-        sigaddset(&signale_, SIGTERM);
-        sigaddset(&signale_, SIGHUP);
-        sigprocmask(SIG_BLOCK, &signale_, &vorher_);
-    }
-    // The pending signal, or 0.
-    int angefordert() const {
-        const timespec sofort{};
-        const int s = sigtimedwait(&signale_, nullptr, &sofort);
-        return s > 0 ? s : 0;
-    }
-    // Ends the process as the signal would have.
-    [[noreturn]] void weitergeben(int s) const {
-        ::signal(s, SIG_DFL);
-        sigprocmask(SIG_SETMASK, &vorher_, nullptr);
-        raise(s);
-        std::_Exit(128 + s);
-    }
-
-  private:
-    sigset_t signale_{}, vorher_{};
-};
 
 // A fresh folder of its own in the temporary folder, removed with everything in it. On failure the path
 // is empty and `fehler` says why.
@@ -155,12 +171,6 @@ std::string links(const std::string& text, std::size_t breite) {
     return text + std::string(breite > n ? breite - n : 0, ' ');
 }
 
-double median(std::vector<double> v) {
-    if (v.empty()) return 0;
-    std::sort(v.begin(), v.end());
-    return v[v.size() / 2];
-}
-
 // Both sides, one result line each. Returns a signal that stopped the match, or 0.
 int spielen(const MatchOptionen& o, const fs::path& ordner, const Abbruch& abbruch) {
     const auto spiele = static_cast<unsigned long long>(o.spiele);
@@ -185,7 +195,8 @@ int spielen(const MatchOptionen& o, const fs::path& ordner, const Abbruch& abbru
         std::printf("%s %6llu %12llu %6llu %10.1f %10.1f %8zu\n",
                     links(hennen ? "die Hennen" : "die Füchse", 16).c_str(),
                     static_cast<unsigned long long>(b.siege), static_cast<unsigned long long>(b.niederlagen),
-                    static_cast<unsigned long long>(b.remis), median(b.zeiten), hoechst, b.zeiten.size());
+                    static_cast<unsigned long long>(b.remis), fuh::median(b.zeiten), hoechst,
+                    b.zeiten.size());
     }
     return 0;
 }
@@ -194,13 +205,27 @@ int spielen(const MatchOptionen& o, const fs::path& ordner, const Abbruch& abbru
 
 int main(int argc, char** argv) {
     MatchOptionen o;
-    if (const auto ende = fuh::befehlszeileLesen(
-            matchAufruf(o), std::vector<std::string>(argv + 1, argv + argc), std::cout, std::cerr))
+    const fuh::Programm programm = matchAufruf(o);
+    if (const auto ende = fuh::befehlszeileLesen(programm, std::vector<std::string>(argv + 1, argv + argc),
+                                                 std::cout, std::cerr))
         return *ende;
+    const bool duell = o.fuchsMeister && o.hennenMeister;
+    if ((o.fuchsMeister || o.hennenMeister || o.duellZeit) && !duell)
+        return fuh::aufrufFehler(
+            programm, "die Duell-Optionen gelten nur mit --fuchs meister --hennen meister", std::cerr);
     std::setvbuf(stdout, nullptr, _IOLBF, 0); // a pipe sees each result line at once
     const Abbruch abbruch;
     int signal = 0;
-    {
+    if (duell) {
+        o.duell.paare = o.spiele;
+        try {
+            signal = fuh::duell(o.duell, abbruch, std::cout, std::cerr, fuh::terminalSpalten(2));
+        } catch (const fuh::Gegnerfehler& f) {
+            std::cout.flush();
+            std::cerr << "match: " << f.was << '\n';
+            return 1;
+        }
+    } else {
         const Arbeitsordner ordner;
         if (ordner.pfad().empty()) {
             std::cerr << "match: kein Arbeitsordner im temporären Ordner: " << ordner.fehler() << '\n';

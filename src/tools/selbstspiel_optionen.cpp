@@ -115,6 +115,10 @@ Programm selbstspielAufruf(Optionen& o) {
                  "vor jedem Zug die Partie in eine Datei sichern und aus ihr fortsetzen (Log und Dateien "
                  "bleiben gleich)",
                  schalter(o.fortsetzenPruefen)},
+                {"dienen", 0, "",
+                 "keine Partie spielen, sondern den Meister Züge liefern lassen: je Zeile der "
+                 "Standardeingabe eine Stellung, je Zeile der Ausgabe ein Zug (für match --gegner)",
+                 schalter(o.dienen)},
             }};
 }
 

@@ -7,10 +7,12 @@
 #include <chrono>
 #include <ctime>
 #include <exception>
+#include <iostream>
 #include <set>
 
 #include "tools/fortschritt.h"
 #include "tools/selbstspiel_lauf.h"
+#include "tools/zugprotokoll.h"
 
 namespace fuh {
 
@@ -55,6 +57,10 @@ int selbstspielProgramm(const std::vector<std::string>& args, const std::filesys
     Optionen o;
     const Programm programm = selbstspielAufruf(o);
     if (const auto ende = befehlszeileLesen(programm, args, k.aus, k.fehler)) return *ende;
+    if (o.dienen) {
+        dienen(std::cin, k.aus);
+        return 0;
+    }
     // A log scrolling on the same terminal is progress enough, and the line would tear it.
     const std::size_t spalten = o.protokoll && k.ausTerminal ? 0 : k.fehlerSpalten;
     Rueckmeldung rueckmeldung(programm.name, o.spiele, k.fehler, spalten);

@@ -4,7 +4,7 @@
 
 #pragma once
 // "Meister": the computer player that searches ahead. Alpha-beta with iterative deepening over the
-// game's own rules, within a time budget per move; both sides.
+// game's own rules, spending a time budget per move; both sides.
 #include <chrono>
 #include <cstdint>
 #include <memory>
@@ -16,6 +16,10 @@
 #include "player/zugwahl.h"
 
 namespace fuh {
+
+// The budget per move is kept within these; the window gives 400 ms, the measuring tools more.
+inline constexpr std::chrono::milliseconds kKuerzesteBedenkzeit{1};
+inline constexpr std::chrono::milliseconds kLaengsteBedenkzeit{5000};
 
 struct MeisterLage {
     const Brettfeld& Feld;
@@ -41,8 +45,8 @@ class Meister {
     // The move for the side to move; no move (anzahl 0) when it has none or the position is not one.
     Zugwahl berechne(const MeisterLage& lage);
 
-    // Extra limits for tools and tests, which need a search that does not depend on the clock:
-    // stop after this many positions or at this depth (0: no limit).
+    // Limits for tools and tests, which need a search that does not depend on the clock: a budget of
+    // positions in place of the time (the same move on every machine), and a depth to stop at (0: none).
     void grenzen(uint64_t knoten, int tiefe);
     void gewichte(const meister::Gewichte& g);
 

@@ -12,6 +12,7 @@
 #include "board/zufall.h"
 #include "player/meister_bewertung.h"
 #include "player/meister_brett.h"
+#include "player/meister_zeit.h"
 #include "player/transposition.h"
 
 namespace fuh::meister {
@@ -27,9 +28,8 @@ struct Auftrag {
     int spielzug = 0;
     bool strafregel = true;
     std::chrono::steady_clock::time_point start;
-    std::chrono::microseconds weich{0}; // no new depth is begun after this
-    std::chrono::microseconds hart{0};  // the search stops at once after this
-    uint64_t knotenGrenze = 0;
+    std::chrono::microseconds budget{0};
+    uint64_t knotenGrenze = 0; // instead of the clock, when not 0
     int tiefenGrenze = 0;
 };
 
@@ -62,6 +62,7 @@ class Suche {
     bool zeitUm();
 
     Auftrag auftrag_;
+    Zeitplan zeit_;
     bool wurzelFuchs_ = false;
     bool halt_ = false;
     uint64_t knoten_ = 0;

@@ -42,6 +42,10 @@ inline constexpr int kAufruffehler = 2;
 std::optional<int> befehlszeileLesen(const Programm& p, const std::vector<std::string>& args,
                                      std::ostream& aus, std::ostream& fehler);
 
+// A command line whose options do not fit together: one line naming why, and the usage. Returns the
+// exit status.
+int aufrufFehler(const Programm& p, const std::string& grund, std::ostream& fehler);
+
 // A plain decimal number from `von` to `bis` (no sign, no blanks; any length is safe).
 std::optional<uint64_t> zahlLesen(const std::string& s, uint64_t von, uint64_t bis);
 

@@ -22,6 +22,7 @@ struct Optionen {
     std::optional<uint32_t> seed; // already reduced to 24 bits
     bool protokoll = false;
     bool fortsetzenPruefen = false; // save the game to a file and go on from it before every move
+    bool dienen = false;            // play no game: answer move requests (match --gegner) instead
     Spielerwahl spieler;            // --fuchs, --hennen, --bedenkzeit: each side at its own strength
     bool menschFuchs = false, menschHennen = false; // --fuchs mensch, --hennen mensch: a random person
 };

@@ -1,0 +1,124 @@
+// SPDX-FileCopyrightText: 2026 The Fuchs und Hennen authors
+//
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "tools/duell.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdio>
+#include <memory>
+#include <vector>
+
+#include "tools/auswertung.h"
+#include "tools/fortschritt.h"
+#include "tools/meisterquellen.h"
+#include "tools/zeichen.h"
+
+namespace fuh {
+
+namespace {
+
+constexpr int kUeberzugProzent = 110; // a move that takes longer than this share of its budget is counted
+
+struct Bilanz {
+    uint64_t siege = 0, niederlagen = 0;
+    std::array<uint64_t, 3> remis{}; // at the move limit, last fox, the foxes without a move
+    std::vector<double> paarpunkte;  // per seed, the mean of its two games
+    std::vector<double> ms;
+    uint64_t remisGesamt() const { return remis[0] + remis[1] + remis[2]; }
+};
+
+std::unique_ptr<Zugquelle> quelle(const Duellant& d) {
+    if (d.programm.empty()) return std::make_unique<MeisterQuelle>(d.bedenkzeit);
+    return std::make_unique<FremdeQuelle>(d.programm, d.bedenkzeit);
+}
+
+// Books one game for the player that had `seite`; returns its score.
+double buchen(Bilanz& b, const Partiebericht& p, int16_t seite) {
+    const std::vector<double>& ms = seite == henne ? p.msHennen : p.msFuchs;
+    b.ms.insert(b.ms.end(), ms.begin(), ms.end());
+    const double punkte = seite == henne ? hennenPunkte(p.ausgang) : 1 - hennenPunkte(p.ausgang);
+    if (punkte == 1) ++b.siege;
+    if (punkte == 0) ++b.niederlagen;
+    if (p.ausgang == Ausgang::zugbegrenzung) ++b.remis[0];
+    if (p.ausgang == Ausgang::letzterFuchs) ++b.remis[1];
+    if (p.ausgang == Ausgang::fuchsOhneZug) ++b.remis[2];
+    return punkte;
+}
+
+Partiebericht spielen(Zugquelle& hennen, Zugquelle& fuechse, uint32_t seed) {
+    Partiebericht p = partieLeiten(hennen, fuechse, seed);
+    if (p.ausgang == Ausgang::ungueltig)
+        throw Gegnerfehler{"Startwert " + std::to_string(seed) + ": ein unerlaubter Zug der " +
+                           (p.schuldig == henne ? "Hennen" : "Füchse")};
+    return p;
+}
+
+std::string name(const Duellant& d) {
+    return (d.programm.empty() ? std::string("dieser Meister") : d.programm) + ", " +
+           std::to_string(d.bedenkzeit.count()) + " ms";
+}
+
+void zeile(std::ostream& aus, const char* wer, const Bilanz& b, std::chrono::milliseconds budget) {
+    const Punktzahl p = punktzahl(b.paarpunkte);
+    const double grenze = static_cast<double>(budget.count()) * kUeberzugProzent / 100;
+    const auto ueber = std::count_if(b.ms.begin(), b.ms.end(), [grenze](double ms) { return ms > grenze; });
+    char text[160];
+    std::snprintf(
+        text, sizeof text, "%-7s %6llu %12llu %6llu %6llu %6llu %6llu %7.3f ±%5.3f %10.1f %10.1f %8zu %6ld",
+        wer, static_cast<unsigned long long>(b.siege), static_cast<unsigned long long>(b.niederlagen),
+        static_cast<unsigned long long>(b.remisGesamt()), static_cast<unsigned long long>(b.remis[0]),
+        static_cast<unsigned long long>(b.remis[1]), static_cast<unsigned long long>(b.remis[2]), p.wert,
+        p.plusMinus, median(b.ms), hoechstwert(b.ms), b.ms.size(), static_cast<long>(ueber));
+    aus << text << std::endl;
+}
+
+} // namespace
+
+int duell(const DuellOptionen& o, const Abbruch& abbruch, std::ostream& aus, std::ostream& fehler,
+          std::size_t spalten) {
+    const auto f = quelle(o.f), h = quelle(o.h);
+    aus << "Meister gegen Meister: Startwerte 1.." << o.paare << ", je zwei Partien mit getauschten Seiten\n"
+        << "F (zuerst die Füchse): " << name(o.f) << "\nH (zuerst die Hennen): " << name(o.h) << "\n\n";
+    Bilanz bf, bh;
+    std::array<uint64_t, 3> nachSeite{}; // the hens won, the foxes won, drawn
+    Fortschritt fortschritt(fehler, spalten);
+    const auto start = std::chrono::steady_clock::now();
+    for (uint64_t s = 1; s <= o.paare; ++s) {
+        const auto seed = static_cast<uint32_t>(s);
+        double pf = 0, ph = 0;
+        for (const bool fFuchs : {true, false}) {
+            if (const int signal = abbruch.angefordert()) return signal;
+            const Partiebericht p = fFuchs ? spielen(*h, *f, seed) : spielen(*f, *h, seed);
+            pf += buchen(bf, p, fFuchs ? fuchs : henne);
+            ph += buchen(bh, p, fFuchs ? henne : fuchs);
+            const double hp = hennenPunkte(p.ausgang);
+            ++nachSeite[hp == 1 ? 0 : hp == 0 ? 1 : 2];
+        }
+        bf.paarpunkte.push_back(pf / 2);
+        bh.paarpunkte.push_back(ph / 2);
+        fortschritt.melde(s, o.paare,
+                          "F " + std::to_string(bf.siege) + "  H " + std::to_string(bh.siege) + "  Remis " +
+                              std::to_string(bf.remisGesamt()),
+                          std::chrono::steady_clock::now() - start);
+    }
+    fortschritt.beenden();
+    char kopf[160];
+    std::snprintf(kopf, sizeof kopf, "%-7s %6s %12s %6s %6s %6s %6s %7s %6s %10s %10s %9s %6s", "Spieler",
+                  "Siege", "Niederlagen", "Remis", "Grenze", "LFuchs", "KZug", "Punkte", "±95 %", "Median ms",
+                  "Max ms", "Züge", "Über");
+    aus << kopf << '\n';
+    zeile(aus, "F", bf, o.f.bedenkzeit);
+    zeile(aus, "H", bh, o.h.bedenkzeit);
+    aus << "\nRemis: an der Zugbegrenzung (Grenze), letzter Fuchs ausgeschlossen (LFuchs), die Füchse ohne "
+           "Zug (KZug).\nÜber: Züge mehr als "
+        << kUeberzugProzent - 100
+        << " % über der Bedenkzeit.\nPunkte: Sieg 1, Remis 0,5, je Startwert gemittelt; 95 %-Intervall über "
+           "die Startwerte.\n"
+        << "Nach Seiten: die Hennen gewinnen " << nachSeite[0] << ", die Füchse " << nachSeite[1]
+        << ", Remis " << nachSeite[2] << std::endl;
+    return 0;
+}
+
+} // namespace fuh
