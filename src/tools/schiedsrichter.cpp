@@ -74,7 +74,7 @@ std::optional<Ausgang> Partieleitung::hennenZug(Zugquelle& q, std::vector<double
     const Zugwahl w = fragen(q, henne, ms);
     if (w.keinZug()) return aufzeichnen(Teilzug{}, Ausgang::hennenOhneZug);
     const Teilzug z = *w.begin();
-    if (w.anzahl != 1 || !korrekterZug(Feld_, Computer::fuchs, {}, z.vonX, z.vonY, z.nachX, z.nachY))
+    if (w.anzahl != 1 || !korrekterZug(Feld_, Seite::Hennen, {}, z.vonX, z.vonY, z.nachX, z.nachY))
         return Ausgang::ungueltig;
     Feld_[z.nachX][z.nachY] = henne;
     Feld_[z.vonX][z.vonY] = leer;
@@ -86,7 +86,7 @@ std::optional<Ausgang> Partieleitung::fuchsZug(Zugquelle& q, std::vector<double>
     if (w.keinZug()) return aufzeichnen(Teilzug{}, Ausgang::fuchsOhneZug);
     Sprungfolge sprung;
     for (const Teilzug& z : w) {
-        if (!korrekterZug(Feld_, Computer::hennen, sprung, z.vonX, z.vonY, z.nachX, z.nachY))
+        if (!korrekterZug(Feld_, Seite::Fuchs, sprung, z.vonX, z.vonY, z.nachX, z.nachY))
             return Ausgang::ungueltig;
         const bool springt = z.sprung();
         if (!springt && w.anzahl > 1) return Ausgang::ungueltig; // a step ends the turn alone

@@ -62,7 +62,7 @@ TEST(Schiedsrichter, UrteiltWieDasSpiel) {
         Zufall spielZufall(seed);
         Spiel spiel(ansicht, spielZufall, ordner.pfad());
         spiel.einstellungenFestlegen({2, 0, 0, 0});
-        spiel.Neu_Click();
+        spiel.neuesSpiel();
 
         const Lerndatei lerndatei(ordner.pfad());
         Zufall zufall(seed);

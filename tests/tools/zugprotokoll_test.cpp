@@ -79,7 +79,7 @@ TEST(Zugprotokoll, DienerAntwortetJederZeile) {
     const auto w = antwortLesen(zug);
     ASSERT_TRUE(w && w->anzahl == 1) << zug;
     const Teilzug& z = w->zuege[0];
-    EXPECT_TRUE(korrekterZug(Feld, Computer::fuchs, {}, z.vonX, z.vonY, z.nachX, z.nachY)) << zug;
+    EXPECT_TRUE(korrekterZug(Feld, Seite::Hennen, {}, z.vonX, z.vonY, z.nachX, z.nachY)) << zug;
 }
 
 } // namespace
