@@ -18,9 +18,12 @@ inline constexpr int16_t leer = 1;
 inline constexpr int16_t henne = 2;
 inline constexpr int16_t fuchs = 3;
 
-inline constexpr int kFiguren = 22; // 0 and 1 foxes, 2..21 hens
-inline constexpr int kFelder = 49;  // 7 x 7 squares, each with a drop target
-inline constexpr int kParkfeld = 0; // where a penalised fox waits, off the cross
+inline constexpr int kFuechse = 2;
+inline constexpr int kHennen = 20;
+inline constexpr int kFiguren = kFuechse + kHennen; // 0 and 1 foxes, 2..21 hens
+inline constexpr int kFelder = 49;                  // 7 x 7 squares, each with a drop target
+inline constexpr int kParkfeld = 0;                 // where a penalised fox waits, off the cross
+inline constexpr int kLaengsteKette = kHennen;      // a chain of jumps can take at most every hen
 
 constexpr int feldX(int s) {
     return s % 7;
@@ -40,6 +43,14 @@ constexpr bool imZielfeld(int x, int y) {
 constexpr bool aufKreuz(int x, int y) {
     return aufGitter(x, y) && ((x >= 2 && x <= 4) || (y >= 2 && y <= 4));
 }
+
+// The hens win when every square of the target area holds one, so with fewer hens left they have lost.
+inline constexpr int kZielfelder = [] {
+    int n = 0;
+    for (int s = 0; s < kFelder; ++s)
+        n += imZielfeld(feldX(s), feldY(s));
+    return n;
+}();
 
 struct Stellung {
     Brettfeld Feld{};

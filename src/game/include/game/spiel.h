@@ -125,7 +125,7 @@ class Spiel {
 
     // End of a move, end of a game, and filing.
     bool endecheck(int16_t figur);
-    void spielende(int16_t figur);
+    Spielausgang spielende(int16_t figur);
     std::optional<int16_t> punkte();
     void beende();
     // One message names every file that could not be saved at this moment.
