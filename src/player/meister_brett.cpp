@@ -181,14 +181,15 @@ bool Suchbrett::kannSpringen(int feld) const {
 // continuations: without this a fox among many hens would have thousands of routes.
 void Suchbrett::kette(int pos, Suchzug& z, Suchzug* aus, int& n, int erster) {
     const Linien& l = linien();
-    for (int r = 0; r < 8 && z.spruenge < kLaengsteKette; ++r) {
+    // A full list could not tell a new route from one it has no room for, and would try them all.
+    for (int r = 0; r < 8 && z.spruenge < kLaengsteKette && n < kHoechstZuege; ++r) {
         const int m = l.mitte[pos][r];
         if (m == kKeiner || f[m] != henne) continue;
         const int8_t ziel = l.sprung[pos][r];
         if (f[ziel] != leer) continue;
         z.nach[z.spruenge++] = ziel;
         if (!schonGelistet(aus, erster, n, z)) {
-            if (n < kHoechstZuege) aus[n++] = z;
+            aus[n++] = z;
             f[m] = leer;
             kette(ziel, z, aus, n, erster);
             f[m] = henne;
