@@ -264,7 +264,7 @@ Folge Suchbrett::ziehe(const Suchzug& z, bool strafregel) {
         } else if (strafregel && geparkt()) {
             // Back onto the first empty square of rows 2..6, column by column.
             for (int x = 0; x <= 6 && folge == Folge::nichts; ++x)
-                for (int y = 2; y <= 6 && folge == Folge::nichts; ++y)
+                for (int y = kRueckkehrAbZeile; y <= 6 && folge == Folge::nichts; ++y)
                     if (f[quadrat(x, y)] == leer) {
                         setze(kParkfeld, leer);
                         setze(quadrat(x, y), fuchs);

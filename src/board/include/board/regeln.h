@@ -21,6 +21,8 @@ constexpr bool korrekt(int x, int y, int a, int b) {
 
 // The game is drawn when a move records this many positions.
 inline constexpr int kZugbegrenzung = 149;
+// A parked fox returns to the first empty square from this row down, column by column.
+inline constexpr int kRueckkehrAbZeile = 2;
 
 // Which side the computer plays (the setting PC). Read from a file, so it may hold any other value too,
 // which then matches none of these.
