@@ -50,7 +50,7 @@ std::vector<Zugbild> regelzuege(const Brettfeld& Feld, int16_t seite, const Spru
     return aus;
 }
 
-// The Meister lists every route of a chain; routes to the same end are one move.
+// The Meister lists each chain once too: two routes to the same end would be searched twice.
 std::vector<Zugbild> meisterzuege(std::vector<meister::Suchzug>& z, const Brettfeld& Feld, int16_t seite,
                                   int nurKetteVon = -1) {
     const auto b = meister::Suchbrett::aus(Feld, seite == fuchs);
@@ -64,7 +64,6 @@ std::vector<Zugbild> meisterzuege(std::vector<meister::Suchzug>& z, const Brettf
         aus.push_back(bild(z[i].von, kind.feld()));
     }
     std::sort(aus.begin(), aus.end());
-    aus.erase(std::unique(aus.begin(), aus.end()), aus.end());
     return aus;
 }
 
