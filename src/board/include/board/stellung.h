@@ -18,12 +18,12 @@ inline constexpr int16_t leer = 1;
 inline constexpr int16_t henne = 2;
 inline constexpr int16_t fuchs = 3;
 
-inline constexpr int kFuechse = 2;
-inline constexpr int kHennen = 20;
-inline constexpr int kFiguren = kFuechse + kHennen; // 0 and 1 foxes, 2..21 hens
-inline constexpr int kFelder = 49;                  // 7 x 7 squares, each with a drop target
-inline constexpr int kParkfeld = 0;                 // where a penalised fox waits, off the cross
-inline constexpr int kLaengsteKette = kHennen;      // a chain of jumps can take at most every hen
+inline constexpr int kAnzahlFuechse = 2;
+inline constexpr int kAnzahlHennen = 20;
+inline constexpr int kFiguren = kAnzahlFuechse + kAnzahlHennen; // 0 and 1 foxes, 2..21 hens
+inline constexpr int kFelder = 49;                              // 7 x 7 squares, each with a drop target
+inline constexpr int kParkfeld = 0;                             // where a penalised fox waits, off the cross
+inline constexpr int kLaengsteKette = kAnzahlHennen;            // a chain of jumps can take at most every hen
 
 constexpr int feldX(int s) {
     return s % 7;
