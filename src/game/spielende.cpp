@@ -12,13 +12,28 @@ namespace fuh {
 
 namespace {
 constexpr int kHoechstpunkte = 640; // the foxes' points are this minus the hens' worth
+
+// The message of each end; the move limit ends the game without one.
+const char* meldung(Endegrund g) {
+    switch (g) {
+    case Endegrund::hennenImZiel:
+        return kHennenGewinnen;
+    case Endegrund::zuWenigHennen:
+        return kFuchsGewinnt;
+    case Endegrund::hennenOhneZug:
+        return kFuchsGewinntOhneZug;
+    case Endegrund::fuchsOhneZug:
+        return kRemisZiel;
+    default:
+        return nullptr;
+    }
 }
+} // namespace
 
 bool Spiel::endecheck(int16_t figur) {
     bool ergebnis = false;
     z_.partie.pstoSits(z_.stellung.Feld, z_.zugregister);
-    spielende(figur);
-    if (z_.partie.spielzug == kZugbegrenzung) {
+    if (spielende(figur).enthaelt(Endegrund::zugbegrenzung)) {
         z_.ergebnis = Ergebnis::remis;
         sperren(false); // no move may be recorded past the position table
         ansicht_.zugbegrenzungErreicht();
@@ -40,29 +55,25 @@ bool Spiel::endecheck(int16_t figur) {
     return ergebnis;
 }
 
-void Spiel::spielende(int16_t figur) {
-    int n = 0, z = 0;
-    for (int x = 0; x <= 6; ++x)
-        for (int y = 0; y <= 6; ++y)
-            if (z_.stellung.Feld[x][y] == henne) {
-                ++n;
-                if (imZielfeld(x, y)) ++z;
-            }
+// Announces every end the rules find; the move limit is left to the caller, which announces it last.
+Spielausgang Spiel::spielende(int16_t figur) {
+    // A side that found no move leaves the destination at (0, 0), and so does the last fox's parking.
+    const bool keinZug = z_.zugregister.nachX == 0 && z_.zugregister.nachY == 0;
+    const Spielausgang ausgang = spielausgang(z_.stellung.Feld, figur, keinZug, z_.partie.spielzug);
     const std::optional<Seite> mensch = menschenseite();
     z_.ergebnis = Ergebnis::offen;
-    auto ende = [&](Ergebnis e, const char* text, bool menschGewinnt) {
+    for (const Endegrund g : ausgang) {
+        const char* text = meldung(g);
+        if (!text) continue;
+        const Ergebnis e = ergebnisVon(g);
         z_.ergebnis = e;
         ansicht_.meldung(text);
         sperren(false);
+        const bool menschGewinnt = (e == Ergebnis::hennen && mensch == Seite::Hennen) ||
+                                   (e == Ergebnis::fuchs && mensch == Seite::Fuchs);
         z_.oeff.u_is_sieger = menschGewinnt ? kSiegJa : kSiegNein;
-    };
-    if (z == 9) ende(Ergebnis::hennen, kHennenGewinnen, mensch == Seite::Hennen);
-    if (n < 9) ende(Ergebnis::fuchs, kFuchsGewinnt, mensch == Seite::Fuchs);
-    if (z_.zugregister.nachX == 0 && z_.zugregister.nachY == 0) {
-        // The side to move found no move (or the last fox would have been parked).
-        if (figur == henne) ende(Ergebnis::fuchs, kFuchsGewinntOhneZug, mensch == Seite::Fuchs);
-        if (figur == fuchs) ende(Ergebnis::remis, kRemisZiel, false);
     }
+    return ausgang;
 }
 
 std::optional<int16_t> Spiel::punkte() {

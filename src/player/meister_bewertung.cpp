@@ -11,7 +11,7 @@ namespace fuh::meister {
 
 namespace {
 
-constexpr int kZugende = 149; // the move limit
+constexpr int kZugende = kZugbegrenzung; // the hens hurry more as the move limit nears
 
 // Row by row from the top; squares off the cross hold 0. The target area is worth most, the upper
 // rows most of all because they are filled last and can only be reached through the lower ones.

@@ -80,6 +80,23 @@ uint64_t seitenschluessel() {
     return zobrist().seite;
 }
 
+uint64_t Suchzug::geschlagen() const {
+    uint64_t maske = 0;
+    int feld = von;
+    for (int i = 0; i < spruenge; ++i) {
+        maske |= uint64_t{1} << ((feld + nach[i]) / 2); // the middle square of a straight jump
+        feld = nach[i];
+    }
+    return maske;
+}
+
+bool schonGelistet(const Suchzug* aus, int erster, int n, const Suchzug& z) {
+    const uint64_t maske = z.geschlagen();
+    for (int i = erster; i < n; ++i)
+        if (aus[i].ende() == z.ende() && aus[i].spruenge > 0 && aus[i].geschlagen() == maske) return true;
+    return false;
+}
+
 bool Suchzug::gleich(const Suchzug& z) const {
     if (von != z.von || spruenge != z.spruenge) return false;
     for (int i = 0; i < (spruenge > 0 ? spruenge : 1); ++i)
@@ -111,7 +128,7 @@ Suchbrett Suchbrett::aus(const Brettfeld& Feld, bool fuchsAmZug) {
             const int16_t c = Feld[x][y];
             const bool kreuz = linien().kreuz[s];
             // Only the corner square may hold a piece off the cross: the parked fox.
-            if (c == fuchs && (kreuz || s == kPark) && fuechse < 2) {
+            if (c == fuchs && (kreuz || s == kParkfeld) && fuechse < 2) {
                 b.setze(s, fuchs);
                 b.fuchsFeld[fuechse++] = static_cast<int8_t>(s);
             } else if (c == henne && kreuz) {
@@ -159,19 +176,24 @@ bool Suchbrett::kannSpringen(int feld) const {
     return false;
 }
 
-// Every chain of jumps from `pos`, each shorter chain being a move of its own.
-void Suchbrett::kette(int pos, Suchzug& z, Suchzug* aus, int& n) {
+// Every chain of jumps from `pos`, each shorter chain being a move of its own. A route that takes the
+// same hens to the same square as one listed since `erster` is that move again, and so are its
+// continuations: without this a fox among many hens would have thousands of routes.
+void Suchbrett::kette(int pos, Suchzug& z, Suchzug* aus, int& n, int erster) {
     const Linien& l = linien();
-    for (int r = 0; r < 8 && z.spruenge < kKette; ++r) {
+    // A full list could not tell a new route from one it has no room for, and would try them all.
+    for (int r = 0; r < 8 && z.spruenge < kLaengsteKette && n < kHoechstZuege; ++r) {
         const int m = l.mitte[pos][r];
         if (m == kKeiner || f[m] != henne) continue;
         const int8_t ziel = l.sprung[pos][r];
         if (f[ziel] != leer) continue;
         z.nach[z.spruenge++] = ziel;
-        if (n < kHoechstZuege) aus[n++] = z;
-        f[m] = leer;
-        kette(ziel, z, aus, n);
-        f[m] = henne;
+        if (!schonGelistet(aus, erster, n, z)) {
+            aus[n++] = z;
+            f[m] = leer;
+            kette(ziel, z, aus, n, erster);
+            f[m] = henne;
+        }
         --z.spruenge;
     }
 }
@@ -185,7 +207,7 @@ int Suchbrett::fuchszuege(Suchzug* aus, bool nurSpruenge) const {
         Suchzug z;
         z.von = s;
         arbeit.f[s] = leer; // the fox has left its square while it jumps
-        arbeit.kette(s, z, aus, n);
+        arbeit.kette(s, z, aus, n, n);
         arbeit.f[s] = fuchs;
     }
     if (nurSpruenge) return n;
@@ -212,14 +234,14 @@ void Suchbrett::fuchsSpringt(const Suchzug& z) {
 
 Folge Suchbrett::strafe(const std::array<int8_t, 2>& vorher, bool a, bool b) {
     if (!a && !b) return Folge::nichts;
-    if (vorher[0] == kPark || vorher[0] < 0 || vorher[1] < 0) return Folge::letzterFuchs;
+    if (vorher[0] == kParkfeld || vorher[0] < 0 || vorher[1] < 0) return Folge::letzterFuchs;
     // The fox to park is chosen by its place in the scan order after the move.
     const auto jetzt = scanFolge(fuchsFeld);
     const bool zweiter = !a || (b && jetzt[1] / 7 < jetzt[0] / 7);
     const int8_t opfer = jetzt[zweiter ? 1 : 0];
     setze(opfer, leer);
-    setze(kPark, fuchs);
-    fuchsFeld[fuchsFeld[0] == opfer ? 0 : 1] = kPark;
+    setze(kParkfeld, fuchs);
+    fuchsFeld[fuchsFeld[0] == opfer ? 0 : 1] = static_cast<int8_t>(kParkfeld);
     return Folge::geparkt;
 }
 
@@ -242,11 +264,11 @@ Folge Suchbrett::ziehe(const Suchzug& z, bool strafregel) {
         } else if (strafregel && geparkt()) {
             // Back onto the first empty square of rows 2..6, column by column.
             for (int x = 0; x <= 6 && folge == Folge::nichts; ++x)
-                for (int y = 2; y <= 6 && folge == Folge::nichts; ++y)
+                for (int y = kRueckkehrAbZeile; y <= 6 && folge == Folge::nichts; ++y)
                     if (f[quadrat(x, y)] == leer) {
-                        setze(kPark, leer);
+                        setze(kParkfeld, leer);
                         setze(quadrat(x, y), fuchs);
-                        fuchsFeld[fuchsFeld[0] == kPark ? 0 : 1] = static_cast<int8_t>(quadrat(x, y));
+                        fuchsFeld[fuchsFeld[0] == kParkfeld ? 0 : 1] = static_cast<int8_t>(quadrat(x, y));
                         folge = Folge::zurueck;
                     }
         }

@@ -4,6 +4,7 @@
 
 #include "player/strafregel.h"
 
+#include "board/regeln.h"
 #include "board/sprung.h"
 #include "memory/positionscode.h"
 
@@ -19,7 +20,7 @@ Strafe rueckkehr(const Brettfeld& Feld, const Partie& partie) {
     const Fuchsplaetze f = fuchsplaetze(partie.sits[partie.spielzug - 1].code);
     if (!geparkt(f.x1, f.y1) && !geparkt(f.x2, f.y2)) return {};
     for (int x = 0; x <= 6; ++x)
-        for (int y = 2; y <= 6; ++y)
+        for (int y = kRueckkehrAbZeile; y <= 6; ++y)
             if (Feld[x][y] == leer)
                 return {Strafe::Art::einsetzen, {0, 0, static_cast<int16_t>(x), static_cast<int16_t>(y)}};
     return {};

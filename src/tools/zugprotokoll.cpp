@@ -86,7 +86,7 @@ std::string antwortZeile(const Zugwahl& w) {
 std::optional<Zugwahl> antwortLesen(const std::string& zeile) {
     const auto w = woerter(zeile);
     if (w.size() == 1 && w[0] == "keinzug") return Zugwahl{};
-    if (w.size() < 3 || w.size() > 2 + Zugwahl::kHoechsteSpruenge || w[0] != "zug") return std::nullopt;
+    if (w.size() < 3 || w.size() > 2 + kLaengsteKette || w[0] != "zug") return std::nullopt;
     Zugwahl wahl;
     auto von = quadratLesen(w[1]);
     for (std::size_t i = 2; i < w.size(); ++i) {

@@ -19,7 +19,8 @@
 namespace fuh {
 
 namespace {
-const char* const kZugbegrenzung = QT_TRANSLATE_NOOP("fuh::BrettFenster", "Remis: Zugbegrenzung erreicht");
+const char* const kZugbegrenzungText =
+    QT_TRANSLATE_NOOP("fuh::BrettFenster", "Remis: Zugbegrenzung erreicht");
 }
 
 void BrettFenster::anwendungEinrichten(QApplication& /*app*/) {
@@ -75,7 +76,7 @@ void BrettFenster::panelSetzen(Statusfeld feld, const QString& deutsch) {
 }
 
 void BrettFenster::zugbegrenzungZeigen() {
-    statusBar()->showMessage(tr(kZugbegrenzung));
+    statusBar()->showMessage(tr(kZugbegrenzungText));
 }
 
 } // namespace fuh

@@ -19,6 +19,11 @@ constexpr bool korrekt(int x, int y, int a, int b) {
            (a == 0 || b == 0 || geradeZahl(x) == geradeZahl(y));
 }
 
+// The game is drawn when a move records this many positions.
+inline constexpr int kZugbegrenzung = 149;
+// A parked fox returns to the first empty square from this row down, column by column.
+inline constexpr int kRueckkehrAbZeile = 2;
+
 // Which side the computer plays (the setting PC). Read from a file, so it may hold any other value too,
 // which then matches none of these.
 enum class Computer : int16_t { fuchs = 0, hennen = 1, beide = 2 };
@@ -29,6 +34,13 @@ struct Sprungfolge {
     int16_t sprungX = 0, sprungY = 0;
     friend bool operator==(const Sprungfolge&, const Sprungfolge&) = default;
 };
+
+// A hen on (x, y) may step to (x1, y1): one square along a line, never down, onto an empty square.
+bool hennenzugErlaubt(const Brettfeld& Feld, int x, int y, int x1, int y1);
+
+// A fox on (x, y) may step to (x1, y1) or jump there over a hen. While a jump sequence is open, only
+// further jumps of the fox that opened it.
+bool fuchszugErlaubt(const Brettfeld& Feld, const Sprungfolge& sprung, int x, int y, int x1, int y1);
 
 // True when a person playing `seite` may move the piece on (x, y) to (x1, y1) now.
 bool korrekterZug(const Brettfeld& Feld, Seite seite, const Sprungfolge& sprung, int x, int y, int x1,

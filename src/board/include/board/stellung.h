@@ -24,9 +24,12 @@ constexpr Seite gegner(Seite s) {
     return s == Seite::Fuchs ? Seite::Hennen : Seite::Fuchs;
 }
 
-inline constexpr int kFiguren = 22; // 0 and 1 foxes, 2..21 hens
-inline constexpr int kFelder = 49;  // 7 x 7 squares, each with a drop target
-inline constexpr int kParkfeld = 0; // where a penalised fox waits, off the cross
+inline constexpr int kAnzahlFuechse = 2;
+inline constexpr int kAnzahlHennen = 20;
+inline constexpr int kFiguren = kAnzahlFuechse + kAnzahlHennen; // 0 and 1 foxes, 2..21 hens
+inline constexpr int kFelder = 49;                              // 7 x 7 squares, each with a drop target
+inline constexpr int kParkfeld = 0;                             // where a penalised fox waits, off the cross
+inline constexpr int kLaengsteKette = kAnzahlHennen;            // a chain of jumps can take at most every hen
 
 constexpr int feldX(int s) {
     return s % 7;
@@ -46,6 +49,14 @@ constexpr bool imZielfeld(int x, int y) {
 constexpr bool aufKreuz(int x, int y) {
     return aufGitter(x, y) && ((x >= 2 && x <= 4) || (y >= 2 && y <= 4));
 }
+
+// The hens win when every square of the target area holds one, so with fewer hens left they have lost.
+inline constexpr int kZielfelder = [] {
+    int n = 0;
+    for (int s = 0; s < kFelder; ++s)
+        n += imZielfeld(feldX(s), feldY(s));
+    return n;
+}();
 
 struct Stellung {
     Brettfeld Feld{};

@@ -143,7 +143,7 @@ class Spiel {
 
     // End of a move, end of a game, and filing.
     bool endecheck(int16_t figur);
-    void spielende(int16_t figur);
+    Spielausgang spielende(int16_t figur);
     std::optional<int16_t> punkte();
     void beende();
     std::vector<std::string> ablegen(); // writes the finished game's files; returns those that failed

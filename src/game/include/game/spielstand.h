@@ -11,6 +11,7 @@
 
 #include "board/bildlage.h"
 #include "board/regeln.h"
+#include "board/spielausgang.h"
 #include "board/stellung.h"
 #include "board/teilzug.h"
 #include "dialogs/oeffentlich.h"
@@ -18,8 +19,6 @@
 
 namespace fuh {
 
-// How the game ended (ergebnis); `offen` while it runs.
-enum class Ergebnis : int16_t { offen = 0, hennen = 1, fuchs = 2, remis = 3 };
 
 struct Spielstand {
     Stellung stellung;

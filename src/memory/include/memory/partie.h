@@ -21,8 +21,7 @@ struct Situation {
     friend bool operator==(const Situation&, const Situation&) = default;
 };
 
-inline constexpr int kSituationen = 151;   // records 0..150
-inline constexpr int kZugbegrenzung = 149; // the game is drawn when this many positions are recorded
+inline constexpr int kSituationen = 151; // records 0..150; a game ends at the move limit before that
 
 struct Partie {
     std::array<Situation, kSituationen> sits{};

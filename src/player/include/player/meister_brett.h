@@ -8,15 +8,14 @@
 #include <array>
 #include <cstdint>
 
+#include "board/regeln.h"
 #include "board/stellung.h"
 
 namespace fuh::meister {
 
-inline constexpr int kQuadrate = 49;
+inline constexpr int kQuadrate = kFelder;
 inline constexpr int kKeiner = -1;
-inline constexpr int kKette = 20;         // jumps in one chain, at most
-inline constexpr int kHoechstZuege = 160; // moves of one side in one position, at most kept
-inline constexpr int8_t kPark = 0;        // the square where a penalised fox waits
+inline constexpr int kHoechstZuege = 2048; // moves of one side; a fox amid hens can have 1600 chains
 
 // Lines of the cross for every square, directions dx -1..1 outer, dy -1..1 inner, without the null one:
 // the neighbour, and the middle and landing square of a jump; kKeiner where no line leads.
@@ -34,10 +33,14 @@ const Linien& linien();
 struct Suchzug {
     int8_t von = 0;
     int8_t spruenge = 0;
-    std::array<int8_t, kKette> nach{};
+    std::array<int8_t, kLaengsteKette> nach{};
     int8_t ende() const { return nach[spruenge > 0 ? spruenge - 1 : 0]; }
     bool gleich(const Suchzug& z) const;
+    uint64_t geschlagen() const; // the squares of the hens a chain takes, one bit each
 };
+
+// True when a chain among aus[erster..n) takes the same hens to the same square as `z`.
+bool schonGelistet(const Suchzug* aus, int erster, int n, const Suchzug& z);
 
 // What a move did beyond moving pieces.
 enum class Folge : uint8_t {
@@ -57,7 +60,7 @@ struct Suchbrett {
 
     static Suchbrett aus(const Brettfeld& Feld, bool fuchsAmZug);
     Brettfeld feld() const;
-    bool geparkt() const { return fuchsFeld[0] == kPark || fuchsFeld[1] == kPark; }
+    bool geparkt() const { return fuchsFeld[0] == kParkfeld || fuchsFeld[1] == kParkfeld; }
 
     int hennenzuege(Suchzug* aus) const;
     int fuchszuege(Suchzug* aus, bool nurSpruenge = false) const; // chains first, then steps
@@ -70,7 +73,7 @@ struct Suchbrett {
     void setze(int feld, int8_t code);
     void fuchsSpringt(const Suchzug& z);
     Folge strafe(const std::array<int8_t, 2>& vorher, bool a, bool b);
-    void kette(int pos, Suchzug& z, Suchzug* aus, int& n);
+    void kette(int pos, Suchzug& z, Suchzug* aus, int& n, int erster);
 };
 
 uint64_t seitenschluessel();

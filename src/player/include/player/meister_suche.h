@@ -20,8 +20,8 @@ namespace fuh::meister {
 inline constexpr int kMatt = 30000;
 inline constexpr int kEntschieden = kMatt - 200; // values beyond this are a won or lost game
 inline constexpr int kPlies = 64;
-inline constexpr int kZugbegrenzung = 149; // the game is drawn when a move records this many positions
-inline constexpr int kKontempt = 1000;     // a draw is worth this little to the side the search plays
+using fuh::kZugbegrenzung;
+inline constexpr int kKontempt = 1000; // a draw is worth this little to the side the search plays
 
 struct Auftrag {
     Suchbrett brett;

@@ -6,6 +6,7 @@
 // What a computer player returns: the move it chose, which the game then carries out.
 #include <array>
 
+#include "board/stellung.h"
 #include "board/teilzug.h"
 
 namespace fuh {
@@ -13,13 +14,12 @@ namespace fuh {
 // A hen step, a fox step, or a fox's chain of jumps (each jump from where the one before landed).
 // No moves at all: the side to move found none.
 struct Zugwahl {
-    static constexpr int kHoechsteSpruenge = 20; // a chain can take at most every hen
-    std::array<Teilzug, kHoechsteSpruenge> zuege{};
+    std::array<Teilzug, kLaengsteKette> zuege{};
     int anzahl = 0;
 
     bool keinZug() const { return anzahl == 0; }
     void anhaengen(const Teilzug& z) {
-        if (anzahl < kHoechsteSpruenge) zuege[static_cast<std::size_t>(anzahl++)] = z;
+        if (anzahl < kLaengsteKette) zuege[static_cast<std::size_t>(anzahl++)] = z;
     }
     const Teilzug* begin() const { return zuege.data(); }
     const Teilzug* end() const { return zuege.data() + anzahl; }
