@@ -9,6 +9,10 @@
 namespace fuh {
 
 void Spiel::beende() {
+    // The game as it ended, to be filed later should the data folder stay locked.
+    Sicherung ende{zustand(), {}, true};
+    ende.stand.selbstspielLaeuft = false;
+    ende.stand.pcZug = Anforderung::keine;
     if (z_.ergebnis == Ergebnis::hennen) z_.partie.sanktion(3, -3, 1);
     if (z_.ergebnis == Ergebnis::fuchs) z_.partie.sanktion(-3, 3, 1);
     if (z_.ergebnis == Ergebnis::remis) z_.oeff.sw_spielende = false;
@@ -17,12 +21,18 @@ void Spiel::beende() {
     {
         // One lock for the whole filing: another program using the files is waited for once.
         const datei::Ordnersperre sperre = ordnerSperren();
-        if (z_.oeff.einst.Lernmodus == 1) {
+        if (!sperre.gehalten()) {
+            // Nothing is written, so that the whole game can be filed later.
+            if (z_.oeff.einst.Lernmodus == 1) fehler.emplace_back(lerndateiName(z_.oeff.einst.Staerke));
+            fehler.emplace_back(kStatistikdatei);
+            offeneAblage_ = std::move(ende);
+        } else if (z_.oeff.einst.Lernmodus == 1) {
             const auto merge = lerndatei_.speichern(z_.partie, z_.oeff.einst.Staerke);
             z_.neueZuege = merge.neueZuege;
             if (!merge.geschrieben) fehler.emplace_back(lerndateiName(z_.oeff.einst.Staerke));
         }
-        if (!statistik(ordner_, static_cast<int>(z_.ergebnis), z_.oeff.einst, z_.neueZuege))
+        if (sperre.gehalten() &&
+            !statistik(ordner_, static_cast<int>(z_.ergebnis), z_.oeff.einst, z_.neueZuege))
             fehler.emplace_back(kStatistikdatei);
     }
     meldeSchreibfehler(fehler);
@@ -34,6 +44,13 @@ void Spiel::beende() {
     }
     if (z_.oeff.einst.computer() == Computer::fuchs) ansicht_.oeffnen(Fenster::highh);
     if (z_.oeff.einst.computer() == Computer::hennen) ansicht_.oeffnen(Fenster::highf);
+}
+
+void Spiel::ablegen(const Sicherung& s) {
+    verlauf_.clear();
+    offeneAblage_.reset();
+    zustandSetzen(s.stand);
+    beende();
 }
 
 } // namespace fuh

@@ -6,16 +6,19 @@
 // what was read is then checked as a whole before anyone uses it.
 #include <algorithm>
 #include <bitset>
+#include <cstdlib>
 #include <cstring>
 
 #include "game/partiedatei.h"
+#include "memory/positionscode.h"
 
 namespace fuh {
 
 namespace {
 
 constexpr char kMagie[4] = {'F', 'u', 'H', 'P'};
-constexpr uint16_t kVersion = 1;
+// 1: a running game; 2 adds whether the game is a finished one still to be filed.
+constexpr uint16_t kVersion = 2;
 constexpr std::size_t kKopf = sizeof kMagie + 2 + 4; // magic, version, length of what follows
 constexpr std::size_t kPruefsumme = 4;
 constexpr std::size_t kHoechstVerlauf = kSituationen; // a player cannot make more moves than positions
@@ -181,6 +184,66 @@ bool imBereich(int v, int von, int bis) {
     return v >= von && v <= bis;
 }
 
+bool aufgezeichnet(const Code& c) {
+    return std::any_of(c.begin(), c.end(), [](uint8_t v) { return v != 0; });
+}
+
+// Every piece's picture shows where the board has it: a hen's only while it is on the board, a fox's
+// always (a parked fox waits beside the cross). A computer piece glides there in a hundred rounded steps,
+// so its picture may stand up to 50 twips off its place.
+bool bilderPassen(const Spielstand& z) {
+    for (int k = 0; k < kFiguren; ++k) {
+        const int p = z.stellung.figurplatz[k];
+        const bool sichtbar = k < 2 || p != 0;
+        if (z.bilder.sichtbar[k] != sichtbar) return false;
+        if (sichtbar && (std::abs(z.bilder.left[k] - platzLeft(p)) > 50 || std::abs(z.bilder.top[k] - platzTop(p)) > 50))
+            return false;
+    }
+    return true;
+}
+
+// What the game itself can have reached: the positions recorded up to the move counter, the last of them
+// the board; every picture where its piece stands; the flags telling one story.
+bool erreichbar(const Spielstand& z, bool laufend) {
+    const int16_t zug = z.partie.spielzug;
+    if (zug > kZugbegrenzung || (laufend && zug == kZugbegrenzung)) return false;
+    for (int i = 0; i < zug; ++i)
+        if (!aufgezeichnet(z.partie.sits[static_cast<std::size_t>(i)].code)) return false;
+    if (zug > 0 && z.partie.sits[static_cast<std::size_t>(zug - 1)].code != positionscode(z.stellung.Feld))
+        return false;
+    if (!bilderPassen(z)) return false;
+    const Computer PC = z.oeff.einst.computer();
+    if (!imBereich(z.oeff.einst.PC, 0, 2)) return false;
+    const Sprungfolge& sprung = z.sprungfolge;
+    // A chain of jumps is a human fox's, open on the foxes' turn, with that fox standing where it landed.
+    if (sprung.imSprung && (z.selbstspielLaeuft || z.pcZug == Anforderung::hennen ||
+                            z.stellung.Feld[sprung.sprungX][sprung.sprungY] != fuchs))
+        return false;
+    // The computer against itself: only with that setting, and then it is always the one to move.
+    if (z.selbstspielLaeuft && (PC != Computer::beide || z.pcZug != Anforderung::keine)) return false;
+    if (!laufend) return z.endeGefunden && z.ergebnis != Ergebnis::offen && !z.selbstspielLaeuft && !sprung.imSprung;
+    int hennen = 0, imZiel = 0;
+    for (int x = 0; x <= 6; ++x)
+        for (int y = 0; y <= 6; ++y)
+            if (z.stellung.Feld[x][y] == henne) {
+                ++hennen;
+                imZiel += imZielfeld(x, y);
+            }
+    // Running: no end is due, nothing of an end is set, and someone is to move.
+    return z.bilder.ziehbar && !z.endeGefunden && !z.oeff.sw_spielende && !z.oeff.fuchs_null &&
+           z.oeff.u_is_sieger == "    " && hennen >= 9 && imZiel < 9 &&
+           (PC != Computer::beide || z.selbstspielLaeuft || z.oeff.einst.Einzelzug != 0);
+}
+
+// The take-back states lie on the way to the game: earlier, with the same positions recorded so far.
+bool aufDemWeg(const Spielstand& frueher, const Spielstand& spaeter) {
+    if (frueher.partie.spielzug > spaeter.partie.spielzug) return false;
+    for (int i = 0; i < frueher.partie.spielzug; ++i)
+        if (frueher.partie.sits[static_cast<std::size_t>(i)].code != spaeter.partie.sits[static_cast<std::size_t>(i)].code)
+            return false;
+    return true;
+}
+
 bool gueltig(const Spielstand& z) {
     const Teilzug& r = z.zugregister;
     if (!stellungGueltig(z.stellung) || !aufGitter(r.vonX, r.vonY) || !aufGitter(r.nachX, r.nachY) ||
@@ -207,6 +270,7 @@ bool gueltig(const Spielstand& z) {
 
 Bytes partieKodieren(const Sicherung& s) {
     Schreiber inhalt;
+    inhalt.ja(s.abzulegen);
     felder(inhalt, s.stand);
     const std::size_t n = std::min(s.verlauf.size(), kHoechstVerlauf);
     inhalt.u16(static_cast<uint16_t>(n));
@@ -228,7 +292,7 @@ std::optional<Sicherung> partieDekodieren(const Bytes& b) {
     uint16_t version = 0;
     uint32_t laenge = 0;
     kopf.u16(version), kopf.u32(laenge);
-    if (version != kVersion || laenge != b.size() - kKopf - kPruefsumme) return std::nullopt;
+    if ((version != 1 && version != kVersion) || laenge != b.size() - kKopf - kPruefsumme) return std::nullopt;
     const uint8_t* inhalt = b.data() + kKopf;
     Leser summe(inhalt + laenge, kPruefsumme);
     uint32_t pruefsumme = 0;
@@ -237,6 +301,7 @@ std::optional<Sicherung> partieDekodieren(const Bytes& b) {
 
     Leser l(inhalt, laenge);
     Sicherung s;
+    if (version >= 2) l.ja(s.abzulegen);
     felder(l, s.stand);
     uint16_t n = 0;
     l.u16(n);
@@ -244,8 +309,12 @@ std::optional<Sicherung> partieDekodieren(const Bytes& b) {
     s.verlauf.resize(n);
     for (Spielstand& z : s.verlauf)
         felder(l, z);
-    if (l.kaputt || !l.amEnde() || !gueltig(s.stand)) return std::nullopt;
-    if (!std::all_of(s.verlauf.begin(), s.verlauf.end(), gueltig)) return std::nullopt;
+    if (l.kaputt || !l.amEnde() || !gueltig(s.stand) || !erreichbar(s.stand, !s.abzulegen)) return std::nullopt;
+    for (std::size_t i = 0; i < s.verlauf.size(); ++i) {
+        const Spielstand& z = s.verlauf[i];
+        const Spielstand& danach = i + 1 < s.verlauf.size() ? s.verlauf[i + 1] : s.stand;
+        if (!gueltig(z) || !erreichbar(z, true) || !aufDemWeg(z, danach)) return std::nullopt;
+    }
     return s;
 }
 

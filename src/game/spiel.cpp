@@ -51,6 +51,7 @@ void Spiel::init() {
     z_.partie.spielzug = 0;
     z_.selbstspielLaeuft = false;
     verlauf_.clear();
+    offeneAblage_.reset();
     if (z_.zurueckgenommen) ansicht_.status(Statusfeld::zuruecknahme, "");
     z_.zurueckgenommen = false;
     statusTexte();
@@ -99,7 +100,16 @@ void Spiel::sperren(bool ziehbar) {
 void Spiel::einstellungenUebernehmen(const Einstellungen& e) {
     // The moves so far were made under the old settings; taking them back would bring those back too.
     if (!(e == z_.oeff.einst)) verlauf_.clear();
+    const Einstellungen alt = z_.oeff.einst;
     z_.oeff.einst = e;
+    // A running game does not change who plays it where nobody would then move: a game the computer plays
+    // itself keeps its side, and a game of the player's becomes none that the computer plays against
+    // itself. Such a change takes effect with the next game, which reads the settings file.
+    if (laeuft() && (z_.selbstspielLaeuft ||
+                     (e.computer() == Computer::beide && e.Einzelzug == 0 && !z_.selbstspielLaeuft))) {
+        z_.oeff.einst.PC = alt.PC;
+        if (!z_.selbstspielLaeuft) z_.oeff.einst.Einzelzug = alt.Einzelzug;
+    }
 }
 
 void Spiel::einstellungenFestlegen(const Einstellungen& e) {

@@ -109,8 +109,8 @@ void BrettFenster::menueAnlegen() {
     tempoMenue(spielMenue);
     spracheMenue(spielMenue);
     spielMenue->addSeparator();
-    aktion(spielMenue, "Beenden", QT_TR_NOOP("&Beenden"), [] {
-        QApplication::quit();
+    aktion(spielMenue, "Beenden", QT_TR_NOOP("&Beenden"), [this] {
+        if (beendenDarf()) QApplication::quit();
     })->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Q));
 
     // A command right on the menu bar, as the game has always had it.

@@ -98,6 +98,12 @@ class Spiel {
     Spielstand zustand() const;
     Sicherung sicherung() const { return {zustand(), verlauf_}; }
     void fortsetzen(const Sicherung& s);
+    // A finished game whose filing found the data folder locked by another program until the time ran
+    // out: nothing of it was written, and this is what files it later (with `ablegen`). Empty once a game
+    // is begun or continued.
+    const std::optional<Sicherung>& offeneAblage() const { return offeneAblage_; }
+    // Files such a game now, as its end would have (a `Sicherung` with `abzulegen`).
+    void ablegen(const Sicherung& s);
 
   private:
     // Start-up and new game.
@@ -140,6 +146,7 @@ class Spiel {
     std::filesystem::path ordner_;
     Spielstand z_;                    // the random sources' states are taken into it only by zustand()
     std::vector<Spielstand> verlauf_; // before each of the player's moves in this game, oldest first
+    std::optional<Sicherung> offeneAblage_;
     Lerndatei lerndatei_;
     std::optional<Einstellungen> festeEinstellungen_;
     Spielerwahl spielerwahl_;
