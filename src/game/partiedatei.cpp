@@ -13,7 +13,9 @@
 #include <atomic>
 #include <cerrno>
 #include <cstdio>
+#include <functional>
 #include <set>
+#include <string_view>
 
 #include "memory/benutzerordner.h"
 
@@ -34,11 +36,10 @@ std::string schlitz(int i) {
 }
 
 std::string kennungVon(const Bytes& b) {
-    uint64_t h = 14695981039346656037ull;
-    for (uint8_t c : b)
-        h = (h ^ c) * 1099511628211ull;
-    char text[17];
-    std::snprintf(text, sizeof text, "%016llx", static_cast<unsigned long long>(h));
+    const std::size_t h =
+        std::hash<std::string_view>{}(std::string_view(reinterpret_cast<const char*>(b.data()), b.size()));
+    char text[2 * sizeof h + 1];
+    std::snprintf(text, sizeof text, "%0*zx", static_cast<int>(2 * sizeof h), h);
     return text;
 }
 
@@ -118,7 +119,8 @@ void Partieablage::staleTempsEntfernen() {
     const int ordner = ordnerZustand_.fd.fd();
     for (const std::string& n : alt) {
         // A writer holds a lock on its file while writing: a file nobody locks was left by a killed one.
-        const datei::Deskriptor f(::openat(ordner, n.c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
+        const datei::Deskriptor f(
+            ::openat(ordner, n.c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
         if (f && ::flock(f.fd(), LOCK_EX | LOCK_NB) == 0 && nennt(ordner, n, f.fd()))
             ::unlinkat(ordner, n.c_str(), 0);
     }
@@ -136,7 +138,8 @@ Partieablage::Angebot Partieablage::holen(std::vector<std::string>& uebernommen)
     std::set<std::string> vorhanden;
     for (int i = 0; i < kSchlitze; ++i) {
         const std::string name = schlitz(i);
-        datei::Deskriptor f(::openat(ordner, name.c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC | O_NOCTTY));
+        datei::Deskriptor f(
+            ::openat(ordner, name.c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC | O_NOCTTY));
         if (!f) {
             // A symbolic link in a saved game's place goes, never what it points to.
             if (errno == ELOOP && ::unlinkat(ordner, name.c_str(), 0) == 0) ++angebot.beschaedigt;
@@ -164,17 +167,19 @@ Partieablage::Angebot Partieablage::holen(std::vector<std::string>& uebernommen)
         angebot.kennung = kennung;
         gehalten_ = std::move(f);
         name_ = name;
+        angeboten_ = true;
     }
     std::erase_if(uebernommen, [&](const std::string& k) { return !vorhanden.count(k); });
     return angebot;
 }
 
 bool Partieablage::erledigt() {
+    angeboten_ = false; // answered: from now on the file is this window's
     return verwerfen();
 }
 
 bool Partieablage::verwerfen() {
-    if (!gehalten_) return true;
+    if (!gehalten_ || angeboten_) return true;
     if (meinName() && ::unlinkat(ordnerZustand_.fd.fd(), name_.c_str(), 0) != 0) {
         fehler_ = errno;
         return false;
@@ -187,6 +192,7 @@ bool Partieablage::verwerfen() {
 void Partieablage::freigeben() {
     gehalten_ = datei::Deskriptor();
     name_.clear();
+    angeboten_ = false;
 }
 
 bool Partieablage::sichern(const Sicherung& s) {
@@ -194,7 +200,8 @@ bool Partieablage::sichern(const Sicherung& s) {
     const int ordner = ordnerZustand_.fd.fd();
     const Bytes b = partieKodieren(s);
     const std::string temp = tempName();
-    datei::Deskriptor f(::openat(ordner, temp.c_str(), O_RDWR | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0600));
+    datei::Deskriptor f(
+        ::openat(ordner, temp.c_str(), O_RDWR | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0600));
     if (!f) {
         fehler_ = errno;
         return false;
@@ -203,7 +210,7 @@ bool Partieablage::sichern(const Sicherung& s) {
     bool ok = ::flock(f.fd(), LOCK_EX | LOCK_NB) == 0 && datei::schreiben(f.fd(), b.data(), b.size(), 0) &&
               ::fsync(f.fd()) == 0;
     std::string name;
-    if (ok && meinName()) {
+    if (ok && meinName() && !angeboten_) {
         ok = ::renameat(ordner, temp.c_str(), ordner, name_.c_str()) == 0;
         name = name_;
     } else if (ok) {
@@ -222,6 +229,7 @@ bool Partieablage::sichern(const Sicherung& s) {
     ::fsync(ordner);
     gehalten_ = std::move(f);
     name_ = name;
+    angeboten_ = false;
     return true;
 }
 

@@ -11,6 +11,7 @@
 
 #include <cerrno>
 #include <deque>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -54,6 +55,38 @@ bool wurzel(std::vector<Stufe>& weg) {
     return true;
 }
 
+// The status of `name` in the folder `hier` into `e`, made a folder first when it is missing and
+// `anlegen`; or why not.
+std::optional<Ordner> eintrag(const Stufe& hier, const std::string& name, bool anlegen, struct stat& e) {
+    const fs::path stelle = hier.weg / name;
+    if (::fstatat(hier.fd.fd(), name.c_str(), &e, AT_SYMLINK_NOFOLLOW) == 0) return std::nullopt;
+    if (errno != ENOENT) return abgelehnt(Ordnergrund::systemfehler, stelle, errno);
+    if (!anlegen) return abgelehnt(Ordnergrund::fehlt, stelle, ENOENT);
+    // Nothing is created where another user could take it over at once.
+    if (!sicher(hier.st, nullptr)) return abgelehnt(Ordnergrund::offenerOrdner, hier.weg);
+    if (::mkdirat(hier.fd.fd(), name.c_str(), 0700) != 0 && errno != EEXIST)
+        return abgelehnt(Ordnergrund::systemfehler, stelle, errno);
+    if (::fstatat(hier.fd.fd(), name.c_str(), &e, AT_SYMLINK_NOFOLLOW) != 0)
+        return abgelehnt(Ordnergrund::systemfehler, stelle, errno);
+    return std::nullopt;
+}
+
+// Puts what the link `name` in the folder reached last points to in front of the names still to walk;
+// an absolute target starts again at the root. 0, or errno.
+int linkFolgen(std::vector<Stufe>& weg, const std::string& name, const struct stat& e,
+               std::deque<std::string>& offen) {
+    std::string ziel(static_cast<std::size_t>(e.st_size > 0 ? e.st_size : 255) + 1, '\0');
+    const ssize_t n = ::readlinkat(weg.back().fd.fd(), name.c_str(), ziel.data(), ziel.size());
+    if (n < 0) return errno;
+    if (static_cast<std::size_t>(n) >= ziel.size()) return ENAMETOOLONG;
+    ziel.resize(static_cast<std::size_t>(n));
+    const fs::path zielpfad(ziel);
+    const std::deque<std::string> vorne = namen(zielpfad);
+    offen.insert(offen.begin(), vorne.begin(), vorne.end());
+    if (zielpfad.is_absolute() && !wurzel(weg)) return errno;
+    return 0;
+}
+
 } // namespace
 
 Ordner ordnerOeffnen(const fs::path& pfad, bool anlegen) {
@@ -74,38 +107,23 @@ Ordner ordnerOeffnen(const fs::path& pfad, bool anlegen) {
         const Stufe& hier = weg.back();
         const fs::path stelle = hier.weg / name;
         struct stat e {};
-        if (::fstatat(hier.fd.fd(), name.c_str(), &e, AT_SYMLINK_NOFOLLOW) != 0) {
-            if (errno != ENOENT) return abgelehnt(Ordnergrund::systemfehler, stelle, errno);
-            if (!anlegen) return abgelehnt(Ordnergrund::fehlt, stelle, ENOENT);
-            // Nothing is created where another user could take it over at once.
-            if (!sicher(hier.st, nullptr)) return abgelehnt(Ordnergrund::offenerOrdner, hier.weg);
-            if (::mkdirat(hier.fd.fd(), name.c_str(), 0700) != 0 && errno != EEXIST)
-                return abgelehnt(Ordnergrund::systemfehler, stelle, errno);
-            if (::fstatat(hier.fd.fd(), name.c_str(), &e, AT_SYMLINK_NOFOLLOW) != 0)
-                return abgelehnt(Ordnergrund::systemfehler, stelle, errno);
-        }
+        if (std::optional<Ordner> nein = eintrag(hier, name, anlegen, e)) return std::move(*nein);
         if (S_ISLNK(e.st_mode)) {
-            if (!vertraut(e.st_uid) || !sicher(hier.st, &e)) return abgelehnt(Ordnergrund::fremderLink, stelle);
+            if (!vertraut(e.st_uid) || !sicher(hier.st, &e))
+                return abgelehnt(Ordnergrund::fremderLink, stelle);
             if (++links > kHoechsteLinks) return abgelehnt(Ordnergrund::schleife, stelle, ELOOP);
-            std::string ziel(static_cast<std::size_t>(e.st_size > 0 ? e.st_size : 255) + 1, '\0');
-            const ssize_t n = ::readlinkat(hier.fd.fd(), name.c_str(), ziel.data(), ziel.size());
-            if (n < 0 || static_cast<std::size_t>(n) >= ziel.size())
-                return abgelehnt(Ordnergrund::systemfehler, stelle, n < 0 ? errno : ENAMETOOLONG);
-            ziel.resize(static_cast<std::size_t>(n));
-            const fs::path zielpfad(ziel);
-            std::deque<std::string> vorne = namen(zielpfad);
-            offen.insert(offen.begin(), vorne.begin(), vorne.end());
-            if (zielpfad.is_absolute() && !wurzel(weg)) return abgelehnt(Ordnergrund::systemfehler, "/", errno);
+            if (const int fehler = linkFolgen(weg, name, e, offen))
+                return abgelehnt(Ordnergrund::systemfehler, stelle, fehler);
             continue;
         }
         if (!S_ISDIR(e.st_mode)) return abgelehnt(Ordnergrund::keinOrdner, stelle, ENOTDIR);
         if (!sicher(hier.st, &e))
             return abgelehnt(vertraut(e.st_uid) ? Ordnergrund::offenerOrdner : Ordnergrund::fremderOrdner,
                              vertraut(e.st_uid) ? hier.weg : stelle);
-        Stufe naechste{Deskriptor(::openat(hier.fd.fd(), name.c_str(),
-                                           O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC)),
-                       {},
-                       stelle};
+        Stufe naechste{
+            Deskriptor(::openat(hier.fd.fd(), name.c_str(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC)),
+            {},
+            stelle};
         if (!naechste.fd) return abgelehnt(Ordnergrund::systemfehler, stelle, errno);
         // What was opened is what was checked: nothing swapped in meanwhile.
         if (::fstat(naechste.fd.fd(), &naechste.st) != 0 || naechste.st.st_dev != e.st_dev ||

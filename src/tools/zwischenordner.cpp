@@ -25,7 +25,7 @@ namespace {
 
 constexpr const char* kAnfang = "selbstspiel-";
 constexpr const char* kNeu = "selbstspiel-neu-"; // still being set up: not yet locked
-constexpr std::size_t kZufallsteil = 6;           // mkdtemp's XXXXXX
+constexpr std::size_t kZufallsteil = 6;          // mkdtemp's XXXXXX
 // A folder still being set up belongs to a run that lives, unless it is older than this.
 constexpr auto kEinrichtzeit = std::chrono::minutes(1);
 
@@ -60,8 +60,8 @@ void verwaistEntfernen(int tmpFd, const std::string& name, bool neu) {
         st.st_uid != ::geteuid())
         return;
     if (neu) {
-        const auto alter = std::chrono::system_clock::now() -
-                           std::chrono::system_clock::from_time_t(st.st_mtim.tv_sec);
+        const auto alter =
+            std::chrono::system_clock::now() - std::chrono::system_clock::from_time_t(st.st_mtim.tv_sec);
         if (alter < kEinrichtzeit) return;
     }
     const datei::Deskriptor d(::openat(tmpFd, name.c_str(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
@@ -106,14 +106,16 @@ Zwischenordner::Zwischenordner() {
     // Made under a name the clean-up leaves alone, locked, and only then given its name.
     std::string neu = (tmp / (std::string(kNeu) + "XXXXXX")).string();
     if (!::mkdtemp(neu.data()))
-        throw std::runtime_error(std::string("kein temporärer Ordner für die Partie: ") + std::strerror(errno));
+        throw std::runtime_error(std::string("kein temporärer Ordner für die Partie: ") +
+                                 std::strerror(errno));
     sperre_ = datei::Deskriptor(::open(neu.c_str(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
     std::string name = (tmp / kAnfang).string() + neu.substr(neu.size() - kZufallsteil);
     if (!sperre_ || ::flock(sperre_.fd(), LOCK_EX | LOCK_NB) != 0 ||
         ::renameat2(AT_FDCWD, neu.c_str(), AT_FDCWD, name.c_str(), RENAME_NOREPLACE) != 0) {
         const int fehler = errno;
         ::rmdir(neu.c_str());
-        throw std::runtime_error(std::string("kein temporärer Ordner für die Partie: ") + std::strerror(fehler));
+        throw std::runtime_error(std::string("kein temporärer Ordner für die Partie: ") +
+                                 std::strerror(fehler));
     }
     pfad_ = name;
 }

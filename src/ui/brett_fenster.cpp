@@ -103,8 +103,9 @@ BrettFenster::~BrettFenster() {
 void BrettFenster::groesseLaden() {
     // A stored size is fitted into the screen before it is applied; one that makes no sense is dropped.
     const QScreen* bildschirm = screen();
-    if (const auto g = fenstergeometrie(fensterEinstellungen().value(QStringLiteral("geometrie")).toByteArray(),
-                                        bildschirm ? bildschirm->availableGeometry() : QRect())) {
+    if (const auto g =
+            fenstergeometrie(fensterEinstellungen().value(QStringLiteral("geometrie")).toByteArray(),
+                             bildschirm ? bildschirm->availableGeometry() : QRect())) {
         if (g->unveraendert) {
             if (restoreGeometry(g->gespeichert)) return;
         } else {

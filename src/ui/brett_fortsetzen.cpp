@@ -10,6 +10,7 @@
 #include <QSessionManager>
 #include <QStatusBar>
 #include <cstring>
+#include <optional>
 
 #include "game/partiedatei.h"
 #include "game/spiel.h"
@@ -50,6 +51,32 @@ QString systemfehler(int fehler) {
     return QString::fromLocal8Bit(std::strerror(fehler));
 }
 
+// What the start found: a folder that cannot be used, damaged files removed.
+void startMelden(QWidget* eltern, const datei::Ordner& o, int beschaedigt) {
+    if (!o && o.grund != datei::Ordnergrund::fehlt && o.grund != datei::Ordnergrund::keiner)
+        meldungZeigen(eltern, QMessageBox::Warning,
+                      QCoreApplication::translate(
+                          "fuh::BrettFenster",
+                          "Der Ordner für die gespeicherte Partie ist nicht nutzbar: %1. Das Spiel liest und "
+                          "schreibt dort nichts; eine laufende Partie wird beim Beenden nicht gespeichert.")
+                          .arg(ordnerGrund(o)));
+    if (beschaedigt > 0)
+        meldungZeigen(eltern, QMessageBox::Warning, kernText(QString::fromUtf8(kPartieBeschaedigt)));
+}
+
+// "Die letzte Partie fortsetzen?": true for "Ja", false for "Nein" (or Escape), nullopt when no answer came
+// (a signal ended the question: the program is ending).
+std::optional<bool> fortsetzenFragen(QWidget* eltern) {
+    QMessageBox frage(QMessageBox::Question, QString::fromUtf8(kTitel),
+                      QCoreApplication::translate("fuh::BrettFenster", "Die letzte Partie fortsetzen?"),
+                      QMessageBox::Yes | QMessageBox::No, eltern);
+    frage.setTextFormat(Qt::PlainText);
+    frage.setDefaultButton(QMessageBox::Yes);
+    frage.exec();
+    if (!frage.clickedButton()) return std::nullopt;
+    return frage.clickedButton() == frage.button(QMessageBox::Yes);
+}
+
 } // namespace
 
 void BrettFenster::zuruecknehmen() {
@@ -72,17 +99,9 @@ void BrettFenster::fortsetzenAnbieten(const std::filesystem::path& ordner) {
     const std::vector<std::string> vorher = uebernommen;
     Partieablage::Angebot angebot = ablage_->holen(uebernommen);
     if (uebernommen != vorher) uebernommeneSchreiben(uebernommen);
-    if (const datei::Ordner& o = ablage_->ordnerZustand();
-        !o && o.grund != datei::Ordnergrund::fehlt && o.grund != datei::Ordnergrund::keiner)
-        meldungZeigen(this, QMessageBox::Warning,
-                      tr("Der Ordner für die gespeicherte Partie ist nicht nutzbar: %1. Das Spiel liest und "
-                         "schreibt dort nichts; eine laufende Partie wird beim Beenden nicht gespeichert.")
-                          .arg(ordnerGrund(o)));
-    if (angebot.beschaedigt > 0)
-        meldungZeigen(this, QMessageBox::Warning, kernText(QString::fromUtf8(kPartieBeschaedigt)));
+    startMelden(this, ablage_->ordnerZustand(), angebot.beschaedigt);
     if (!angebot.sicherung) return;
 
-    bool angenommen = true;
     if (angebot.sicherung->abzulegen) {
         // A finished game that could not be filed when the program ended: filed now, without a question.
         spiel_->ablegen(*angebot.sicherung);
@@ -92,20 +111,13 @@ void BrettFenster::fortsetzenAnbieten(const std::filesystem::path& ordner) {
             return;
         }
     } else {
-        QMessageBox frage(QMessageBox::Question, QString::fromUtf8(kTitel), tr("Die letzte Partie fortsetzen?"),
-                          QMessageBox::Yes | QMessageBox::No, this);
-        frage.setTextFormat(Qt::PlainText);
-        frage.setDefaultButton(QMessageBox::Yes);
-        frage.exec();
-        // Without an answer (a signal ended the question) the program is ending: the file stays as it
-        // is, for the next start.
-        if (!frage.clickedButton()) {
-            ablage_->freigeben();
+        const std::optional<bool> ja = fortsetzenFragen(this);
+        if (!ja) {
+            ablage_->freigeben(); // the file stays as it is, for the next start
             return;
         }
-        // "Nein" (or Escape): the game was counted when it began, so it stays an abandoned one.
-        angenommen = frage.clickedButton() == frage.button(QMessageBox::Yes);
-        if (angenommen) {
+        // "Nein": the game was counted when it began, so it stays an abandoned one.
+        if (*ja) {
             naechsterZug_.stop();
             brett_->tippLoeschen();
             brett_->ziehenAbbrechen();
@@ -138,8 +150,9 @@ bool BrettFenster::partieSichern() {
 }
 
 void BrettFenster::partieAbgleichen() {
-    // The game this window kept is over, or another one begun: its file would offer it once more.
-    if (ablage_ && ablage_->haelt() && !spiel_->laeuft()) ablage_->verwerfen();
+    // The game this window kept is over (and filed), or another one begun: its file would offer it once
+    // more.
+    if (ablage_ && ablage_->haelt() && !spiel_->laeuft() && !spiel_->offeneAblage()) ablage_->verwerfen();
 }
 
 bool BrettFenster::beendenDarf() {
@@ -151,11 +164,12 @@ bool BrettFenster::beendenDarf() {
         grund = ordnerGrund(o);
     else
         grund = systemfehler(ablage_->fehler());
-    QMessageBox frage(QMessageBox::Warning, QString::fromUtf8(kTitel),
-                      tr("Die laufende Partie kann nicht gespeichert werden: %1. Beim nächsten Start lässt sie "
-                         "sich dann nicht fortsetzen.")
-                          .arg(grund),
-                      QMessageBox::NoButton, this);
+    QMessageBox frage(
+        QMessageBox::Warning, QString::fromUtf8(kTitel),
+        tr("Die laufende Partie kann nicht gespeichert werden: %1. Beim nächsten Start lässt sie "
+           "sich dann nicht fortsetzen.")
+            .arg(grund),
+        QMessageBox::NoButton, this);
     frage.setTextFormat(Qt::PlainText);
     QPushButton* trotzdem = frage.addButton(tr("Trotzdem beenden"), QMessageBox::DestructiveRole);
     trotzdem->setObjectName(QStringLiteral("trotzdemBeenden"));

@@ -99,9 +99,10 @@ QStringList fensterEinstellungenEinrichten() {
     if (st.st_size <= kFensterEinstellungenHoechstens) return {};
     // Far larger than the few lines the game writes: not read (it would take long), but started afresh.
     const QString warnung =
-        text(QT_TRANSLATE_NOOP("datenordner", "%1 ist größer als 16 KB und wird nicht gelesen; Fenstergröße, "
+        text(QT_TRANSLATE_NOOP("datenordner", "%1 ist größer als %2 KB und wird nicht gelesen; Fenstergröße, "
                                               "Tempo und Sprache beginnen neu."))
-            .arg(pfadText(o.stelle / kEinstellungsdatei));
+            .arg(pfadText(o.stelle / kEinstellungsdatei))
+            .arg(kFensterEinstellungenHoechstens / 1024);
     if (::unlinkat(o.fd.fd(), kEinstellungsdatei, 0) != 0) nurFuerDiesenLauf();
     return {warnung};
 }

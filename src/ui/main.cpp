@@ -35,10 +35,10 @@ int main(int argc, char* argv[]) {
         daten.fd = fuh::datei::Deskriptor();
     }
     if (!daten) {
-        fuh::meldungZeigen(nullptr, QMessageBox::Critical,
-                           QCoreApplication::translate("main", "Der Datenordner %1 ist nicht nutzbar: %2")
-                               .arg(QFile::decodeName(QByteArray::fromStdString(ordner.string())),
-                                    fuh::ordnerGrund(daten)));
+        fuh::meldungZeigen(
+            nullptr, QMessageBox::Critical,
+            QCoreApplication::translate("main", "Der Datenordner %1 ist nicht nutzbar: %2")
+                .arg(QFile::decodeName(QByteArray::fromStdString(ordner.string())), fuh::ordnerGrund(daten)));
         return 1;
     }
 

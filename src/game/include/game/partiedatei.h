@@ -64,7 +64,8 @@ class Partieablage {
     // free name; never over another window's file. False when it cannot be written (`fehler()` tells why);
     // the file held then stays as it was.
     bool sichern(const Sicherung& s);
-    // The game is over or was dropped: the file held, if any, goes. Another window's file is never touched.
+    // The game is over or was dropped: the file held, if any, goes. Another window's file is never touched,
+    // nor one offered whose question is still open.
     bool verwerfen();
     // Whether a file is held (one offered, or saved by this object).
     bool haelt() const { return static_cast<bool>(gehalten_); }
@@ -85,6 +86,7 @@ class Partieablage {
     datei::Ordner ordnerZustand_;
     datei::Deskriptor gehalten_; // the file held, with a flock on it
     std::string name_;           // its name in the folder
+    bool angeboten_ = false;     // held as offered, the question not yet answered
     int fehler_ = 0;
 };
 

@@ -80,13 +80,13 @@ bool sicher(const struct stat& ordner, const struct stat* eintrag);
 // Why a folder cannot be used.
 enum class Ordnergrund {
     keiner,
-    fehlt,            // it does not exist (and was not to be created)
-    keinOrdner,       // something else stands in its place
-    fremderLink,      // a symbolic link another user may have planted or changed
-    fremderOrdner,    // a folder of another user, in a folder others can write
-    offenerOrdner,    // it lies in a folder that others can write and that is not sticky
-    schleife,         // too many symbolic links
-    systemfehler,     // the system refused (`fehlernummer`)
+    fehlt,         // it does not exist (and was not to be created)
+    keinOrdner,    // something else stands in its place
+    fremderLink,   // a symbolic link another user may have planted or changed
+    fremderOrdner, // a folder of another user, in a folder others can write
+    offenerOrdner, // it lies in a folder that others can write and that is not sticky
+    schleife,      // too many symbolic links
+    systemfehler,  // the system refused (`fehlernummer`)
 };
 
 // A folder opened for use: its descriptor, or why not. `stelle` names the link or folder that was refused
@@ -102,9 +102,9 @@ struct Ordner {
 // Opens the folder `pfad` by walking from the root with openat and O_NOFOLLOW, one name at a time, so that
 // nothing is resolved twice. Every folder on the way must hold the next one where nobody but the user
 // and root can have planted or changed it (`sicher`); a symbolic link on the way is followed only when it
-// belongs to the user or root and lies in such a place. A relative `pfad` is taken below the current folder, which is walked from the root too.
-// Missing folders are created (mode 0700) when `anlegen`. What was opened, read or created before a
-// refusal stays as it was; nothing is created past it.
+// belongs to the user or root and lies in such a place. A relative `pfad` is taken below the current folder,
+// which is walked from the root too. Missing folders are created (mode 0700) when `anlegen`. What was opened,
+// read or created before a refusal stays as it was; nothing is created past it.
 Ordner ordnerOeffnen(const std::filesystem::path& pfad, bool anlegen);
 
 // Called again and again with false while a lock is waited for, then once with true when the wait ends.

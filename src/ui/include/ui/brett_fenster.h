@@ -165,7 +165,7 @@ class BrettFenster : public QMainWindow, public Ansicht {
     std::unique_ptr<Partieablage> ablage_; // where a running game is kept; null: nowhere
     bool partieBehalten_ = false;          // fortsetzenAnbieten was called: a running game is to be kept
     bool ohnePartie_ = false;              // the player chose to quit although the game was not saved
-    QTimer tippUhr_;                    // how long a hint stays on the board
+    QTimer tippUhr_;                       // how long a hint stays on the board
     bool meister_ = false;
     uint32_t startzeit_ = 0;
     QPointer<EinstDialog> einst_;
