@@ -105,8 +105,7 @@ void Spiel::einstellungenUebernehmen(const Einstellungen& e) {
     // A running game does not change who plays it where nobody would then move: a game the computer plays
     // itself keeps its side, and a game of the player's becomes none that the computer plays against
     // itself. Such a change takes effect with the next game, which reads the settings file.
-    if (laeuft() && (z_.selbstspielLaeuft ||
-                     (e.computer() == Computer::beide && e.Einzelzug == 0 && !z_.selbstspielLaeuft))) {
+    if (laeuft() && (z_.selbstspielLaeuft || (e.computer() == Computer::beide && e.Einzelzug == 0))) {
         z_.oeff.einst.PC = alt.PC;
         if (!z_.selbstspielLaeuft) z_.oeff.einst.Einzelzug = alt.Einzelzug;
     }
