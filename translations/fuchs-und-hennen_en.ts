@@ -128,6 +128,49 @@
     </message>
 </context>
 <context>
+    <name>datenordner</name>
+    <message>
+        <source>%1 fehlt</source>
+        <translation>%1 is missing</translation>
+    </message>
+    <message>
+        <source>%1 ist kein Ordner</source>
+        <translation>%1 is not a folder</translation>
+    </message>
+    <message>
+        <source>%1 ist eine symbolische Verknüpfung, die ein anderer Benutzer angelegt oder verändert haben kann</source>
+        <translation>%1 is a symbolic link that another user may have made or changed</translation>
+    </message>
+    <message>
+        <source>%1 gehört einem anderen Benutzer und liegt in einem Ordner, in den andere schreiben dürfen</source>
+        <translation>%1 belongs to another user and lies in a folder that others may write to</translation>
+    </message>
+    <message>
+        <source>in den Ordner %1 dürfen andere Benutzer schreiben</source>
+        <translation>other users may write to the folder %1</translation>
+    </message>
+    <message>
+        <source>%1: zu viele symbolische Verknüpfungen</source>
+        <translation>%1: too many symbolic links</translation>
+    </message>
+    <message>
+        <source>Es gibt keinen Heimatordner (HOME): Fenstergröße, Tempo und Sprache werden nicht gespeichert.</source>
+        <translation>There is no home folder (HOME): window size, pace and language are not saved.</translation>
+    </message>
+    <message>
+        <source>Der Ordner für fenster.conf ist nicht nutzbar: %1. Fenstergröße, Tempo und Sprache werden nicht gespeichert.</source>
+        <translation>The folder for fenster.conf cannot be used: %1. Window size, pace and language are not saved.</translation>
+    </message>
+    <message>
+        <source>%1 ist keine gewöhnliche Datei; Fenstergröße, Tempo und Sprache werden nicht gespeichert.</source>
+        <translation>%1 is not a regular file; window size, pace and language are not saved.</translation>
+    </message>
+    <message>
+        <source>%1 ist größer als %2 KB und wird nicht gelesen; Fenstergröße, Tempo und Sprache beginnen neu.</source>
+        <translation>%1 is larger than %2 KB and is not read; window size, pace and language start afresh.</translation>
+    </message>
+</context>
+<context>
     <name>fuh::Ansage</name>
     <message>
         <source>Tipp: %1</source>
@@ -235,6 +278,30 @@
     <message>
         <source>Zug &amp;zurücknehmen</source>
         <translation>&amp;Undo move</translation>
+    </message>
+    <message>
+        <source>Der Ordner für die gespeicherte Partie ist nicht nutzbar: %1. Das Spiel liest und schreibt dort nichts; eine laufende Partie wird beim Beenden nicht gespeichert.</source>
+        <translation>The folder for the saved game cannot be used: %1. The game reads and writes nothing there; a running game is not kept when you quit.</translation>
+    </message>
+    <message>
+        <source>Die gespeicherte Partie kann nicht entfernt werden: %1. Sie wird nicht noch einmal angeboten.</source>
+        <translation>The saved game cannot be removed: %1. It will not be offered again.</translation>
+    </message>
+    <message>
+        <source>Es gibt keinen Ordner für sie (kein Heimatordner)</source>
+        <translation>there is no folder for it (no home folder)</translation>
+    </message>
+    <message>
+        <source>Die laufende Partie kann nicht gespeichert werden: %1. Beim nächsten Start lässt sie sich dann nicht fortsetzen.</source>
+        <translation>The running game cannot be saved: %1. It cannot be continued at the next start.</translation>
+    </message>
+    <message>
+        <source>Trotzdem beenden</source>
+        <translation>Quit anyway</translation>
+    </message>
+    <message>
+        <source>Abbrechen</source>
+        <translation>Cancel</translation>
     </message>
 </context>
 <context>

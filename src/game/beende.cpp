@@ -9,11 +9,13 @@
 namespace fuh {
 
 void Spiel::beende() {
+    // The game as it ended, to be filed later should the data folder stay locked.
+    Sicherung ende{zustand(), {}, true};
     if (z_.ergebnis == Ergebnis::hennen) z_.partie.sanktion(3, -3, 1);
     if (z_.ergebnis == Ergebnis::fuchs) z_.partie.sanktion(-3, 3, 1);
     if (z_.ergebnis == Ergebnis::remis) z_.oeff.sw_spielende = false;
     ansicht_.hinweis(Hinweis::speichern_msg, true);
-    meldeSchreibfehler(ablegen());
+    meldeSchreibfehler(dateienSchreiben(std::move(ende)));
     ansicht_.hinweis(Hinweis::speichern_msg, false);
     // Taking moves back could improve any score: such a game is filed and learned from, but not listed.
     if (z_.zurueckgenommen) {
@@ -25,10 +27,18 @@ void Spiel::beende() {
     if (mensch == Seite::Fuchs) ansicht_.oeffnen(Fenster::highf);
 }
 
-std::vector<std::string> Spiel::ablegen() {
+std::vector<std::string> Spiel::dateienSchreiben(Sicherung ende) {
     std::vector<std::string> fehler;
     // One lock for the whole filing: another program using the files is waited for once.
     const datei::Ordnersperre sperre = ordnerSperren();
+    if (!sperre.gehalten()) {
+        // Nothing is written, so that the whole game can be filed later.
+        if (z_.oeff.einst.Lernmodus == 1 && !spielerwahl_.zweiSpieler)
+            fehler.emplace_back(lerndateiName(z_.oeff.einst.Staerke));
+        fehler.emplace_back(kStatistikdatei);
+        offeneAblage_ = std::move(ende);
+        return fehler;
+    }
     if (spielerwahl_.zweiSpieler) {
         // Two people teach the learned memory nothing, and only that their game was finished is counted.
         if (!zweiSpielerBeendet(ordner_)) fehler.emplace_back(kStatistikdatei);
@@ -42,6 +52,13 @@ std::vector<std::string> Spiel::ablegen() {
     if (!statistik(ordner_, static_cast<int>(z_.ergebnis), z_.oeff.einst, z_.neueZuege))
         fehler.emplace_back(kStatistikdatei);
     return fehler;
+}
+
+void Spiel::ablegen(const Sicherung& s) {
+    verlauf_.clear();
+    offeneAblage_.reset();
+    zustandSetzen(s.stand);
+    beende();
 }
 
 } // namespace fuh

@@ -5,17 +5,19 @@
 // The saved game's bytes. One list of fields serves writing and reading, so the two cannot drift apart;
 // what was read is then checked as a whole before anyone uses it.
 #include <algorithm>
-#include <bitset>
 #include <cstring>
 
 #include "game/partiedatei.h"
+#include "game/partiepruefung.h"
 
 namespace fuh {
 
 namespace {
 
 constexpr char kMagie[4] = {'F', 'u', 'H', 'P'};
-constexpr uint16_t kVersion = 2; // 1 kept the computer's pending reply instead of the side to move
+// 1: a running game, with the computer's pending reply instead of the side to move; 2: the side to move,
+// and whether the game is a finished one still to be filed.
+constexpr uint16_t kVersion = 2;
 constexpr std::size_t kKopf = sizeof kMagie + 2 + 4; // magic, version, length of what follows
 constexpr std::size_t kPruefsumme = 4;
 constexpr std::size_t kHoechstVerlauf = kSituationen; // a player cannot make more moves than positions
@@ -167,80 +169,11 @@ template <class A, class Z> void felder(A& a, Z& z, uint16_t version = kVersion)
     a.text(z.punkte), a.ja(z.zurueckgenommen);
 }
 
-bool codeGueltig(const Code& c) {
-    if (std::all_of(c.begin(), c.end(), [](uint8_t v) { return v == 0; })) return true; // never recorded
-    for (std::size_t i = 0; i < 7; ++i)
-        if (c[i] < 64 || c[i] >= 64 + 128) return false;
-    for (std::size_t i = 7; i < c.size(); ++i)
-        if (c[i] < 64 || c[i] > 64 + 6) return false;
-    return true;
-}
-
-// The board and the pieces agree: every piece stands on its own kind of square, no two on one, and
-// the board holds no piece that none stands for. A fox waits on the parking square only while parked.
-bool stellungGueltig(const Stellung& s) {
-    int hennenFeld = 0, fuechseFeld = 0;
-    for (int x = 0; x <= 6; ++x)
-        for (int y = 0; y <= 6; ++y) {
-            const int16_t v = s.Feld[x][y];
-            const bool park = feldNummer(x, y) == kParkfeld;
-            // The parking square is left empty (leer) when the parked fox returns.
-            if (aufKreuz(x, y) ? (v != leer && v != henne && v != fuchs)
-                               : (v != 0 && !(park && (v == fuchs || v == leer))))
-                return false;
-            hennenFeld += v == henne;
-            fuechseFeld += v == fuchs && !park;
-        }
-    std::bitset<kFelder> belegt;
-    int hennen = 0, fuechse = 0, geparkt = 0;
-    for (int k = 0; k < kFiguren; ++k) {
-        const int p = s.figurplatz[k];
-        const int16_t art = k < 2 ? fuchs : henne;
-        if (p < 0 || p >= kFelder) return false;
-        if (p == kParkfeld) {
-            geparkt += k < 2;
-            continue;
-        }
-        if (belegt[p] || s.Feld[feldX(p)][feldY(p)] != art) return false;
-        belegt[p] = true;
-        (k < 2 ? fuechse : hennen) += 1;
-    }
-    const bool parkfeldBesetzt = s.Feld[0][0] == fuchs;
-    return hennen == hennenFeld && fuechse == fuechseFeld && geparkt <= 1 &&
-           (geparkt == 1) == parkfeldBesetzt;
-}
-
-bool imBereich(int v, int von, int bis) {
-    return v >= von && v <= bis;
-}
-
-bool gueltig(const Spielstand& z) {
-    const Teilzug& r = z.zugregister;
-    if (!stellungGueltig(z.stellung) || !aufGitter(r.vonX, r.vonY) || !aufGitter(r.nachX, r.nachY) ||
-        !aufGitter(z.sprungfolge.sprungX, z.sprungfolge.sprungY))
-        return false;
-    for (int k = 0; k < kFiguren; ++k)
-        if (!imBereich(z.bilder.left[k], INT16_MIN, INT16_MAX) ||
-            !imBereich(z.bilder.top[k], INT16_MIN, INT16_MAX))
-            return false;
-    if (!imBereich(z.partie.spielzug, 0, kSituationen)) return false;
-    for (const Situation& s : z.partie.sits)
-        if (!codeGueltig(s.code) || !imBereich(s.sprung, 0, 1)) return false;
-    const std::string& sieger = z.oeff.u_is_sieger;
-    if (sieger != "Ja" && sieger != "Nein" && sieger != "    ") return false;
-    if (z.punkte.size() > 32 ||
-        !std::all_of(z.punkte.begin(), z.punkte.end(), [](char c) { return c >= ' ' && c <= '~'; }))
-        return false;
-    return (z.amZug == Seite::Fuchs || z.amZug == Seite::Hennen) &&
-           imBereich(static_cast<int>(z.ergebnis), 0, 3) &&
-           imBereich(static_cast<int>(z.letztesErgebnis), 0, 3) && z.zufall < (1u << 24) &&
-           z.tippZufall < (1u << 24);
-}
-
 } // namespace
 
 Bytes partieKodieren(const Sicherung& s) {
     Schreiber inhalt;
+    inhalt.ja(s.abzulegen);
     felder(inhalt, s.stand);
     const std::size_t n = std::min(s.verlauf.size(), kHoechstVerlauf);
     inhalt.u16(static_cast<uint16_t>(n));
@@ -271,6 +204,7 @@ std::optional<Sicherung> partieDekodieren(const Bytes& b) {
 
     Leser l(inhalt, laenge);
     Sicherung s;
+    if (version >= 2) l.ja(s.abzulegen);
     felder(l, s.stand, version);
     uint16_t n = 0;
     l.u16(n);
@@ -278,8 +212,7 @@ std::optional<Sicherung> partieDekodieren(const Bytes& b) {
     s.verlauf.resize(n);
     for (Spielstand& z : s.verlauf)
         felder(l, z, version);
-    if (l.kaputt || !l.amEnde() || !gueltig(s.stand)) return std::nullopt;
-    if (!std::all_of(s.verlauf.begin(), s.verlauf.end(), gueltig)) return std::nullopt;
+    if (l.kaputt || !l.amEnde() || !sicherungGueltig(s)) return std::nullopt;
     return s;
 }
 

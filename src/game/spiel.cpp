@@ -53,6 +53,7 @@ void Spiel::init() {
     z_.partie.spielzug = 0;
     z_.amZug = Seite::Hennen;
     verlauf_.clear();
+    offeneAblage_.reset();
     if (z_.zurueckgenommen) ansicht_.status(Statusfeld::zuruecknahme, "");
     z_.zurueckgenommen = false;
     statusTexte();

@@ -34,6 +34,7 @@ void Spiel::zuruecknehmen() {
 
 void Spiel::fortsetzen(const Sicherung& s) {
     verlauf_ = s.verlauf;
+    offeneAblage_.reset();
     zustandSetzen(s.stand);
 }
 

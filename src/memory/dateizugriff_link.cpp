@@ -23,10 +23,6 @@ namespace {
 
 constexpr int kHoechsteLinks = 40; // as the kernel: a longer chain is a loop
 
-bool vertraut(uid_t besitzer) {
-    return besitzer == ::geteuid() || besitzer == 0;
-}
-
 // A group named like the user, which is their primary group and lists no other member.
 bool eigeneGruppe(gid_t gid) {
     const passwd* pw = ::getpwuid(::geteuid());
@@ -34,17 +30,6 @@ bool eigeneGruppe(gid_t gid) {
     const std::string name = pw->pw_name;
     const group* gr = ::getgrgid(gid);
     return gr && name == gr->gr_name && (gr->gr_mem == nullptr || gr->gr_mem[0] == nullptr);
-}
-
-// Nobody but the user and root can change what the folder `ordner` holds under the name of `eintrag`
-// (nullptr: nothing of that name yet).
-bool sicher(const struct stat& ordner, const struct stat* eintrag) {
-    if (!vertraut(ordner.st_uid)) return false;
-    const bool fremd =
-        (ordner.st_mode & S_IWOTH) != 0 || ((ordner.st_mode & S_IWGRP) != 0 && !eigeneGruppe(ordner.st_gid));
-    if (!fremd) return true;
-    // Sticky: others may add names, but cannot rename or remove what is not theirs.
-    return (ordner.st_mode & S_ISVTX) != 0 && (eintrag == nullptr || vertraut(eintrag->st_uid));
 }
 
 // Every folder from the root down to the one holding `datei`, and `datei`'s own place in it.
@@ -67,6 +52,22 @@ bool wegSicher(const fs::path& datei) {
 }
 
 } // namespace
+
+bool vertraut(uid_t besitzer) {
+    return besitzer == ::geteuid() || besitzer == 0;
+}
+
+bool fremdBeschreibbar(const struct stat& ordner) {
+    return !vertraut(ordner.st_uid) || (ordner.st_mode & S_IWOTH) != 0 ||
+           ((ordner.st_mode & S_IWGRP) != 0 && !eigeneGruppe(ordner.st_gid));
+}
+
+bool sicher(const struct stat& ordner, const struct stat* eintrag) {
+    if (!vertraut(ordner.st_uid)) return false;
+    if (!fremdBeschreibbar(ordner)) return true;
+    // Sticky: others may add names, but cannot rename or remove what is not theirs.
+    return (ordner.st_mode & S_ISVTX) != 0 && (eintrag == nullptr || vertraut(eintrag->st_uid));
+}
 
 fs::path ordnerVon(const fs::path& pfad) {
     const fs::path o = pfad.parent_path();

@@ -8,14 +8,15 @@
 #include <filesystem>
 #include <iostream>
 
+#include "tools/ausgabe.h"
 #include "tools/fortschritt.h"
 #include "tools/selbstspiel_programm.h"
 
 int main(int argc, char** argv) {
+    fuh::standardkanaeleSichern();
     std::ios::sync_with_stdio(false);
     const int status = fuh::selbstspielProgramm(
         std::vector<std::string>(argv + 1, argv + argc), std::filesystem::current_path(),
         {std::cout, std::cerr, isatty(1) == 1, fuh::terminalSpalten(2)});
-    std::cout.flush();
-    return status;
+    return fuh::ausgabeAbschliessen("selbstspiel", status, std::cout, std::cerr);
 }

@@ -14,6 +14,7 @@
 #include "game/partiedatei.h"
 #include "game/spiel.h"
 #include "tools/protokoll_ansicht.h"
+#include "tools/zwischenordner.h"
 
 namespace fuh {
 
@@ -51,13 +52,8 @@ class Lauf {
           ansicht_(oeffentlich_, o.protokoll ? &aus : nullptr, std::move(beiSpeicherfehler)),
           spiel_(neuesSpiel()) {
         if (!o.fortsetzenPruefen) return;
-        std::string muster = (std::filesystem::temp_directory_path() / "selbstspiel-XXXXXX").string();
-        if (!mkdtemp(muster.data())) throw std::runtime_error("kein temporärer Ordner für die Partie");
-        zwischenordner_ = muster;
-    }
-    ~Lauf() {
-        std::error_code fehler;
-        if (!zwischenordner_.empty()) std::filesystem::remove_all(zwischenordner_, fehler);
+        signale_ = std::make_unique<Signalsperre>();
+        zwischenordner_ = std::make_unique<Zwischenordner>();
     }
     Lauf(const Lauf&) = delete;
     Lauf& operator=(const Lauf&) = delete;
@@ -65,16 +61,23 @@ class Lauf {
     Spiel& spiel() { return *spiel_; }
     Zufall& zufall() { return zufall_; }
 
-    // The game, about to make its next move.
+    // The game, about to make its next move. With --fortsetzen-pruefen it is kept as the window keeps it
+    // when the program ends, and continued as the next start continues it.
     Spiel& vorZug() {
-        if (zwischenordner_.empty()) return *spiel_;
-        const std::filesystem::path datei = zwischenordner_ / "partie";
-        if (!partieSpeichern(datei, spiel_->sicherung()))
-            throw std::runtime_error("die Partie konnte nicht gespeichert werden");
-        const Partieladung ladung = partieHolen(datei);
-        if (!ladung.sicherung) throw std::runtime_error("die gespeicherte Partie ist nicht lesbar");
+        if (!zwischenordner_) return *spiel_;
+        if (const int s = signale_->angefordert()) throw Signalabbruch{s};
+        {
+            Partieablage ende(zwischenordner_->pfad());
+            if (!ende.sichern(spiel_->sicherung()))
+                throw std::runtime_error("die Partie konnte nicht gespeichert werden");
+        }
+        Partieablage start(zwischenordner_->pfad());
+        std::vector<std::string> uebernommen;
+        const Partieablage::Angebot angebot = start.holen(uebernommen);
+        if (!angebot.sicherung) throw std::runtime_error("die gespeicherte Partie ist nicht lesbar");
         spiel_ = neuesSpiel();
-        spiel_->fortsetzen(*ladung.sicherung);
+        spiel_->fortsetzen(*angebot.sicherung);
+        if (!start.erledigt()) throw std::runtime_error("die gespeicherte Partie ließ sich nicht entfernen");
         return *spiel_;
     }
 
@@ -98,7 +101,8 @@ class Lauf {
     const Oeffentlich* oeffentlich_ = nullptr;
     ProtokollAnsicht ansicht_;
     std::unique_ptr<Spiel> spiel_;
-    std::filesystem::path zwischenordner_;
+    std::unique_ptr<Signalsperre> signale_; // released last: a signal after the clean-up acts at once
+    std::unique_ptr<Zwischenordner> zwischenordner_;
 };
 
 // A person's turns and the computer's replies alternate until an end is announced. False: abandoned.
@@ -130,8 +134,8 @@ Summe selbstspiel(const Optionen& o, uint32_t seed, const std::filesystem::path&
         if (o.protokoll) aus << "spiel " << n << '\n';
         lauf.spiel().neuesSpiel();
         if (o.fortsetzenPruefen && computerAllein(o))
-            while (lauf.vorZug().computerZieht()) {
-            }
+            while (lauf.spiel().computerAmZug())
+                lauf.vorZug().computerZieht();
         bool beendet = lauf.spiel().endeGefunden();
         if (!beendet && !computerAllein(o)) beendet = menschSpielt(lauf);
         const int ergebnis = beendet ? static_cast<int>(lauf.spiel().letztesErgebnis()) : 0;

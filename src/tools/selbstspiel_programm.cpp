@@ -13,6 +13,7 @@
 #include "tools/fortschritt.h"
 #include "tools/selbstspiel_lauf.h"
 #include "tools/zugprotokoll.h"
+#include "tools/zwischenordner.h"
 
 namespace fuh {
 
@@ -69,6 +70,11 @@ int selbstspielProgramm(const std::vector<std::string>& args, const std::filesys
             selbstspiel(o, o.seed.value_or(sekundenSeitMitternacht()), ordner, k.aus, &rueckmeldung);
         rueckmeldung.beenden();
         return s.nichtGespeichert > 0 ? kNichtGespeichert : 0;
+    } catch (const Signalabbruch& a) {
+        // The run's folder is gone; the program ends as the signal would have ended it.
+        rueckmeldung.beenden();
+        k.aus.flush();
+        Signalsperre::weitergeben(a.signal);
     } catch (const std::exception& e) {
         // Only --fortsetzen-pruefen throws: its saved game could not be written or read back.
         rueckmeldung.beenden();

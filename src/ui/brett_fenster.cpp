@@ -13,9 +13,11 @@
 #include <algorithm>
 #include <utility>
 
+#include "game/partiedatei.h"
 #include "game/spiel.h"
 #include "ui/ansage.h"
 #include "ui/brett_flaeche.h"
+#include "ui/fenstergeometrie.h"
 #include "ui/meldung.h"
 #include "ui/titel.h"
 
@@ -99,15 +101,30 @@ void BrettFenster::bilderSetzen() {
 }
 
 BrettFenster::~BrettFenster() {
-    partieSichern();
+    // The program is ending: there is no one left to ask, and an older file is never half-written.
+    if (!partieSichern())
+        qWarning("Die laufende Partie konnte nicht gespeichert werden: %s",
+                 ablage_ ? ablage_->ordner().c_str() : "kein Ordner");
     fensterEinstellungen().setValue(QStringLiteral("geometrie"), saveGeometry());
 }
 
 void BrettFenster::groesseLaden() {
-    if (restoreGeometry(fensterEinstellungen().value(QStringLiteral("geometrie")).toByteArray())) return;
+    // A stored size is fitted into the screen before it is applied; one that makes no sense is dropped.
+    const QScreen* bildschirm = screen();
+    if (const auto g =
+            fenstergeometrie(fensterEinstellungen().value(QStringLiteral("geometrie")).toByteArray(),
+                             bildschirm ? bildschirm->availableGeometry() : QRect())) {
+        if (g->unveraendert) {
+            if (restoreGeometry(g->gespeichert)) return;
+        } else {
+            setGeometry(g->normal);
+            if (g->maximiert) setWindowState(windowState() | Qt::WindowMaximized);
+            return;
+        }
+    }
     // First start: a board of about three fifths of the screen's height, never below its own size.
     int seite = BrettFlaeche::kSeite;
-    if (const QScreen* bildschirm = screen()) {
+    if (bildschirm) {
         const QRect frei = bildschirm->availableGeometry();
         seite = std::max(seite, std::min(frei.width(), frei.height()) * 3 / 5);
     }
@@ -127,6 +144,7 @@ void BrettFenster::zugTakt() {
 
 void BrettFenster::neu() {
     naechsterZug_.stop();
+    if (ablage_) ablage_->verwerfen(); // the game it kept is abandoned now
     brett_->tippLoeschen();
     // The abandoned game's pictures go where it left them and its announcements are dropped; a failure
     // to save and the high-score list of a finished game still reach the player.
@@ -142,6 +160,7 @@ void BrettFenster::neu() {
 }
 
 void BrettFenster::spielWeiter() {
+    partieAbgleichen();
     befehleAbgleichen(); // before a message of the game may open
     wiedergabe_.abspielen();
     befehleAbgleichen();

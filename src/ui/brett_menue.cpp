@@ -120,8 +120,8 @@ void BrettFenster::spielMenue() {
     tempoMenue(menue);
     spracheMenue(menue);
     menue->addSeparator();
-    befehl(menue, "Beenden", QT_TR_NOOP("&Beenden"), [] {
-        QApplication::quit();
+    befehl(menue, "Beenden", QT_TR_NOOP("&Beenden"), [this] {
+        if (beendenDarf()) QApplication::quit();
     })->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Q));
 }
 

@@ -6,7 +6,9 @@
 #include <QApplication>
 #include <QFile>
 #include <filesystem>
-#include <system_error>
+#include <unistd.h>
+
+#include <cerrno>
 
 #include "game/partiedatei.h"
 #include "ui/beendigung.h"
@@ -16,25 +18,33 @@
 
 int main(int argc, char* argv[]) {
     QApplication app(argc, argv);
+    // The window's own settings (and with them the language) come from a checked folder only.
+    const QStringList warnungen = fuh::fensterEinstellungenEinrichten();
     fuh::BrettFenster::anwendungEinrichten(app);
     fuh::signaleBeendenLassen(app);
+    for (const QString& w : warnungen)
+        fuh::meldungZeigen(nullptr, QMessageBox::Warning, w);
 
-    // The game runs in its data folder and keeps its files in the current directory.
+    // The game runs in its data folder and keeps its files in the current directory. The folder is
+    // entered through the descriptor that was checked, never by its name again.
     const std::filesystem::path ordner = fuh::datenordner();
-    std::error_code fehler;
-    std::filesystem::create_directories(ordner, fehler);
-    if (!fehler) std::filesystem::current_path(ordner, fehler);
-    if (fehler) {
-        fuh::meldungZeigen(nullptr, QMessageBox::Critical,
-                           QCoreApplication::translate("main", "Der Datenordner %1 ist nicht nutzbar: %2")
-                               .arg(QFile::decodeName(QByteArray::fromStdString(ordner.string())),
-                                    QString::fromLocal8Bit(fehler.message().c_str())));
+    fuh::datei::Ordner daten = fuh::datei::ordnerOeffnen(ordner, true);
+    if (daten && ::fchdir(daten.fd.fd()) != 0) {
+        daten.grund = fuh::datei::Ordnergrund::systemfehler;
+        daten.fehlernummer = errno;
+        daten.fd = fuh::datei::Deskriptor();
+    }
+    if (!daten) {
+        fuh::meldungZeigen(
+            nullptr, QMessageBox::Critical,
+            QCoreApplication::translate("main", "Der Datenordner %1 ist nicht nutzbar: %2")
+                .arg(QFile::decodeName(QByteArray::fromStdString(ordner.string())), fuh::ordnerGrund(daten)));
         return 1;
     }
 
     fuh::BrettFenster fenster(std::filesystem::current_path());
     fenster.show();
-    fenster.fortsetzenAnbieten(fuh::partieDateiStandard());
+    fenster.fortsetzenAnbieten(fuh::partieOrdnerStandard().value_or(std::filesystem::path()));
     if (fuh::beendenVerlangt()) return 0; // ended while asking; the window keeps the game as it goes
     return app.exec();
 }

@@ -2,168 +2,271 @@
 //
 // SPDX-License-Identifier: GPL-3.0-or-later
 
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <algorithm>
 #include <cstdlib>
 #include <functional>
+#include <map>
 #include <optional>
 #include <string>
 
-#include "game/partiedatei.h"
-#include "mensch.h"
-#include "spiel_fixture.h"
+#include "dialogs/statistikdatei.h"
+#include "fremde_sperre.h"
+#include "memory/prozess.h"
+#include "partie_fixture.h"
 
 namespace fuh::test {
 namespace {
 
 namespace fs = std::filesystem;
 
-// A game of human foxes some moves in, with a move taken back.
-struct PartieTest : SpielTest {
-    Sicherung mitten() {
-        ini(1, 2, 1);
-        spiel.neuesSpiel();
-        Zufall mensch(3);
-        for (int i = 0; i < 12 && !spiel.endeGefunden(); ++i) {
-            menschZieht(spiel, mensch);
-            spiel.computerZieht();
-            if (i == 4) spiel.zuruecknehmen();
-        }
-        EXPECT_TRUE(spiel.laeuft());
-        return spiel.sicherung();
-    }
-};
-
 TEST_F(PartieTest, GespeichertUndGelesenIstEsDasselbeSpiel) {
     const Sicherung s = mitten();
     ASSERT_FALSE(s.verlauf.empty());
     EXPECT_TRUE(s.stand.zurueckgenommen);
-    const fs::path datei = ordner / "state" / "fuchs-und-hennen" / "partie";
-    ASSERT_TRUE(partieSpeichern(datei, s)); // the folder is created
-    const Partieladung l = partieHolen(datei);
-    EXPECT_FALSE(l.beschaedigt);
-    ASSERT_TRUE(l.sicherung.has_value());
-    EXPECT_TRUE(*l.sicherung == s);
-    EXPECT_FALSE(fs::exists(datei)); // continued once, or not at all
-    EXPECT_FALSE(partieHolen(datei).beschaedigt);
+    {
+        Partieablage ende(zustand());
+        ASSERT_TRUE(ende.sichern(s)); // the folder is created
+    }
+    Partieablage start(zustand());
+    const Partieablage::Angebot a = start.holen(keine);
+    EXPECT_EQ(a.beschaedigt, 0);
+    ASSERT_TRUE(a.sicherung.has_value());
+    EXPECT_TRUE(*a.sicherung == s);
+    EXPECT_FALSE(a.kennung.empty());
+    // Read, not removed: the file stays until the question about it has been answered, whatever the
+    // window does meanwhile.
+    EXPECT_TRUE(start.verwerfen());
+    EXPECT_TRUE(fs::exists(zustand() / "partie"));
+    EXPECT_TRUE(start.erledigt());
+    EXPECT_FALSE(fs::exists(zustand() / "partie"));
+    EXPECT_FALSE(Partieablage(zustand()).holen(keine).sicherung);
 
     // A fresh game taking it over is the same game, its take-backs included.
     TestAnsicht andereAnsicht;
     Zufall andererZufall;
     Spiel weiter(andereAnsicht, andererZufall, ordner.pfad());
-    weiter.fortsetzen(*l.sicherung);
+    weiter.fortsetzen(*a.sicherung);
     EXPECT_TRUE(weiter.sicherung() == s);
     EXPECT_EQ(andereAnsicht.panels[3], s.stand.punkte);
     EXPECT_EQ(andereAnsicht.panels[4], "Zurückgenommen: keine Bestenliste");
     EXPECT_TRUE(weiter.zuruecknehmenMoeglich());
 }
 
-TEST_F(PartieTest, BeschaedigteBytesWerdenAbgelehnt) {
-    const Bytes gut = partieKodieren(mitten());
-    ASSERT_TRUE(partieDekodieren(gut).has_value());
-    EXPECT_FALSE(partieDekodieren({}).has_value());
-    for (std::size_t n = 0; n < gut.size(); ++n)
-        ASSERT_FALSE(partieDekodieren(Bytes(gut.begin(), gut.begin() + static_cast<long>(n)))) << n;
-    Bytes laenger = gut;
-    laenger.push_back(0);
-    EXPECT_FALSE(partieDekodieren(laenger).has_value());
-    for (std::size_t i = 0; i < gut.size(); i += i < 16 ? 1 : 13) {
-        Bytes b = gut;
-        b[i] ^= 0x10;
-        ASSERT_FALSE(partieDekodieren(b)) << "byte " << i;
+// Window A is open without a game, window B saves its game and goes, then A goes.
+TEST_F(PartieTest, EinLeeresFensterLoeschtNichtDasSpielEinesAnderen) {
+    const Sicherung s = mitten();
+    Partieablage a(zustand());
+    EXPECT_FALSE(a.holen(keine).sicherung);
+    {
+        Partieablage b(zustand());
+        EXPECT_FALSE(b.holen(keine).sicherung);
+        ASSERT_TRUE(b.sichern(s));
     }
+    const auto gespeichert = lies(zustand() / "partie");
+    EXPECT_TRUE(a.verwerfen()); // A quits without a running game
+    EXPECT_EQ(lies(zustand() / "partie"), gespeichert);
+    EXPECT_FALSE(a.haelt());
 }
 
-// Well-formed files whose values no running game can have: never trusted, whatever the checksum says.
-TEST_F(PartieTest, WerteAusserhalbWerdenAbgelehnt) {
-    const Sicherung gut = mitten();
-    const std::vector<std::pair<const char*, std::function<void(Spielstand&)>>> faelle = {
-        {"piece off the board", [](Spielstand& z) { z.stellung.figurplatz[5] = 49; }},
-        {"negative square", [](Spielstand& z) { z.stellung.figurplatz[5] = -1; }},
-        {"unknown board code", [](Spielstand& z) { z.stellung.Feld[3][3] = 9; }},
-        {"piece off the cross", [](Spielstand& z) { z.stellung.Feld[0][6] = henne; }},
-        {"two pieces on one square",
-         [](Spielstand& z) { z.stellung.figurplatz[3] = z.stellung.figurplatz[4]; }},
-        {"hen on a fox's square", [](Spielstand& z) { z.stellung.figurplatz[7] = z.stellung.figurplatz[0]; }},
-        {"register off the grid", [](Spielstand& z) { z.zugregister.nachX = 7; }},
-        {"jump sequence off the grid", [](Spielstand& z) { z.sprungfolge.sprungY = -2; }},
-        {"image far away", [](Spielstand& z) { z.bilder.left[2] = 40000; }},
-        {"positions past the table", [](Spielstand& z) { z.partie.spielzug = kSituationen + 1; }},
-        {"position code", [](Spielstand& z) { z.partie.sits[0].code[8] = 64 + 7; }},
-        {"jump flag", [](Spielstand& z) { z.partie.sits[1].sprung = 2; }},
-        {"winner", [](Spielstand& z) { z.oeff.u_is_sieger = "Vielleicht"; }},
-        {"request", [](Spielstand& z) { z.amZug = static_cast<Seite>(3); }},
-        {"result", [](Spielstand& z) { z.ergebnis = static_cast<Ergebnis>(-1); }},
-        {"random source", [](Spielstand& z) { z.zufall = 1u << 24; }},
-        {"points text", [](Spielstand& z) { z.punkte = "Punkte: \x1b[2J"; }},
-    };
-    for (const auto& [name, aendern] : faelle) {
-        Sicherung s = gut;
-        aendern(s.stand);
-        EXPECT_FALSE(partieDekodieren(partieKodieren(s))) << name;
-        s = gut;
-        aendern(s.verlauf.front());
-        EXPECT_FALSE(partieDekodieren(partieKodieren(s))) << name << " in a take-back state";
+// Two windows with running games: the second to quit keeps both.
+TEST_F(PartieTest, ZweiLaufendeSpieleBleibenBeide) {
+    const Sicherung erste = mitten(3);
+    const Sicherung zweite = mitten(5);
+    ASSERT_FALSE(erste == zweite);
+    {
+        Partieablage a(zustand());
+        Partieablage b(zustand());
+        ASSERT_TRUE(a.sichern(erste));
+        ASSERT_TRUE(b.sichern(zweite));
+        ASSERT_TRUE(a.sichern(erste)); // saving again replaces A's own file only
+        EXPECT_TRUE(b.haelt());
     }
+    std::vector<std::string> namen;
+    for (const auto& e : fs::directory_iterator(zustand()))
+        namen.push_back(e.path().filename().string());
+    std::sort(namen.begin(), namen.end());
+    EXPECT_EQ(namen, (std::vector<std::string>{"partie", "partie-2"}));
+    // The next two starts offer one game each; one that is being asked about is not offered twice.
+    Partieablage c(zustand());
+    Partieablage d(zustand());
+    const auto ac = c.holen(keine);
+    const auto ad = d.holen(keine);
+    ASSERT_TRUE(ac.sicherung && ad.sicherung);
+    EXPECT_TRUE(*ac.sicherung == erste);
+    EXPECT_TRUE(*ad.sicherung == zweite);
+    EXPECT_FALSE(Partieablage(zustand()).holen(keine).sicherung);
+    // A window asking about a game that ends without an answer leaves it for the next start.
+    c.freigeben();
+    EXPECT_TRUE(*Partieablage(zustand()).holen(keine).sicherung == erste);
+}
+
+// Killed (SIGKILL) while the question is open, the game stays as it was.
+TEST_F(PartieTest, GetoetetWaehrendDerFrageBleibtDieDatei) {
+    const Sicherung s = mitten();
+    ASSERT_TRUE(Partieablage(zustand()).sichern(s));
+    const auto vorher = lies(zustand() / "partie");
+    int fertig[2];
+    ASSERT_EQ(::pipe(fertig), 0);
+    const pid_t kind = kindStarten([&] {
+        Partieablage start(zustand());
+        const bool angeboten = start.holen(keine).sicherung.has_value();
+        const char c = angeboten ? 'j' : 'n';
+        static_cast<void>(::write(fertig[1], &c, 1));
+        ::pause(); // the question waits for an answer
+    });
+    ::close(fertig[1]);
+    char c = 0;
+    ASSERT_EQ(::read(fertig[0], &c, 1), 1);
+    ::close(fertig[0]);
+    EXPECT_EQ(c, 'j');
+    ::kill(kind, SIGKILL);
+    ::waitpid(kind, nullptr, 0);
+    EXPECT_EQ(lies(zustand() / "partie"), vorher);
+    EXPECT_TRUE(*Partieablage(zustand()).holen(keine).sicherung == s);
+}
+
+// A state folder that cannot be written. Taken over once, the game is marked and not offered
+// again, so it cannot be finished and filed twice; the mark goes when its file does.
+TEST_F(PartieTest, NichtEntfernbarWirdNichtNochEinmalAngeboten) {
+    const Sicherung s = mitten();
+    // Root may remove anything: the folder is made for `nobody`, who then plays.
+    fs::create_directories(zustand());
+    if (::geteuid() == 0) {
+        ASSERT_EQ(::chown(zustand().c_str(), 65534, 65534), 0);
+    }
+    const pid_t kind = kindStarten([&] {
+        if (::geteuid() == 0 && (::setgid(65534) != 0 || ::setuid(65534) != 0)) ::_exit(3);
+        ASSERT_TRUE(Partieablage(zustand()).sichern(s));
+        fs::permissions(zustand(), fs::perms::owner_read | fs::perms::owner_exec);
+        std::vector<std::string> uebernommen;
+        std::string kennung;
+        {
+            Partieablage start(zustand());
+            const auto a = start.holen(uebernommen);
+            ASSERT_TRUE(a.sicherung.has_value());
+            EXPECT_FALSE(start.erledigt()); // "Ja", but the file cannot go
+            EXPECT_EQ(start.fehler(), EACCES);
+            uebernommen.push_back(a.kennung);
+            kennung = a.kennung;
+        }
+        for (int start = 0; start < 3; ++start) {
+            Partieablage p(zustand());
+            EXPECT_FALSE(p.holen(uebernommen).sicherung);
+            EXPECT_EQ(uebernommen, std::vector<std::string>{kennung}); // still there: still marked
+        }
+        // Writable again: the marked file goes at the next start, and with it the mark.
+        fs::permissions(zustand(), fs::perms::owner_all);
+        EXPECT_FALSE(Partieablage(zustand()).holen(uebernommen).sicherung);
+        EXPECT_TRUE(uebernommen.empty());
+        EXPECT_FALSE(fs::exists(zustand() / "partie"));
+    });
+    EXPECT_TRUE(kindAbwarten(kind, std::chrono::seconds(10)));
+}
+
+// A folder where the saved game should be stays, unreported; the game goes to the next name.
+TEST_F(PartieTest, EinOrdnerAnSeinerStelleBleibtUnberuehrt) {
+    const Sicherung s = mitten();
+    fs::create_directories(zustand() / "partie");
+    Partieablage a(zustand());
+    const auto angebot = a.holen(keine);
+    EXPECT_FALSE(angebot.sicherung);
+    EXPECT_EQ(angebot.beschaedigt, 0);
+    ASSERT_TRUE(a.sichern(s));
+    EXPECT_TRUE(fs::is_directory(zustand() / "partie"));
+    EXPECT_TRUE(fs::is_regular_file(zustand() / "partie-2"));
+    a.freigeben();
+    EXPECT_TRUE(*Partieablage(zustand()).holen(keine).sicherung == s);
 }
 
 TEST_F(PartieTest, EineFremdeDateiWirdEntferntUndNieVertraut) {
-    const fs::path datei = ordner / "partie";
-    const Bytes gut = partieKodieren(mitten());
+    const Sicherung gut = mitten();
+    const Bytes gutBytes = partieKodieren(gut);
+    fs::create_directories(zustand());
+    auto schreibe = [&](const std::vector<unsigned char>& b) {
+        std::ofstream(zustand() / "partie", std::ios::binary)
+            .write(reinterpret_cast<const char*>(b.data()), static_cast<std::streamsize>(b.size()));
+    };
 
-    ordner.schreibe("partie", {'n', 'i', 'c', 'h', 't', 's'});
-    Partieladung l = partieHolen(datei);
-    EXPECT_TRUE(l.beschaedigt);
-    EXPECT_FALSE(l.sicherung.has_value());
-    EXPECT_FALSE(fs::exists(datei));
+    schreibe({'n', 'i', 'c', 'h', 't', 's'});
+    Partieablage::Angebot a = Partieablage(zustand()).holen(keine);
+    EXPECT_EQ(a.beschaedigt, 1);
+    EXPECT_FALSE(a.sicherung.has_value());
+    EXPECT_FALSE(fs::exists(zustand() / "partie"));
 
     // Oversized: a valid game followed by a megabyte is not read whole.
-    std::vector<unsigned char> riesig(gut.begin(), gut.end());
+    std::vector<unsigned char> riesig(gutBytes.begin(), gutBytes.end());
     riesig.resize(riesig.size() + (1u << 20));
-    ordner.schreibe("partie", riesig);
-    EXPECT_TRUE(partieHolen(datei).beschaedigt);
-    EXPECT_FALSE(fs::exists(datei));
+    schreibe(riesig);
+    EXPECT_EQ(Partieablage(zustand()).holen(keine).beschaedigt, 1);
+    EXPECT_FALSE(fs::exists(zustand() / "partie"));
 
-    // A link goes, what it points to stays; a folder in its place stays.
+    // A link goes, what it points to stays.
     ordner.schreibe("brief", {'x'});
-    fs::create_symlink(ordner / "brief", datei);
-    EXPECT_TRUE(partieHolen(datei).beschaedigt);
-    EXPECT_FALSE(fs::exists(fs::symlink_status(datei)));
+    fs::create_symlink(ordner / "brief", zustand() / "partie");
+    EXPECT_EQ(Partieablage(zustand()).holen(keine).beschaedigt, 1);
+    EXPECT_FALSE(fs::exists(fs::symlink_status(zustand() / "partie")));
     EXPECT_EQ(ordner.lies("brief"), std::vector<unsigned char>{'x'});
-    fs::create_directory(datei);
-    EXPECT_TRUE(partieHolen(datei).beschaedigt);
-    EXPECT_TRUE(fs::is_directory(datei));
 
-    // Nowhere to write: refused, and an older file is not touched.
-    EXPECT_FALSE(partieSpeichern(ordner / "brief" / "partie", spiel.sicherung()));
+    // Nowhere to write: refused, and the file in the way is not touched.
+    Partieablage nirgends(ordner / "brief");
+    EXPECT_FALSE(nirgends.sichern(gut));
+    EXPECT_EQ(nirgends.fehler(), ENOTDIR);
     EXPECT_EQ(ordner.lies("brief"), std::vector<unsigned char>{'x'});
 }
 
-// Sets an environment variable for the life of the object.
-class Umgebung {
-  public:
-    Umgebung(const char* name, const char* wert) : name_(name) {
-        if (const char* alt = std::getenv(name)) alt_ = alt;
-        setenv(name, wert, 1);
-    }
-    ~Umgebung() {
-        if (alt_)
-            setenv(name_, alt_->c_str(), 1);
-        else
-            unsetenv(name_);
-    }
+// A writer killed while writing leaves only a temporary file, which the next start removes.
+TEST_F(PartieTest, VerwaisteTemporaereDateienGehen) {
+    fs::create_directories(zustand());
+    std::ofstream(zustand() / ".partie-99999-0.tmp") << "halb";
+    EXPECT_FALSE(Partieablage(zustand()).holen(keine).sicherung);
+    EXPECT_TRUE(fs::is_empty(zustand()));
+}
 
-  private:
-    const char* name_;
-    std::optional<std::string> alt_;
-};
-
-TEST(Partiedatei, LiegtImZustandsordner) {
-    Umgebung heim("HOME", "/heim");
+// The data folder stays locked past the time limit when the game ends. Nothing of the game is
+// written then; kept with `abzulegen`, it is filed at the next start, once.
+TEST_F(PartieTest, EinNichtAbgelegtesSpielWirdSpaeterAbgelegt) {
+    ini(0, 0, 0, 0);
+    spiel.neuesSpiel();
+    const int16_t gestartet = statistikLesen(ordner.pfad()).gestartet();
+    datei::sperrfristSetzen(std::chrono::milliseconds(50));
+    std::optional<Sicherung> offen;
     {
-        Umgebung zustand("XDG_STATE_HOME", "/zustand");
-        EXPECT_EQ(partieDateiStandard(), fs::path("/zustand/fuchs-und-hennen/partie"));
+        const FremdeSperre fremd(ordner.pfad());
+        ASSERT_TRUE(fremd.gehalten());
+        Zufall mensch(8);
+        for (int i = 0; i < 300 && spiel.laeuft(); ++i) {
+            menschZieht(spiel, mensch);
+            spiel.computerZieht();
+        }
+        ASSERT_TRUE(spiel.endeGefunden());
+        offen = spiel.offeneAblage();
     }
-    Umgebung relativ("XDG_STATE_HOME", "relativ");
-    EXPECT_EQ(partieDateiStandard(), fs::path("/heim/.local/state/fuchs-und-hennen/partie"));
+    datei::sperrfristSetzen(std::chrono::milliseconds(5000));
+    ASSERT_TRUE(offen.has_value());
+    EXPECT_TRUE(offen->abzulegen);
+    EXPECT_EQ(statistikLesen(ordner.pfad()).beendet(), 0);
+    EXPECT_EQ(statistikLesen(ordner.pfad()).gestartet(), gestartet);
+    {
+        Partieablage ende(zustand());
+        ASSERT_TRUE(ende.sichern(*offen));
+    }
+    Partieablage start(zustand());
+    const auto a = start.holen(keine);
+    ASSERT_TRUE(a.sicherung && a.sicherung->abzulegen);
+    TestAnsicht neueAnsicht;
+    Zufall neuerZufall;
+    Spiel neu(neueAnsicht, neuerZufall, ordner.pfad());
+    neu.programmStart(1);
+    neu.ablegen(*a.sicherung);
+    EXPECT_FALSE(neu.offeneAblage());
+    EXPECT_TRUE(start.erledigt());
+    const Statistik st = statistikLesen(ordner.pfad());
+    EXPECT_EQ(st.beendet(), 1);
+    EXPECT_EQ(st.gestartet(), gestartet);
+    EXPECT_FALSE(Partieablage(zustand()).holen(keine).sicherung);
 }
 
 } // namespace

@@ -66,7 +66,7 @@ TEST_F(SpielTest, TippIstDerZugDesComputers) {
     EXPECT_TRUE(spiel.tipp().keinZug());
     spiel.computerZieht();
     EXPECT_TRUE(spiel.tippMoeglich());
-    einstellen(2, 0);
+    einstellen(2, 0); // the computer takes both sides
     EXPECT_FALSE(spiel.tippMoeglich());
 }
 

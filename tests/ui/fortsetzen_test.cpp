@@ -5,6 +5,7 @@
 // Taking a move back from the menu, and a game continued after the window was closed.
 #include <QAbstractButton>
 #include <QAction>
+#include <QFile>
 #include <QLabel>
 #include <QMessageBox>
 #include <QTest>
@@ -18,6 +19,13 @@
 
 using namespace fuh;
 using namespace fuh::test;
+
+namespace {
+QByteArray dateiInhalt(const std::filesystem::path& p) {
+    QFile f(QString::fromStdString(p.string()));
+    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
+}
+} // namespace
 
 class FortsetzenTest : public QObject {
     Q_OBJECT
@@ -45,8 +53,9 @@ class FortsetzenTest : public QObject {
 
     void nachDemNeustartFortsetzen() {
         Aufbau a;
-        const std::filesystem::path datei = a.pfad() / "zustand" / "partie";
-        a.fenster->fortsetzenAnbieten(datei); // nothing saved: no question
+        const std::filesystem::path zustand = a.pfad() / "zustand";
+        const std::filesystem::path datei = zustand / "partie";
+        a.fenster->fortsetzenAnbieten(zustand); // nothing saved: no question
         a.aktion("Neu");
         a.ziehe(24, 17);
         a.fenster->zugTakt();
@@ -54,13 +63,19 @@ class FortsetzenTest : public QObject {
 
         a.starten(); // the window closes with the game running
         QVERIFY(std::filesystem::exists(datei));
-        QTimer::singleShot(0, [] {
+        const auto gespeichert = std::filesystem::file_size(datei);
+        QTimer::singleShot(0, [&] {
             auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
             QVERIFY(box);
             QCOMPARE(box->text(), QStringLiteral("Die letzte Partie fortsetzen?"));
+            // While the question is open the file is still there, whole, also when the window's timer
+            // ticks meanwhile: killed now, nothing is lost.
+            a.fenster->zugTakt();
+            QVERIFY(std::filesystem::exists(datei));
+            QCOMPARE(std::filesystem::file_size(datei), gespeichert);
             box->button(QMessageBox::Yes)->click();
         });
-        a.fenster->fortsetzenAnbieten(datei);
+        a.fenster->fortsetzenAnbieten(zustand);
         QVERIFY(a.spiel().sicherung() == vorher);
         QVERIFY(!std::filesystem::exists(datei));
         bilderPruefen(a);
@@ -68,7 +83,7 @@ class FortsetzenTest : public QObject {
         // "Nein", here by Escape, drops it; a window without a running game leaves no file.
         a.starten();
         QTimer::singleShot(0, [] { QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Escape); });
-        a.fenster->fortsetzenAnbieten(datei);
+        a.fenster->fortsetzenAnbieten(zustand);
         QVERIFY(!a.spiel().laeuft());
         a.starten();
         QVERIFY(!std::filesystem::exists(datei));
@@ -78,8 +93,9 @@ class FortsetzenTest : public QObject {
     // the signal comes while the next start asks about it.
     void signalBehaeltDiePartie() {
         Aufbau a;
-        const std::filesystem::path datei = a.pfad() / "partie";
-        a.fenster->fortsetzenAnbieten(datei);
+        const std::filesystem::path zustand = a.pfad() / "zustand";
+        const std::filesystem::path datei = zustand / "partie";
+        a.fenster->fortsetzenAnbieten(zustand);
         a.aktion("Neu");
         a.ziehe(24, 17);
         const Sicherung vorher = a.spiel().sicherung();
@@ -89,12 +105,18 @@ class FortsetzenTest : public QObject {
         QVERIFY(beendenVerlangt());
         a.starten(); // the window goes as it does when the program ends
         QVERIFY(std::filesystem::exists(datei));
+        const QByteArray gespeichert = dateiInhalt(datei);
 
+        // Without an answer nothing is taken over: the file stays byte for byte, for the next start.
         QTimer::singleShot(0, [] { ::raise(SIGTERM); });
-        a.fenster->fortsetzenAnbieten(datei); // the question is open when the signal comes
-        QVERIFY(a.spiel().sicherung() == vorher);
+        a.fenster->fortsetzenAnbieten(zustand); // the question is open when the signal comes
+        QVERIFY(!a.spiel().laeuft());
         a.starten();
-        QVERIFY(std::filesystem::exists(datei));
+        QCOMPARE(dateiInhalt(datei), gespeichert);
+        Partieablage naechster(zustand);
+        std::vector<std::string> keine;
+        const auto angebot = naechster.holen(keine);
+        QVERIFY(angebot.sicherung && *angebot.sicherung == vorher);
         // The application is ending now, and any dialog would return at once; a run of the main loop
         // ends that for the tests that follow.
         QTimer::singleShot(0, qApp, &QCoreApplication::quit);
@@ -104,8 +126,8 @@ class FortsetzenTest : public QObject {
     // The computer against itself, shown move by move: continued, it plays on to the end by itself.
     void selbstspielFortsetzen() {
         Aufbau a(std::vector<char>{2, 0, 0, 0}, Tempo::normal);
-        const std::filesystem::path datei = a.pfad() / "partie";
-        a.fenster->fortsetzenAnbieten(datei);
+        const std::filesystem::path zustand = a.pfad() / "zustand";
+        a.fenster->fortsetzenAnbieten(zustand);
         a.aktion("Neu");
         QVERIFY(a.spiel().selbstspielLaeuft());
         a.starten();
@@ -121,7 +143,7 @@ class FortsetzenTest : public QObject {
             }
         });
         antworten.start(5);
-        a.fenster->fortsetzenAnbieten(datei);
+        a.fenster->fortsetzenAnbieten(zustand);
         QTRY_VERIFY(a.spiel().endeGefunden());
         QCOMPARE(statistikLesen(a.pfad()).beendet(), int16_t{1});
     }

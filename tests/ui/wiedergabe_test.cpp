@@ -4,6 +4,7 @@
 
 // The main window shows the computer's moves at a pace a player can follow, scales with the window,
 // and reports what went wrong in one message: driven like a player on the offscreen platform.
+#include <QScreen>
 #include <QSignalSpy>
 #include <QStatusBar>
 #include <QTest>
@@ -171,7 +172,8 @@ class WiedergabeTest : public QObject {
         a.ziehe(a.mitte(17), a.mitte(f)); // a drop onto a fox's new place is refused
         QCOMPARE(a.spiel().stellung().figurplatz[k], 17);
 
-        // Size and pace survive a restart.
+        // Size and pace survive a restart (a size within the screen: a larger one is fitted into it).
+        a.fenster->resize(a.fenster->screen()->availableGeometry().size() * 3 / 4);
         const QSize groesse = a.fenster->size();
         a.aktion("tempo_langsam");
         a.starten();

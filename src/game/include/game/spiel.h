@@ -112,6 +112,12 @@ class Spiel {
     Spielstand zustand() const;
     Sicherung sicherung() const { return {zustand(), verlauf_}; }
     void fortsetzen(const Sicherung& s);
+    // A finished game whose filing found the data folder locked by another program until the time ran
+    // out: nothing of it was written, and this is what files it later (with `ablegen`). Empty once a game
+    // is begun or continued.
+    const std::optional<Sicherung>& offeneAblage() const { return offeneAblage_; }
+    // Files such a game now, as its end would have (a `Sicherung` with `abzulegen`).
+    void ablegen(const Sicherung& s);
 
   private:
     // Start-up and new game.
@@ -146,7 +152,9 @@ class Spiel {
     Spielausgang spielende(int16_t figur);
     std::optional<int16_t> punkte();
     void beende();
-    std::vector<std::string> ablegen(); // writes the finished game's files; returns those that failed
+    // Writes the finished game's files and returns those that failed; keeps `ende` to be filed later
+    // when the data folder stays locked.
+    std::vector<std::string> dateienSchreiben(Sicherung ende);
     // One message names every file that could not be saved at this moment.
     void meldeSchreibfehler(const std::vector<std::string>& dateien);
     // The data folder's lock for a task of several writes, so that it waits for another program once at
@@ -159,6 +167,7 @@ class Spiel {
     std::filesystem::path ordner_;
     Spielstand z_;                    // the random sources' states are taken into it only by zustand()
     std::vector<Spielstand> verlauf_; // before each of the player's moves in this game, oldest first
+    std::optional<Sicherung> offeneAblage_;
     Lerndatei lerndatei_;
     std::optional<Einstellungen> festeEinstellungen_;
     Spielerwahl spielerwahl_;

@@ -19,7 +19,6 @@
 
 namespace fuh {
 
-
 struct Spielstand {
     Stellung stellung;
     Teilzug zugregister;     // vonX, vonY, nachX, nachY: the move being made
@@ -40,10 +39,12 @@ struct Spielstand {
     friend bool operator==(const Spielstand&, const Spielstand&) = default;
 };
 
-// A running game with the states its moves can be taken back to, oldest first.
+// A running game with the states its moves can be taken back to, oldest first; or, when `abzulegen`, a
+// finished game that could not be filed yet (its end found, the filing still to do).
 struct Sicherung {
     Spielstand stand;
     std::vector<Spielstand> verlauf;
+    bool abzulegen = false;
 
     friend bool operator==(const Sicherung&, const Sicherung&) = default;
 };

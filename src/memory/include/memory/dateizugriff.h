@@ -67,6 +67,46 @@ std::optional<std::filesystem::path> schreibziel(const std::filesystem::path& pf
 // Whether `pfad` is a symbolic link that writes do not follow.
 bool linkVerweigert(const std::filesystem::path& pfad);
 
+// The owner `besitzer` is the user or root.
+bool vertraut(uid_t besitzer);
+// Someone but the user and root may add, rename or remove entries of the folder `ordner`: it belongs to
+// another user, or others (or a group that is not the user's own private group) may write it.
+bool fremdBeschreibbar(const struct stat& ordner);
+// Nobody but the user and root can change what the folder `ordner` holds under the name of `eintrag`
+// (nullptr: nothing of that name yet): the folder is not writable by others, or it is sticky (as /tmp)
+// and the entry belongs to the user or root.
+bool sicher(const struct stat& ordner, const struct stat* eintrag);
+
+// Why a folder cannot be used.
+enum class Ordnergrund {
+    keiner,
+    fehlt,         // it does not exist (and was not to be created)
+    keinOrdner,    // something else stands in its place
+    fremderLink,   // a symbolic link another user may have planted or changed
+    fremderOrdner, // a folder of another user, in a folder others can write
+    offenerOrdner, // it lies in a folder that others can write and that is not sticky
+    schleife,      // too many symbolic links
+    systemfehler,  // the system refused (`fehlernummer`)
+};
+
+// A folder opened for use: its descriptor, or why not. `stelle` names the link or folder that was refused
+// (or could not be opened).
+struct Ordner {
+    Deskriptor fd;
+    Ordnergrund grund = Ordnergrund::keiner;
+    std::filesystem::path stelle;
+    int fehlernummer = 0;
+    explicit operator bool() const { return static_cast<bool>(fd); }
+};
+
+// Opens the folder `pfad` by walking from the root with openat and O_NOFOLLOW, one name at a time, so that
+// nothing is resolved twice. Every folder on the way must hold the next one where nobody but the user
+// and root can have planted or changed it (`sicher`); a symbolic link on the way is followed only when it
+// belongs to the user or root and lies in such a place. A relative `pfad` is taken below the current folder,
+// which is walked from the root too. Missing folders are created (mode 0700) when `anlegen`. What was opened,
+// read or created before a refusal stays as it was; nothing is created past it.
+Ordner ordnerOeffnen(const std::filesystem::path& pfad, bool anlegen);
+
 // Called again and again with false while a lock is waited for, then once with true when the wait ends.
 using Wartehaken = std::function<void(bool fertig)>;
 

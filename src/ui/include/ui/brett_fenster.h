@@ -39,6 +39,7 @@ class EinstDialog;
 class HighscoreFenster;
 class HilfeFenster;
 class InfoWin;
+class Partieablage;
 class Spiel;
 class StatForm;
 
@@ -78,9 +79,14 @@ class BrettFenster : public QMainWindow, public Ansicht {
     void tippZeigen();
     // Spiel -> Zug zurücknehmen: the player's last move and the computer's reply to it.
     void zuruecknehmen();
-    // At start-up: a game saved when the program last ended is offered to be continued, else dropped.
-    // From now on a game still running when the window goes is saved to `datei`.
-    void fortsetzenAnbieten(const std::filesystem::path& datei);
+    // At start-up: a game saved when the program last ended in the folder `ordner` (and held by no other
+    // window) is offered to be continued, else dropped; its file stays until the answer has taken effect.
+    // From now on a game still running when the window goes is saved there, in a file of this window's
+    // own. An empty `ordner`: there is no folder for it, and a running game cannot be kept.
+    void fortsetzenAnbieten(const std::filesystem::path& ordner);
+    // Spiel -> Beenden and the window's close button: a running game is saved first; when that fails the
+    // player is asked ("Trotzdem beenden" or "Abbrechen"). False: the program is to go on.
+    bool beendenDarf();
 
     // Ansicht: every report is queued and shown in order by the playback.
     void figurBewegt(int k, int left, int top) override;
@@ -101,10 +107,15 @@ class BrettFenster : public QMainWindow, public Ansicht {
 
   protected:
     void changeEvent(QEvent* e) override;
+    void closeEvent(QCloseEvent* e) override;
 
   private:
     void spielerAnwenden();
-    void partieSichern();
+    // Keeps a running game (or drops this window's saved game when none runs). False when it could not be
+    // saved.
+    bool partieSichern();
+    // This window's saved game no longer stands for its game (over, or a new one begun): it goes.
+    void partieAbgleichen();
     // Commands and their pacing.
     void neu();
     void spielWeiter(); // after every call into the game: show what it reported
@@ -160,9 +171,11 @@ class BrettFenster : public QMainWindow, public Ansicht {
     QActionGroup* sprachen_ = nullptr; // Deutsch and English in Spiel -> Sprache
     QAction* tippAktion_ = nullptr;
     QAction* zurueckAktion_ = nullptr;
-    std::filesystem::path partieDatei_; // empty: a running game is not kept
-    QTimer tippUhr_;                    // how long a hint stays on the board
-    Spielerauswahl auswahl_;            // kept in fenster.conf
+    std::unique_ptr<Partieablage> ablage_; // where a running game is kept; null: nowhere
+    bool partieBehalten_ = false;          // fortsetzenAnbieten was called: a running game is to be kept
+    bool ohnePartie_ = false;              // the player chose to quit although the game was not saved
+    QTimer tippUhr_;                       // how long a hint stays on the board
+    Spielerauswahl auswahl_;               // kept in fenster.conf
     uint32_t startzeit_ = 0;
     QPointer<EinstDialog> einst_;
     QPointer<StatForm> stat_;

@@ -1,0 +1,195 @@
+// SPDX-FileCopyrightText: 2026 The Fuchs und Hennen authors
+//
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cstdlib>
+#include <functional>
+#include <map>
+#include <optional>
+#include <string>
+
+#include "partie_fixture.h"
+
+namespace fuh::test {
+namespace {
+
+TEST_F(PartieTest, BeschaedigteBytesWerdenAbgelehnt) {
+    const Bytes gut = partieKodieren(mitten());
+    ASSERT_TRUE(partieDekodieren(gut).has_value());
+    EXPECT_FALSE(partieDekodieren({}).has_value());
+    for (std::size_t n = 0; n < gut.size(); ++n)
+        ASSERT_FALSE(partieDekodieren(Bytes(gut.begin(), gut.begin() + static_cast<long>(n)))) << n;
+    Bytes laenger = gut;
+    laenger.push_back(0);
+    EXPECT_FALSE(partieDekodieren(laenger).has_value());
+    for (std::size_t i = 0; i < gut.size(); i += i < 16 ? 1 : 13) {
+        Bytes b = gut;
+        b[i] ^= 0x10;
+        ASSERT_FALSE(partieDekodieren(b)) << "byte " << i;
+    }
+}
+
+// Well-formed files whose values no running game can have: never trusted, whatever the checksum says.
+TEST_F(PartieTest, WerteAusserhalbWerdenAbgelehnt) {
+    const Sicherung gut = mitten();
+    const std::vector<std::pair<const char*, std::function<void(Spielstand&)>>> faelle = {
+        {"piece off the board", [](Spielstand& z) { z.stellung.figurplatz[5] = 49; }},
+        {"negative square", [](Spielstand& z) { z.stellung.figurplatz[5] = -1; }},
+        {"unknown board code", [](Spielstand& z) { z.stellung.Feld[3][3] = 9; }},
+        {"piece off the cross", [](Spielstand& z) { z.stellung.Feld[0][6] = henne; }},
+        {"two pieces on one square",
+         [](Spielstand& z) { z.stellung.figurplatz[3] = z.stellung.figurplatz[4]; }},
+        {"hen on a fox's square", [](Spielstand& z) { z.stellung.figurplatz[7] = z.stellung.figurplatz[0]; }},
+        {"register off the grid", [](Spielstand& z) { z.zugregister.nachX = 7; }},
+        {"jump sequence off the grid", [](Spielstand& z) { z.sprungfolge.sprungY = -2; }},
+        {"image far away", [](Spielstand& z) { z.bilder.left[2] = 40000; }},
+        {"positions past the table", [](Spielstand& z) { z.partie.spielzug = kSituationen + 1; }},
+        {"position code", [](Spielstand& z) { z.partie.sits[0].code[8] = 64 + 7; }},
+        {"jump flag", [](Spielstand& z) { z.partie.sits[1].sprung = 2; }},
+        {"winner", [](Spielstand& z) { z.oeff.u_is_sieger = "Vielleicht"; }},
+        {"side to move", [](Spielstand& z) { z.amZug = static_cast<Seite>(3); }},
+        {"result", [](Spielstand& z) { z.ergebnis = static_cast<Ergebnis>(-1); }},
+        {"random source", [](Spielstand& z) { z.zufall = 1u << 24; }},
+        {"points text", [](Spielstand& z) { z.punkte = "Punkte: \x1b[2J"; }},
+    };
+    for (const auto& [name, aendern] : faelle) {
+        Sicherung s = gut;
+        aendern(s.stand);
+        EXPECT_FALSE(partieDekodieren(partieKodieren(s))) << name;
+        s = gut;
+        aendern(s.verlauf.front());
+        EXPECT_FALSE(partieDekodieren(partieKodieren(s))) << name << " in a take-back state";
+    }
+}
+
+using Fall = std::pair<const char*, std::function<void(Spielstand&)>>;
+
+// Consistent-looking states, with a right checksum, that the game cannot reach.
+std::vector<Fall> unerreichbareFaelle() {
+    auto hennenWeg = [](Spielstand& z) {
+        for (int k = 2; k < kFiguren; ++k)
+            if (const int p = z.stellung.figurplatz[k]; p != 0) {
+                z.stellung.Feld[feldX(p)][feldY(p)] = leer;
+                z.stellung.figurplatz[k] = 0;
+            }
+    };
+    // An open chain of jumps on square p.
+    auto sprungAuf = [](Spielstand& z, int p) {
+        z.sprungfolge = {true, static_cast<int16_t>(feldX(p)), static_cast<int16_t>(feldY(p))};
+    };
+    return {
+        {"move counter 150", [](Spielstand& z) { z.partie.spielzug = 150; }},
+        {"move counter 151", [](Spielstand& z) { z.partie.spielzug = 151; }},
+        {"move limit reached, still running", [](Spielstand& z) { z.partie.spielzug = kZugbegrenzung; }},
+        {"counter past the positions recorded", [](Spielstand& z) { z.partie.spielzug += 1; }},
+        {"counter short of the board", [](Spielstand& z) { z.partie.spielzug -= 1; }},
+        {"no hens, twenty pictures", hennenWeg},
+        {"no hens, no pictures",
+         [=](Spielstand& z) {
+             hennenWeg(z);
+             for (int k = 2; k < kFiguren; ++k)
+                 z.bilder.sichtbar[k] = false;
+         }},
+        {"a hen's picture hidden", [](Spielstand& z) { z.bilder.sichtbar[20] = !z.bilder.sichtbar[20]; }},
+        {"a picture off its square", [](Spielstand& z) { z.bilder.top[0] += 400; }},
+        {"side setting 3", [](Spielstand& z) { z.oeff.einst.PC = 3; }},
+        {"jump chain on the hens' turn",
+         [=](Spielstand& z) { sprungAuf(z, z.stellung.figurplatz[0]), z.amZug = Seite::Hennen; }},
+        {"jump chain of no fox",
+         [=](Spielstand& z) {
+             int p = 0;
+             for (int k = 2; k < kFiguren && p == 0; ++k)
+                 p = z.stellung.figurplatz[k]; // a hen's square
+             sprungAuf(z, p), z.amZug = Seite::Fuchs;
+         }},
+        {"running but the end announced", [](Spielstand& z) { z.endeGefunden = true; }},
+        {"running but pieces locked", [](Spielstand& z) { z.bilder.ziehbar = false; }},
+        {"running with a winner", [](Spielstand& z) { z.oeff.u_is_sieger = "Ja"; }},
+    };
+}
+
+TEST_F(PartieTest, UnerreichbareStaendeWerdenAbgelehnt) {
+    const Sicherung gut = mitten();
+    ASSERT_TRUE(partieDekodieren(partieKodieren(gut)));
+    const std::vector<Fall> faelle = unerreichbareFaelle();
+    for (const auto& [name, aendern] : faelle) {
+        Sicherung s = gut;
+        aendern(s.stand);
+        EXPECT_FALSE(partieDekodieren(partieKodieren(s))) << name;
+        s = gut;
+        aendern(s.verlauf.back());
+        EXPECT_FALSE(partieDekodieren(partieKodieren(s))) << name << " in a take-back state";
+    }
+    // Take-back states are earlier states of the same game.
+    Sicherung s = gut;
+    std::swap(s.verlauf.front(), s.verlauf.back());
+    if (s.verlauf.size() > 1) {
+        EXPECT_FALSE(partieDekodieren(partieKodieren(s))) << "take-backs out of order";
+    }
+    s = gut;
+    s.verlauf.push_back(mitten(9).stand);
+    EXPECT_FALSE(partieDekodieren(partieKodieren(s))) << "a take-back state of another game";
+}
+
+// Every state a real game passes through is accepted: two people moving, then the computer taking both
+// sides in the middle of the game and playing on.
+TEST_F(PartieTest, ErreichbareStaendeWerdenAngenommen) {
+    ini(0);
+    spiel.neuesSpiel();
+    Spielerwahl zwei;
+    zwei.zweiSpieler = true;
+    spiel.spielerFestlegen(zwei);
+    ziehe(3, 3, 3, 2);
+    ASSERT_TRUE(partieDekodieren(partieKodieren(spiel.sicherung())));
+    ziehe(2, 2, 1, 2);
+    ASSERT_TRUE(partieDekodieren(partieKodieren(spiel.sicherung())));
+    spiel.spielerFestlegen({});
+    einstellen(2, 0);
+    ASSERT_TRUE(spiel.selbstspielLaeuft());
+    for (int i = 0; i < 40 && spiel.computerZieht(); ++i)
+        ASSERT_TRUE(partieDekodieren(partieKodieren(spiel.sicherung()))) << "move " << i;
+}
+
+// The player's foxes with a chain of jumps held open are accepted at every step.
+TEST(Partieformat, OffeneSprungfolgeWirdAngenommen) {
+    TempOrdner anderer;
+    TestAnsicht a;
+    Zufall z(11);
+    Spiel fuechse(a, z, anderer.pfad());
+    fuechse.einstellungenFestlegen({1, 0, 0, 0});
+    fuechse.programmStart(5);
+    fuechse.neuesSpiel();
+    Zufall mensch(4);
+    bool sprung = false;
+    for (int i = 0; i < 200 && fuechse.laeuft(); ++i) {
+        auto liste = moeglicheAktionen(fuechse);
+        if (liste.empty()) break;
+        // Foxes that jump where they can, so that no penalty ends the game and chains open.
+        std::vector<Aktion> spruenge;
+        for (const Aktion& x : liste) {
+            const int von = fuechse.stellung().figurplatz[x.k];
+            if (x.t >= 0 &&
+                (std::abs(feldX(x.t) - feldX(von)) == 2 || std::abs(feldY(x.t) - feldY(von)) == 2))
+                spruenge.push_back(x);
+        }
+        if (!spruenge.empty()) liste = spruenge;
+        ausfuehren(fuechse,
+                   liste[static_cast<std::size_t>(mensch.ziehe(static_cast<int>(liste.size())) - 1)]);
+        if (fuechse.laeuft()) {
+            ASSERT_TRUE(partieDekodieren(partieKodieren(fuechse.sicherung()))) << i;
+        }
+        sprung |= fuechse.sprungfolge().imSprung;
+        if (!fuechse.sprungfolge().imSprung) fuechse.computerZieht();
+        if (fuechse.laeuft()) {
+            ASSERT_TRUE(partieDekodieren(partieKodieren(fuechse.sicherung()))) << i;
+        }
+    }
+    EXPECT_TRUE(sprung);
+}
+
+} // namespace
+} // namespace fuh::test

@@ -1,0 +1,227 @@
+// SPDX-FileCopyrightText: 2026 The Fuchs und Hennen authors
+//
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// The saved running game across several windows, a state folder that cannot be written or is a planted
+// link, a quit that cannot keep the game, a signal while a finished game waits for the files.
+#include <QFile>
+#include <QPushButton>
+#include <QScreen>
+#include <csignal>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <fstream>
+
+#include "dialogs/statistikdatei.h"
+#include "fremde_sperre.h"
+#include "game/partiedatei.h"
+#include "memory/benutzerordner.h"
+#include "partie_helfer.h"
+#include "ui/beendigung.h"
+#include "ui/datenordner.h"
+
+using namespace fuh;
+using namespace fuh::test;
+
+namespace fs = std::filesystem;
+
+class PartieFensterTest : public QObject {
+    Q_OBJECT
+  private slots:
+    // Window A is open without a game while window B plays and goes; then A goes.
+    void einLeeresFensterLoeschtKeinFremdesSpiel() {
+        Beantworter beantworter;
+        Aufbau a;
+        const fs::path zustand = a.pfad() / "zustand";
+        a.fenster->fortsetzenAnbieten(zustand);
+        {
+            BrettFenster b(a.pfad(), kStartzeit + 60);
+            b.zugUhr().stop();
+            b.fortsetzenAnbieten(zustand);
+            einZug(b);
+        }
+        const QByteArray vonB = inhalt(zustand / "partie");
+        QVERIFY(!vonB.isEmpty());
+        a.fenster.reset();
+        QCOMPARE(inhalt(zustand / "partie"), vonB);
+
+        // Two windows with running games: the second to go keeps both.
+        a.starten();
+        a.fenster->fortsetzenAnbieten(zustand); // "Ja": A goes on with B's game
+        QCOMPARE(beantworter.fragen, 1);
+        QVERIFY(a.spiel().laeuft());
+        const Sicherung vonA = a.spiel().sicherung();
+        Sicherung vonC;
+        {
+            BrettFenster c(a.pfad(), kStartzeit + 120);
+            c.zugUhr().stop();
+            c.fortsetzenAnbieten(zustand);
+            QCOMPARE(beantworter.fragen, 1); // nothing left to offer
+            einZug(c, 23, 16);
+            vonC = c.spiel().sicherung();
+        }
+        a.fenster.reset();
+        QCOMPARE(namen(zustand), (std::vector<std::string>{"partie", "partie-2"}));
+        std::vector<std::string> keine;
+        Partieablage erste(zustand), zweite(zustand);
+        const auto e = erste.holen(keine);
+        const auto z = zweite.holen(keine);
+        QVERIFY(e.sicherung && z.sicherung);
+        QVERIFY(*e.sicherung == vonC);
+        QVERIFY(*z.sicherung == vonA);
+    }
+
+    // A state folder nobody may write. The game taken over is not offered again and is never
+    // filed twice; the player is told once.
+    void nichtEntfernbarWirdNurEinmalAbgelegt() {
+        AlsNiemand niemand;
+        Beantworter beantworter;
+        Aufbau a({{0, 0, 0, 0}});
+        const fs::path zustand = a.pfad() / "zustand";
+        a.fenster->fortsetzenAnbieten(zustand);
+        einZug(*a.fenster);
+        a.starten();
+        QVERIFY(fs::exists(zustand / "partie"));
+        fs::permissions(zustand, fs::perms::owner_read | fs::perms::owner_exec);
+        if (::access(zustand.c_str(), W_OK) == 0) QSKIP("the folder stays writable (root without nobody)");
+
+        a.fenster->fortsetzenAnbieten(zustand); // "Ja"
+        QCOMPARE(beantworter.fragen, 1);
+        QCOMPARE(beantworter.anzahl(QStringLiteral("kann nicht entfernt werden")), 1);
+        zuEndeSpielen(a, 5);
+        QCOMPARE(statistikLesen(a.pfad()).beendet(), int16_t{1});
+        for (int start = 0; start < 3; ++start) {
+            a.starten();
+            a.fenster->fortsetzenAnbieten(zustand);
+        }
+        QCOMPARE(beantworter.fragen, 1);
+        QCOMPARE(beantworter.anzahl(QStringLiteral("kann nicht entfernt werden")), 1);
+        QCOMPARE(statistikLesen(a.pfad()).beendet(), int16_t{1});
+        QCOMPARE(statistikLesen(a.pfad()).gestartet(), int16_t{1});
+        a.fenster.reset();
+        fs::permissions(zustand, fs::perms::owner_all);
+    }
+
+    // "Beenden" or the close button while the game cannot be kept asks first.
+    void beendenOhneSicherungFragt() {
+        Aufbau a;
+        std::ofstream(a.pfad() / "blockiert") << "x";
+        Beantworter beantworter(QMessageBox::Yes, "abbrechen");
+        a.fenster->fortsetzenAnbieten(a.pfad() / "blockiert" / "zustand");
+        QCOMPARE(beantworter.anzahl(QStringLiteral("ist kein Ordner")), 1); // said at the start
+        einZug(*a.fenster);
+        QVERIFY(!a.fenster->close());
+        QVERIFY(a.fenster->isVisible());
+        QCOMPARE(beantworter.anzahl(QStringLiteral("Die laufende Partie kann nicht gespeichert werden")), 1);
+        // The menu's "Beenden" asks the same; "Abbrechen" goes on playing.
+        QTimer::singleShot(0, [&] { a.aktion("Beenden"); });
+        QTimer::singleShot(300, [] { QCoreApplication::exit(7); });
+        QCOMPARE(QCoreApplication::exec(), 7);
+        QCOMPARE(beantworter.anzahl(QStringLiteral("Die laufende Partie kann nicht gespeichert werden")), 2);
+        beantworter.beenden_ = "trotzdemBeenden";
+        QTimer::singleShot(0, [&] { a.aktion("Beenden"); });
+        QTimer::singleShot(3000, [] { QCoreApplication::exit(7); });
+        QCOMPARE(QCoreApplication::exec(), 0);
+        QCOMPARE(beantworter.anzahl(QStringLiteral("Die laufende Partie kann nicht gespeichert werden")), 3);
+        QCOMPARE(inhalt(a.pfad() / "blockiert"), QByteArray("x"));
+    }
+
+    // A full disk (here the file size limit) is named in the question; once it is gone, quitting
+    // keeps the game without asking.
+    void volleFestplatteWirdGenannt() {
+        Aufbau a;
+        Beantworter beantworter(QMessageBox::Yes, "abbrechen");
+        const fs::path zustand = a.pfad() / "zustand";
+        a.fenster->fortsetzenAnbieten(zustand);
+        einZug(*a.fenster);
+        std::signal(SIGXFSZ, SIG_IGN);
+        rlimit alt{};
+        ::getrlimit(RLIMIT_FSIZE, &alt);
+        rlimit klein = alt;
+        klein.rlim_cur = 16;
+        ::setrlimit(RLIMIT_FSIZE, &klein);
+        const bool geschlossen = a.fenster->close();
+        ::setrlimit(RLIMIT_FSIZE, &alt);
+        QVERIFY(!geschlossen);
+        QCOMPARE(beantworter.anzahl(QString::fromLocal8Bit(std::strerror(EFBIG))), 1);
+        QVERIFY(a.fenster->close());
+        QCOMPARE(beantworter.texte.size(), std::size_t{1});
+        QVERIFY(fs::exists(zustand / "partie"));
+    }
+
+    // The state folder a planted link; said once, nothing read or written.
+    void fremderLinkImZustandsordner() {
+        if (::geteuid() != 0) QSKIP("planting another user's link needs root");
+        Beantworter beantworter;
+        Aufbau a;
+        const fs::path geteilt = a.pfad() / "geteilt";
+        const fs::path opfer = a.pfad() / "opfer";
+        fs::create_directories(geteilt);
+        ::chmod(geteilt.c_str(), 01777);
+        a.fenster->fortsetzenAnbieten(opfer);
+        einZug(*a.fenster);
+        a.starten(); // the victim's own game, in the victim's folder
+        const QByteArray vorher = inhalt(opfer / "partie");
+        QVERIFY(!vorher.isEmpty());
+        fs::create_directory_symlink(opfer, geteilt / kProgrammordner);
+        QCOMPARE(::lchown((geteilt / kProgrammordner).c_str(), 4242, 4242), 0);
+        a.fenster->fortsetzenAnbieten(geteilt / kProgrammordner);
+        QCOMPARE(beantworter.fragen, 0);
+        QCOMPARE(beantworter.anzahl(QStringLiteral("symbolische Verknüpfung")), 1);
+        einZug(*a.fenster);
+        QVERIFY(!a.fenster->close()); // "Abbrechen": the game cannot be kept there
+        a.fenster.reset();
+        QCOMPARE(namen(opfer), std::vector<std::string>{"partie"});
+        QCOMPARE(inhalt(opfer / "partie"), vorher);
+    }
+
+    // A signal while the finished game waits for the data folder: the game is kept and filed at
+    // the next start, once. (Last: the signal marks the application as ending.)
+    void signalWaehrendDesAblegens() {
+        Beantworter beantworter;
+        Aufbau a({{0, 0, 0, 0}});
+        const fs::path zustand = a.pfad() / "zustand";
+        a.fenster->fortsetzenAnbieten(zustand);
+        a.aktion("Neu");
+        signaleBeendenLassen(*qApp);
+        datei::sperrfristSetzen(std::chrono::milliseconds(400));
+        {
+            const FremdeSperre fremd(a.pfad());
+            QVERIFY(fremd.gehalten());
+            // The busy cursor shows the wait: the signal comes then.
+            bool gesendet = false;
+            QTimer wache;
+            QObject::connect(&wache, &QTimer::timeout, [&] {
+                if (!gesendet && QApplication::overrideCursor()) {
+                    gesendet = true;
+                    ::raise(SIGTERM);
+                }
+            });
+            wache.start(10);
+            zuEndeSpielen(a, 7);
+            QVERIFY(gesendet);
+        }
+        datei::sperrfristSetzen(std::chrono::milliseconds(5000));
+        QVERIFY(beendenVerlangt());
+        QVERIFY(a.spiel().offeneAblage());
+        QCOMPARE(statistikLesen(a.pfad()).beendet(), int16_t{0});
+        a.fenster.reset(); // the program ends
+        QVERIFY(fs::exists(zustand / "partie"));
+
+        a.starten();
+        a.fenster->fortsetzenAnbieten(zustand); // filed, without a question
+        QCOMPARE(beantworter.fragen, 0);
+        QCOMPARE(statistikLesen(a.pfad()).beendet(), int16_t{1});
+        QVERIFY(!fs::exists(zustand / "partie"));
+        a.starten();
+        a.fenster->fortsetzenAnbieten(zustand);
+        QCOMPARE(statistikLesen(a.pfad()).beendet(), int16_t{1});
+        QTimer::singleShot(0, qApp, &QCoreApplication::quit);
+        QCoreApplication::exec();
+    }
+};
+
+QTEST_MAIN(PartieFensterTest)
+#include "partie_fenster_test.moc"
