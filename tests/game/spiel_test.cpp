@@ -10,16 +10,6 @@ namespace {
 
 using test::SpielTest;
 
-TEST_F(SpielTest, EinzelzugmodusFordertKeineAntwort) {
-    ini(0, 0, 0, 1);
-    spiel.programmStart(1);
-    spiel.neuesSpiel();
-    ziehe(24, 17);
-    EXPECT_FALSE(spiel.computerAmZug());
-    ziehe(22, 15); // another hen of the person's side
-    EXPECT_EQ(spiel.spielzug(), 2);
-}
-
 // With the computer playing the hens, after their opening the hen on (2, 4) is moved by hand to (3, 3):
 // the fox on (2, 2) can then jump (2, 3) and, from (2, 4), (1, 3).
 struct FuchsSpieltTest : SpielTest {

@@ -108,17 +108,6 @@ TEST_F(LerndateiTest, VolleDateiNimmtNichtsMehrAuf) {
     EXPECT_EQ(std::filesystem::file_size(ordner / "QZ3.DAT"), std::uintmax_t{1} << 40);
 }
 
-TEST_F(LerndateiTest, FremdesStattDateiBleibtUnberuehrt) {
-    // A folder where the file should be: nothing learned, nothing written, a failed merge reported.
-    std::filesystem::create_directory(ordner / "QZ3.DAT");
-    nehmeAuf(5, 5);
-    EXPECT_EQ(datei.erinnern(s.Feld, fuchs, 2, Partie{}), 0);
-    const auto m = datei.speichern(partie, 2);
-    EXPECT_FALSE(m.geschrieben);
-    EXPECT_EQ(m.neueZuege, 0);
-    EXPECT_TRUE(std::filesystem::is_directory(ordner / "QZ3.DAT"));
-    EXPECT_EQ(ordner.namen(), std::vector<std::string>{"QZ3.DAT"});
-}
 TEST_F(LerndateiTest, DoppelteCodesZaehltNurDerErste) {
     const Code c = positionscode(s.Feld);
     Bytes b = satz(c, 1, 2);
