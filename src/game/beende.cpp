@@ -3,8 +3,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 // Filing a finished game: final credits, the learned-move merge, the statistics, the high-score list.
-#include "dialogs/statistikdatei.h"
 #include "game/spiel.h"
+#include "spieldaten/statistikdatei.h"
 
 namespace fuh {
 

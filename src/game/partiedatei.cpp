@@ -17,7 +17,7 @@
 #include <set>
 #include <string_view>
 
-#include "memory/benutzerordner.h"
+#include "dateischicht/benutzerordner.h"
 
 namespace fuh {
 

@@ -4,12 +4,12 @@
 
 #include "game/spiel.h"
 
-#include "dialogs/einstellungsdatei.h"
-#include "dialogs/statistikdatei.h"
-#include "dialogs/statustexte.h"
+#include "dateischicht/satzdatei.h"
 #include "game/texte.h"
 #include "game/zug.h"
-#include "memory/satzdatei.h"
+#include "spieldaten/einstellungsdatei.h"
+#include "spieldaten/statistikdatei.h"
+#include "spieldaten/statustexte.h"
 
 namespace fuh {
 

@@ -5,8 +5,8 @@
 // A hint: what the computer would play now for the person to move.
 #include <system_error>
 
+#include "dateischicht/satzdatei.h"
 #include "game/spiel.h"
-#include "memory/satzdatei.h"
 
 namespace fuh {
 

@@ -10,9 +10,9 @@
 #include <algorithm>
 #include <cerrno>
 
-#include "memory/dateizugriff.h"
+#include "dateischicht/dateizugriff.h"
+#include "dateischicht/satzdatei.h"
 #include "memory/lernindex.h"
-#include "memory/satzdatei.h"
 
 namespace fuh {
 

@@ -8,7 +8,7 @@
 #include <cstring>
 
 #include "board/zahlen.h"
-#include "memory/dateizugriff.h"
+#include "dateischicht/dateizugriff.h"
 
 namespace fuh {
 

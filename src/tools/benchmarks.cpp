@@ -13,9 +13,9 @@
 #include <sstream>
 
 #include "board/regeln.h"
-#include "dialogs/statistikdatei.h"
 #include "game/spiel.h"
 #include "memory/lerndatei.h"
+#include "spieldaten/statistikdatei.h"
 #include "tools/protokoll_ansicht.h"
 #include "tools/selbstspiel_lauf.h"
 

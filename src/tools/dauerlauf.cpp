@@ -15,9 +15,9 @@
 #include <sstream>
 #include <string>
 
-#include "dialogs/statistikdatei.h"
 #include "memory/lerndatei.h"
 #include "memory/positionscode.h"
+#include "spieldaten/statistikdatei.h"
 #include "tools/befehlszeile.h"
 #include "tools/selbstspiel_lauf.h"
 

@@ -14,7 +14,7 @@
 
 #include <cstring>
 
-#include "memory/benutzerordner.h"
+#include "dateischicht/benutzerordner.h"
 
 namespace fuh {
 

@@ -15,8 +15,8 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
-#include "dialogs/einstellungsdatei.h"
-#include "dialogs/statustexte.h"
+#include "spieldaten/einstellungsdatei.h"
+#include "spieldaten/statustexte.h"
 #include "ui/meldung.h"
 #include "ui/sprache.h"
 

@@ -16,7 +16,7 @@
 #include <array>
 #include <cmath>
 
-#include "memory/satzdatei.h"
+#include "dateischicht/satzdatei.h"
 #include "ui/meldung.h"
 #include "ui/sprache.h"
 

@@ -12,9 +12,9 @@
 #include <functional>
 #include <optional>
 
-#include "dialogs/statustexte.h"
+#include "dateischicht/satzdatei.h"
 #include "game/texte.h"
-#include "memory/satzdatei.h"
+#include "spieldaten/statustexte.h"
 #include "ui/brett_fenster.h"
 
 namespace fuh {

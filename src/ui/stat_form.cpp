@@ -15,7 +15,7 @@
 #include <QVBoxLayout>
 #include <array>
 
-#include "dialogs/statistikdatei.h"
+#include "spieldaten/statistikdatei.h"
 #include "ui/meldung.h"
 
 namespace fuh {

@@ -13,7 +13,7 @@
 #include <optional>
 #include <string>
 
-#include "memory/benutzerordner.h"
+#include "dateischicht/benutzerordner.h"
 #include "partie_fixture.h"
 
 namespace fuh::test {

@@ -12,10 +12,10 @@
 #include <optional>
 #include <string>
 
-#include "dialogs/statistikdatei.h"
 #include "fremde_sperre.h"
-#include "memory/prozess.h"
+#include "dateischicht/prozess.h"
 #include "partie_fixture.h"
+#include "spieldaten/statistikdatei.h"
 
 namespace fuh::test {
 namespace {

@@ -2,8 +2,8 @@
 //
 // SPDX-License-Identifier: GPL-3.0-or-later
 
+#include "dateischicht/dateizugriff.h"
 #include "fremde_sperre.h"
-#include "memory/dateizugriff.h"
 #include "spiel_fixture.h"
 
 namespace fuh {

@@ -4,10 +4,10 @@
 
 // Whose turn it is: a person moves only on that side's turn, a change of players during a game takes
 // over at once, and two people alternate at one board.
-#include "dialogs/statistikdatei.h"
-#include "dialogs/statustexte.h"
 #include "mensch.h"
 #include "spiel_fixture.h"
+#include "spieldaten/statistikdatei.h"
+#include "spieldaten/statustexte.h"
 
 namespace fuh::test {
 namespace {

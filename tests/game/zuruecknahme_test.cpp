@@ -2,9 +2,9 @@
 //
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "dialogs/statistikdatei.h"
 #include "mensch.h"
 #include "spiel_fixture.h"
+#include "spieldaten/statistikdatei.h"
 
 namespace fuh::test {
 namespace {

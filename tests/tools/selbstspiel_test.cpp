@@ -10,8 +10,8 @@
 #include <sstream>
 
 #include "board/zufall.h"
+#include "dateischicht/satzdatei.h"
 #include "memory/positionscode.h"
-#include "memory/satzdatei.h"
 #include "temp_ordner.h"
 #include "tools/selbstspiel_lauf.h"
 #include "tools/selbstspiel_programm.h"

@@ -11,8 +11,8 @@
 
 #include <fstream>
 
+#include "dateischicht/benutzerordner.h"
 #include "fenster_aufbau.h"
-#include "memory/benutzerordner.h"
 #include "ui/datenordner.h"
 #include "ui/fenstergeometrie.h"
 

@@ -12,9 +12,9 @@
 #include <QTimer>
 #include <csignal>
 
-#include "dialogs/statistikdatei.h"
 #include "fenster_aufbau.h"
 #include "game/partiedatei.h"
+#include "spieldaten/statistikdatei.h"
 #include "ui/beendigung.h"
 
 using namespace fuh;

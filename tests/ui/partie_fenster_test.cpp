@@ -14,11 +14,11 @@
 
 #include <fstream>
 
-#include "dialogs/statistikdatei.h"
+#include "dateischicht/benutzerordner.h"
 #include "fremde_sperre.h"
 #include "game/partiedatei.h"
-#include "memory/benutzerordner.h"
 #include "partie_helfer.h"
+#include "spieldaten/statistikdatei.h"
 #include "ui/beendigung.h"
 #include "ui/datenordner.h"
 

@@ -12,9 +12,9 @@
 #include <algorithm>
 #include <chrono>
 
+#include "dateischicht/dateizugriff.h"
 #include "fenster_aufbau.h"
 #include "fremde_sperre.h"
-#include "memory/dateizugriff.h"
 #include "versetzen.h"
 
 using namespace fuh;

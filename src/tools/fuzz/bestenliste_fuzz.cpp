@@ -3,8 +3,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 // Any bytes as a high-score list: ten rows with fixed-width fields, names convertible to UTF-8 and back.
-#include "dialogs/bestenliste.h"
 #include "fuzz_ordner.h"
+#include "spieldaten/bestenliste.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* daten, std::size_t n) {
     fuh::fuzz::alsDatei("QZF.sco", daten, n);

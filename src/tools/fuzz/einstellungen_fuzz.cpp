@@ -3,8 +3,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 // Any bytes as QZ.INI: reading gives four values or the defaults, and never fails.
-#include "dialogs/einstellungsdatei.h"
 #include "fuzz_ordner.h"
+#include "spieldaten/einstellungsdatei.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* daten, std::size_t n) {
     fuh::fuzz::alsDatei("QZ.INI", daten, n);

@@ -3,8 +3,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 // Any bytes as QZ.sta: the counters are the file's first 34 bytes, missing ones 0.
-#include "dialogs/statistikdatei.h"
 #include "fuzz_ordner.h"
+#include "spieldaten/statistikdatei.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* daten, std::size_t n) {
     fuh::fuzz::alsDatei("QZ.sta", daten, n);

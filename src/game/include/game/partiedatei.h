@@ -16,8 +16,8 @@
 #include <vector>
 
 #include "board/text.h"
+#include "dateischicht/dateizugriff.h"
 #include "game/spielstand.h"
-#include "memory/dateizugriff.h"
 
 namespace fuh {
 

@@ -17,17 +17,17 @@
 #include "board/stellung.h"
 #include "board/teilzug.h"
 #include "board/zufall.h"
-#include "dialogs/oeffentlich.h"
+#include "dateischicht/dateizugriff.h"
 #include "game/ansicht.h"
 #include "game/spielerwahl.h"
 #include "game/spielstand.h"
-#include "memory/dateizugriff.h"
 #include "memory/lerndatei.h"
 #include "memory/partie.h"
 #include "player/erinnerung.h"
 #include "player/meister.h"
 #include "player/strafregel.h"
 #include "player/zugwahl.h"
+#include "spieldaten/oeffentlich.h"
 
 namespace fuh {
 

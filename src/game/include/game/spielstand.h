@@ -14,8 +14,8 @@
 #include "board/spielausgang.h"
 #include "board/stellung.h"
 #include "board/teilzug.h"
-#include "dialogs/oeffentlich.h"
 #include "memory/partie.h"
+#include "spieldaten/oeffentlich.h"
 
 namespace fuh {
 

@@ -10,8 +10,8 @@
 #include <memory>
 #include <string>
 
+#include "dateischicht/satzdatei.h"
 #include "memory/partie.h"
-#include "memory/satzdatei.h"
 
 namespace fuh {
 

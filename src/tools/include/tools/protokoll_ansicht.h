@@ -8,8 +8,8 @@
 #include <ostream>
 #include <utility>
 
-#include "dialogs/oeffentlich.h"
 #include "game/ansicht.h"
+#include "spieldaten/oeffentlich.h"
 
 namespace fuh {
 

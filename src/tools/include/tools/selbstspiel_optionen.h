@@ -8,8 +8,8 @@
 #include <cstdint>
 #include <optional>
 
-#include "dialogs/oeffentlich.h"
 #include "game/spielerwahl.h"
+#include "spieldaten/oeffentlich.h"
 #include "tools/befehlszeile.h"
 
 namespace fuh {

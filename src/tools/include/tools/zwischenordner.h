@@ -11,7 +11,7 @@
 #include <signal.h>
 #include <string>
 
-#include "memory/dateizugriff.h"
+#include "dateischicht/dateizugriff.h"
 
 namespace fuh {
 

@@ -18,8 +18,8 @@
 #include <vector>
 
 #include "board/zufall.h"
-#include "dialogs/bestenliste.h"
 #include "game/ansicht.h"
+#include "spieldaten/bestenliste.h"
 #include "ui/beschriftung.h"
 #include "ui/einst_dialog.h"
 #include "ui/sprache.h"

@@ -9,7 +9,7 @@
 #include <QStringList>
 #include <filesystem>
 
-#include "memory/dateizugriff.h"
+#include "dateischicht/dateizugriff.h"
 
 namespace fuh {
 

@@ -12,7 +12,7 @@
 
 #include "game/ansicht.h"
 
-#include "dialogs/oeffentlich.h"
+#include "spieldaten/oeffentlich.h"
 #include "ui/beschriftung.h"
 
 class QCheckBox;

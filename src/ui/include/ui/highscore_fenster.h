@@ -7,7 +7,7 @@
 #include <QDialog>
 #include <filesystem>
 
-#include "dialogs/bestenliste.h"
+#include "spieldaten/bestenliste.h"
 #include "ui/beschriftung.h"
 
 class QDialogButtonBox;

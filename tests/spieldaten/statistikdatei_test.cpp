@@ -2,7 +2,7 @@
 //
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "dialogs/statistikdatei.h"
+#include "spieldaten/statistikdatei.h"
 
 #include <gtest/gtest.h>
 

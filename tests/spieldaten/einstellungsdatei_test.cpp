@@ -2,12 +2,12 @@
 //
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "dialogs/einstellungsdatei.h"
+#include "spieldaten/einstellungsdatei.h"
 
 #include <gtest/gtest.h>
 
-#include "dialogs/bestenliste.h"
-#include "dialogs/statistikdatei.h"
+#include "spieldaten/bestenliste.h"
+#include "spieldaten/statistikdatei.h"
 
 #include "testdateien.h"
 

@@ -10,7 +10,7 @@
 #include <string>
 #include <vector>
 
-#include "dialogs/oeffentlich.h"
+#include "spieldaten/oeffentlich.h"
 
 namespace fuh {
 

@@ -2,14 +2,14 @@
 //
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "memory/satzdatei.h"
+#include "dateischicht/satzdatei.h"
 
 #include <algorithm>
 #include <cctype>
 #include <fcntl.h>
 #include <system_error>
 
-#include "memory/dateizugriff.h"
+#include "dateischicht/dateizugriff.h"
 
 namespace fuh {
 

@@ -8,11 +8,11 @@
 #include <set>
 #include <sstream>
 
-#include "dialogs/bestenliste.h"
-#include "dialogs/einstellungsdatei.h"
-#include "dialogs/statistikdatei.h"
 #include "memory/lerndatei.h"
 #include "prozess.h"
+#include "spieldaten/bestenliste.h"
+#include "spieldaten/einstellungsdatei.h"
+#include "spieldaten/statistikdatei.h"
 #include "testdateien.h"
 #include "tools/selbstspiel_lauf.h"
 

@@ -13,7 +13,7 @@
 #include <string>
 #include <vector>
 
-#include "memory/dateizugriff.h"
+#include "dateischicht/dateizugriff.h"
 
 namespace fuh::datei {
 

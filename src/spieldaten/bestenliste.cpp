@@ -2,11 +2,11 @@
 //
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "dialogs/bestenliste.h"
+#include "spieldaten/bestenliste.h"
 
 #include <bit>
 
-#include "memory/satzdatei.h"
+#include "dateischicht/satzdatei.h"
 
 namespace fuh {
 

@@ -11,11 +11,11 @@
 #include <functional>
 #include <random>
 
-#include "dialogs/bestenliste.h"
-#include "dialogs/einstellungsdatei.h"
-#include "dialogs/statistikdatei.h"
 #include "memory/lerndatei.h"
 #include "prozess.h"
+#include "spieldaten/bestenliste.h"
+#include "spieldaten/einstellungsdatei.h"
+#include "spieldaten/statistikdatei.h"
 #include "testdateien.h"
 
 namespace fuh {

@@ -6,7 +6,7 @@
 // "QZ.INI": one record of four 16-bit little-endian settings.
 #include <filesystem>
 
-#include "dialogs/oeffentlich.h"
+#include "spieldaten/oeffentlich.h"
 
 namespace fuh {
 

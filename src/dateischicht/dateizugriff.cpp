@@ -2,7 +2,7 @@
 //
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "memory/dateizugriff.h"
+#include "dateischicht/dateizugriff.h"
 
 #include <fcntl.h>
 #include <unistd.h>

@@ -14,7 +14,7 @@
 #include <thread>
 #include <vector>
 
-#include "memory/dateizugriff.h"
+#include "dateischicht/dateizugriff.h"
 
 namespace fuh::datei {
 

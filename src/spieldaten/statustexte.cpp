@@ -2,7 +2,7 @@
 //
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "dialogs/statustexte.h"
+#include "spieldaten/statustexte.h"
 
 namespace fuh {
 

@@ -2,11 +2,11 @@
 //
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "dialogs/einstellungsdatei.h"
+#include "spieldaten/einstellungsdatei.h"
 
 #include <array>
 
-#include "memory/satzdatei.h"
+#include "dateischicht/satzdatei.h"
 
 namespace fuh {
 

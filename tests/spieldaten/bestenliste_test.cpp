@@ -2,7 +2,7 @@
 //
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "dialogs/bestenliste.h"
+#include "spieldaten/bestenliste.h"
 
 #include <cmath>
 #include <gtest/gtest.h>

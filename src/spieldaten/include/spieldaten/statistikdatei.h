@@ -8,7 +8,7 @@
 #include <cstdint>
 #include <filesystem>
 
-#include "dialogs/oeffentlich.h"
+#include "spieldaten/oeffentlich.h"
 
 namespace fuh {
 

@@ -2,10 +2,10 @@
 //
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "dialogs/statistikdatei.h"
+#include "spieldaten/statistikdatei.h"
 
 #include "board/zahlen.h"
-#include "memory/satzdatei.h"
+#include "dateischicht/satzdatei.h"
 
 namespace fuh {
 

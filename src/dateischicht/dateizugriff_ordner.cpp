@@ -15,7 +15,7 @@
 #include <string>
 #include <vector>
 
-#include "memory/dateizugriff.h"
+#include "dateischicht/dateizugriff.h"
 
 namespace fuh::datei {
 

@@ -2,7 +2,7 @@
 //
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "memory/benutzerordner.h"
+#include "dateischicht/benutzerordner.h"
 
 #include <pwd.h>
 #include <unistd.h>

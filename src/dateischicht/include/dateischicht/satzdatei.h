@@ -16,7 +16,7 @@
 
 #include "board/text.h"
 
-#include "memory/dateizugriff.h"
+#include "dateischicht/dateizugriff.h"
 
 namespace fuh {
 
