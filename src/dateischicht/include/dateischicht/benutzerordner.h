@@ -4,7 +4,7 @@
 
 #pragma once
 // The user's folders, after the XDG Base Directory rules with one fixed reading of unusual environments:
-// a variable that is unset, empty or not an absolute path is ignored (the specification says to ignore
+// a variable that is unset, empty or not an absolute path is ignored (the XDG rules say to ignore
 // relative values), and so is a relative HOME. The environment's bytes are taken as they are: a folder
 // whose name is not valid UTF-8 is still the folder the user named.
 #include <filesystem>
