@@ -20,6 +20,7 @@
 
 #include "game/spiel.h"
 #include "tools/abbruch.h"
+#include "tools/ausgabe.h"
 #include "tools/auswertung.h"
 #include "tools/duell.h"
 #include "tools/fortschritt.h"
@@ -203,7 +204,8 @@ int spielen(const MatchOptionen& o, const fs::path& ordner, const Abbruch& abbru
 
 } // namespace
 
-int main(int argc, char** argv) {
+namespace {
+int matchLaufen(int argc, char** argv) {
     MatchOptionen o;
     const fuh::Programm programm = matchAufruf(o);
     if (const auto ende = fuh::befehlszeileLesen(programm, std::vector<std::string>(argv + 1, argv + argc),
@@ -235,4 +237,12 @@ int main(int argc, char** argv) {
     }
     if (signal) abbruch.weitergeben(signal);
     return 0;
+}
+} // namespace
+
+// Results go to standard output: one that cannot be written ends the run with status 1.
+int main(int argc, char** argv) {
+    fuh::standardkanaeleSichern();
+    const int status = matchLaufen(argc, argv);
+    return fuh::ausgabeAbschliessen("match", status, std::cout, std::cerr);
 }
