@@ -18,10 +18,11 @@
 
 int main(int argc, char* argv[]) {
     QApplication app(argc, argv);
+    // Signals first: from here on a logout or `kill` ends the program as "Beenden" does.
+    fuh::signaleBeendenLassen(app);
     // The window's own settings (and with them the language) come from a checked folder only.
     const QStringList warnungen = fuh::fensterEinstellungenEinrichten();
     fuh::BrettFenster::anwendungEinrichten(app);
-    fuh::signaleBeendenLassen(app);
     for (const QString& w : warnungen)
         fuh::meldungZeigen(nullptr, QMessageBox::Warning, w);
 
