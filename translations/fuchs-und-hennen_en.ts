@@ -303,6 +303,14 @@
         <source>Abbrechen</source>
         <translation>Cancel</translation>
     </message>
+    <message>
+        <source>&amp;Aussehen</source>
+        <translation>&amp;Appearance</translation>
+    </message>
+    <message>
+        <source>T&amp;on</source>
+        <translation>S&amp;ound</translation>
+    </message>
 </context>
 <context>
     <name>fuh::BrettFlaeche</name>

@@ -18,6 +18,7 @@
 #include "ui/ansage.h"
 #include "ui/brett_flaeche.h"
 #include "ui/fenstergeometrie.h"
+#include "ui/klaenge.h"
 #include "ui/meldung.h"
 #include "ui/titel.h"
 
@@ -45,6 +46,7 @@ BrettFenster::BrettFenster(std::filesystem::path ordner, uint32_t startzeit, QWi
     setWindowTitle(QString::fromUtf8(kTitel));
 
     brett_ = new BrettFlaeche([this] { return spiel_->menschAmZug() && !beschaeftigt(); }, this);
+    klaenge_ = new Klaenge([this] { return spiel_ ? spiel_->menschenseite() : std::nullopt; }, this);
     setCentralWidget(brett_);
     menueAnlegen();
     statusleisteAnlegen();
@@ -201,6 +203,7 @@ void BrettFenster::befehleAbgleichen() {
 
 void BrettFenster::zeigen(const Ereignis& e) {
     ansage_->ereignis(e); // before a message box holds the playback
+    klaenge_->ereignis(e);
     switch (e.art) {
     case Ereignis::Art::bewegt:
         brett_->figurSetzen(e.a, e.b, e.c);

@@ -16,16 +16,7 @@
 
 namespace fuh {
 
-namespace {
-
-const QColor kRand(0x1d, 0x3a, 0x10); // around the board where the window is not square
-
-QString figurDatei(int k) {
-    return BrettFlaeche::istFuchs(k) ? QStringLiteral(":/bilder/fuchs.svg")
-                                     : QStringLiteral(":/bilder/henne.svg");
-}
-
-} // namespace
+namespace {} // namespace
 
 BrettFlaeche::BrettFlaeche(std::function<bool()> ziehbar, QWidget* parent)
     : QWidget(parent), ziehbar_(std::move(ziehbar)) {
@@ -42,11 +33,21 @@ BrettFlaeche::BrettFlaeche(std::function<bool()> ziehbar, QWidget* parent)
     hinweiseAnlegen();
     const QSize bild(kBildgroesse / kTwipsProPixel, kBildgroesse / kTwipsProPixel);
     for (int k = 0; k < kFiguren; ++k) {
-        auto* figur = new SvgBild(figurDatei(k), bild, this);
+        auto* figur = new SvgBild(istFuchs(k) ? thema_.fuchs : thema_.henne, bild, this);
         figur->setObjectName(QStringLiteral("figur%1").arg(k));
         figuren_[k] = figur;
     }
     hinweiseAnordnen();
+}
+
+void BrettFlaeche::themaSetzen(const Thema& thema) {
+    thema_ = thema;
+    brett_ = QPixmap();
+    for (int k = 0; k < kFiguren; ++k)
+        figuren_[k]->setDatei(istFuchs(k) ? thema_.fuchs : thema_.henne);
+    if (schwebend_ && gezogen_ >= 0) schwebend_->setDatei(figuren_[gezogen_]->datei());
+    hinweiseAnordnen();
+    update();
 }
 
 QPointF BrettFlaeche::abbild(double left, double top) const {
@@ -85,26 +86,27 @@ void BrettFlaeche::paintEvent(QPaintEvent*) {
     const QRect brett = brettRechteck();
     const qreal dpr = devicePixelRatioF();
     if (brett_.isNull() || brett_.devicePixelRatio() != dpr)
-        brett_ = svgPixmap(QStringLiteral(":/bilder/brett.svg"), brett.size(), dpr);
+        brett_ = svgPixmap(thema_.brett, brett.size(), dpr);
     // Only the strips beside the square need the frame colour.
     const QRegion rand = QRegion(rect()).subtracted(brett);
     for (const QRect& r : rand)
-        painter.fillRect(r, kRand);
+        painter.fillRect(r, thema_.rand);
     painter.drawPixmap(brett.topLeft(), brett_);
 
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setBrush(Qt::NoBrush);
     const double s = skala();
+    const double strich = thema_.strich * s;
     const double radius = 19.5 * s;
     auto mitteVon = [this](int feld) {
         return abbild(platzLeft(feld) + kBildgroesse / 2.0, platzTop(feld) + kBildgroesse / 2.0);
     };
     // The hint: a light green path from the piece over each landing square, with rings at its ends.
     if (!tipp_.empty()) {
-        painter.setPen(QPen(QColor(200, 255, 170, 220), std::max(2.0, 3.0 * s), Qt::DashLine, Qt::RoundCap));
+        painter.setPen(QPen(thema_.tippLinie, std::max(2.0, 3.0 * strich), Qt::DashLine, Qt::RoundCap));
         for (size_t i = 1; i < tipp_.size(); ++i)
             painter.drawLine(mitteVon(tipp_[i - 1]), mitteVon(tipp_[i]));
-        painter.setPen(QPen(QColor(200, 255, 170, 235), std::max(2.0, 3.0 * s)));
+        painter.setPen(QPen(thema_.tippRing, std::max(2.0, 3.0 * strich)));
         for (int feld : {tipp_.front(), tipp_.back()})
             painter.drawEllipse(mitteVon(feld), radius, radius);
     }
@@ -112,8 +114,8 @@ void BrettFlaeche::paintEvent(QPaintEvent*) {
     if (!markierung_) return;
     // Rings around the two points, just outside a piece standing there; the origin's is fainter.
     const auto [von, nach] = *markierung_;
-    for (const auto& [feld, deckung] : {std::pair{von, 110}, std::pair{nach, 190}}) {
-        painter.setPen(QPen(QColor(255, 232, 120, deckung), std::max(1.5, 2.2 * s)));
+    for (const auto& [feld, farbe] : {std::pair{von, thema_.zugVon}, std::pair{nach, thema_.zugNach}}) {
+        painter.setPen(QPen(farbe, std::max(1.5, 2.2 * strich)));
         painter.drawEllipse(mitteVon(feld), radius, radius);
     }
 }

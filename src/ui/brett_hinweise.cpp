@@ -64,6 +64,11 @@ QFont passendeSchrift(QFont schrift, const QString& text, QSize platz, double sk
     return schrift;
 }
 
+// A colour as a style sheet writes it, with its opacity.
+QString farbText(const QColor& c) {
+    return QStringLiteral("rgba(%1, %2, %3, %4)").arg(c.red()).arg(c.green()).arg(c.blue()).arg(c.alpha());
+}
+
 } // namespace
 
 void BrettFlaeche::hinweiseAnlegen() {
@@ -95,12 +100,13 @@ void BrettFlaeche::hinweiseAnordnen() {
     }
     const QString stil =
         QStringLiteral(
-            "QLabel { color: #fffbe0; background-color: rgba(24, 72, 0, 185);"
+            "QLabel { color: %5; background-color: %6;"
             " border: %1px solid rgba(255, 255, 255, 90); border-radius: %2px; padding: %3px %4px; }")
             .arg(std::max(1, static_cast<int>(s)))
             .arg(std::lround(5 * s))
             .arg(std::lround(s))
-            .arg(std::lround(2 * s));
+            .arg(std::lround(2 * s))
+            .arg(farbText(thema_.hinweisSchrift), farbText(thema_.hinweisGrund));
     for (const HinweisLage& lage : kHinweise) {
         QLabel* label = hinweisLabel(lage.h);
         label->setText(tr(lage.text));

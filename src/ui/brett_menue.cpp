@@ -118,6 +118,7 @@ void BrettFenster::spielMenue() {
     connect(menue, &QMenu::aboutToShow, this, &BrettFenster::befehleAbgleichen);
     menue->addSeparator();
     tempoMenue(menue);
+    aussehenMenue(menue);
     spracheMenue(menue);
     menue->addSeparator();
     befehl(menue, "Beenden", QT_TR_NOOP("&Beenden"), [this] {

@@ -60,6 +60,7 @@ void BrettFenster::changeEvent(QEvent* e) {
 
 void BrettFenster::texteSetzen() {
     texte_.erneuern();
+    aussehenTexteSetzen();
     // The language may also have been chosen elsewhere, e.g. in another main window.
     for (QAction* a : sprachen_->actions())
         a->setChecked(a->data().toInt() == static_cast<int>(aktuelleSprache()));

@@ -54,9 +54,10 @@ void BrettFlaeche::cursorZeichnen(QPainter& painter) const {
     // the board and is told apart from the round marks of moves and hints.
     const double s = skala();
     const QRectF r = QRectF(feldRechteck(cursor_)).adjusted(-5 * s, -5 * s, 5 * s, 5 * s);
-    painter.setPen(QPen(QColor(10, 20, 60), std::max(3.0, 5.0 * s)));
+    const double strich = thema_.strich * s;
+    painter.setPen(QPen(thema_.cursorAussen, std::max(3.0, 5.0 * strich)));
     painter.drawRoundedRect(r, 4 * s, 4 * s);
-    painter.setPen(QPen(QColor(255, 255, 255), std::max(1.5, 2.5 * s)));
+    painter.setPen(QPen(thema_.cursorInnen, std::max(1.5, 2.5 * strich)));
     painter.drawRoundedRect(r, 4 * s, 4 * s);
 }
 

@@ -42,6 +42,12 @@ SvgBild::SvgBild(QString datei, QSize groesse, QWidget* parent) : QWidget(parent
     setAttribute(Qt::WA_TransparentForMouseEvents);
 }
 
+void SvgBild::setDatei(const QString& datei) {
+    datei_ = datei;
+    bild_ = QPixmap();
+    update();
+}
+
 void SvgBild::setDeckkraft(qreal deckkraft) {
     deckkraft_ = deckkraft;
     update();

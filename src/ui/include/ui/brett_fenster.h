@@ -39,6 +39,7 @@ class EinstDialog;
 class HighscoreFenster;
 class HilfeFenster;
 class InfoWin;
+class Klaenge;
 class Partieablage;
 class Spiel;
 class StatForm;
@@ -137,6 +138,10 @@ class BrettFenster : public QMainWindow, public Ansicht {
     // A command named `name` in `menue` that does `tun`, its text in the player's language.
     QAction* befehl(QMenu* menue, const char* name, const char* text, std::function<void()> tun);
     void tempoMenue(QMenu* menue);
+    // The board's look and the sounds (brett_aussehen.cpp).
+    void aussehenMenue(QMenu* menue);
+    void themaWaehlen(const QString& id, bool merken = true);
+    void aussehenTexteSetzen();
     void tempoLaden();
     void statusleisteAnlegen();
     // The player's language (brett_sprache.cpp).
@@ -157,6 +162,7 @@ class BrettFenster : public QMainWindow, public Ansicht {
     std::unique_ptr<Spiel> spiel_;
     BrettFlaeche* brett_ = nullptr;
     Ansage* ansage_ = nullptr;
+    Klaenge* klaenge_ = nullptr;
     std::array<QLabel*, 4> panels_{};
     std::array<QString, 4> panelTexte_{}; // as the game wrote them, in German
     Beschriftung texte_{staticMetaObject};
@@ -169,6 +175,8 @@ class BrettFenster : public QMainWindow, public Ansicht {
     std::vector<QAction*> wartendeBefehle_; // disabled while busy
     std::array<QAction*, 3> tempoAktionen_{};
     QActionGroup* sprachen_ = nullptr; // Deutsch and English in Spiel -> Sprache
+    QActionGroup* themaAktionen_ = nullptr;
+    QAction* tonAktion_ = nullptr;
     QAction* tippAktion_ = nullptr;
     QAction* zurueckAktion_ = nullptr;
     std::unique_ptr<Partieablage> ablage_; // where a running game is kept; null: nowhere

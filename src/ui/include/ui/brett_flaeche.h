@@ -19,6 +19,7 @@
 #include "board/stellung.h"
 #include "game/ansicht.h"
 #include "ui/svg_bild.h"
+#include "ui/thema.h"
 
 namespace fuh {
 
@@ -32,6 +33,9 @@ class BrettFlaeche : public QWidget {
     explicit BrettFlaeche(std::function<bool()> ziehbar, QWidget* parent = nullptr);
 
     SvgBild* figur(int k) const { return figuren_[k]; }
+    // The look of board, pieces, marks and prompts; applies at once.
+    void themaSetzen(const Thema& thema);
+    const Thema& thema() const { return thema_; }
     QLabel* hinweisLabel(Hinweis h) const { return hinweise_[static_cast<int>(h)]; }
 
     // Where the board is drawn, and logical pixels per pixel of the game's 400 x 400 board.
@@ -120,6 +124,7 @@ class BrettFlaeche : public QWidget {
     void inhaltAbgleichen();
 
     std::function<bool()> ziehbar_;
+    Thema thema_ = fuh::thema(QLatin1String(kThemaStandard));
     std::array<SvgBild*, kFiguren> figuren_{};
     std::array<QPoint, kFiguren> lagen_{}; // the images' positions in twips
     std::array<QLabel*, 4> hinweise_{};

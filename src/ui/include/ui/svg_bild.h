@@ -21,6 +21,7 @@ class SvgBild : public QWidget {
     SvgBild(QString datei, QSize groesse, QWidget* parent = nullptr);
 
     const QString& datei() const { return datei_; }
+    void setDatei(const QString& datei);
     void setDeckkraft(qreal deckkraft);
 
   protected:

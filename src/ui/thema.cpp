@@ -1,0 +1,96 @@
+// SPDX-FileCopyrightText: 2026 The Fuchs und Hennen authors
+//
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "ui/thema.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QSettings>
+#include <algorithm>
+#include <optional>
+
+#include "ui/sprache.h"
+
+namespace fuh {
+
+namespace {
+
+void farbe(const QSettings& ini, const char* schluessel, QColor& ziel) {
+    // "#RRGGBB", or "#AARRGGBB" with its opacity first.
+    const QColor c(ini.value(QLatin1String(schluessel)).toString());
+    if (c.isValid()) ziel = c;
+}
+
+// The picture named under `schluessel`, relative to the theme's folder; empty when it is not there.
+QString bild(const QSettings& ini, const QDir& ordner, const char* schluessel) {
+    const QString name = ini.value(QLatin1String(schluessel)).toString();
+    if (name.isEmpty()) return {};
+    const QString pfad = QDir::cleanPath(ordner.filePath(name));
+    return QFileInfo(pfad).isFile() ? pfad : QString();
+}
+
+// The theme in `ordner`; what it leaves out is taken from `basis`. None unless it has all three
+// pictures and every colour.
+std::optional<Thema> lesen(const QDir& ordner, const Thema& basis) {
+    const QString datei = ordner.filePath(QStringLiteral("thema.ini"));
+    if (!QFileInfo(datei).isFile()) return std::nullopt;
+    QSettings ini(datei, QSettings::IniFormat);
+    ini.beginGroup(QStringLiteral("Thema"));
+    Thema t = basis;
+    t.id = ordner.dirName();
+    t.name = ini.value(QStringLiteral("Name"), t.id).toString();
+    t.nameEn = ini.value(QStringLiteral("NameEn"), t.name).toString();
+    for (const auto& [schluessel, ziel] :
+         {std::pair{"Brett", &t.brett}, {"Fuchs", &t.fuchs}, {"Henne", &t.henne}}) {
+        *ziel = bild(ini, ordner, schluessel);
+        if (ziel->isEmpty()) return std::nullopt;
+    }
+    bool vollstaendig = true;
+    for (const auto& [schluessel, ziel] : {std::pair{"Rand", &t.rand},
+                                           {"ZugVon", &t.zugVon},
+                                           {"ZugNach", &t.zugNach},
+                                           {"TippLinie", &t.tippLinie},
+                                           {"TippRing", &t.tippRing},
+                                           {"CursorAussen", &t.cursorAussen},
+                                           {"CursorInnen", &t.cursorInnen},
+                                           {"HinweisSchrift", &t.hinweisSchrift},
+                                           {"HinweisGrund", &t.hinweisGrund}}) {
+        farbe(ini, schluessel, *ziel);
+        vollstaendig = vollstaendig && ziel->isValid();
+    }
+    if (!vollstaendig) return std::nullopt;
+    t.strich = std::clamp(ini.value(QStringLiteral("Strich"), basis.strich).toDouble(), 0.5, 3.0);
+    return t;
+}
+
+// The classic board: every other theme starts from it. The game's own copy stands in for a missing one.
+Thema klassisch(const QDir& wurzel) {
+    const QString id = QLatin1String(kThemaStandard);
+    if (auto t = lesen(QDir(wurzel.filePath(id)), Thema{})) return *t;
+    return *lesen(QDir(QStringLiteral(":/themen/") + id), Thema{});
+}
+
+} // namespace
+
+QString Thema::anzeigename() const {
+    return aktuelleSprache() == Sprache::englisch ? nameEn : name;
+}
+
+std::vector<Thema> themen(const QString& wurzel) {
+    const QDir dir(wurzel);
+    std::vector<Thema> liste{klassisch(dir)};
+    for (const QString& name : dir.entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name)) {
+        if (name == QLatin1String(kThemaStandard)) continue;
+        if (auto t = lesen(QDir(dir.filePath(name)), liste.front())) liste.push_back(*t);
+    }
+    return liste;
+}
+
+Thema thema(const QString& id, const QString& wurzel) {
+    const std::vector<Thema> liste = themen(wurzel);
+    const auto t = std::find_if(liste.begin(), liste.end(), [&](const Thema& t) { return t.id == id; });
+    return t == liste.end() ? liste.front() : *t;
+}
+
+} // namespace fuh

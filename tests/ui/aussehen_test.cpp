@@ -1,0 +1,156 @@
+// SPDX-FileCopyrightText: 2026 The Fuchs und Hennen authors
+//
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// How the board looks and sounds: the themes, the choice of one in the menu, and the sounds of a game.
+#include <QDir>
+#include <QFile>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include "fenster_aufbau.h"
+#include "game/texte.h"
+#include "ui/klaenge.h"
+#include "ui/thema.h"
+
+using namespace fuh;
+using namespace fuh::test;
+
+namespace {
+
+// The colour of the board's ground, at its top left corner where no line or point is.
+QColor grund(Aufbau& a) {
+    const QRect r = a.brett()->brettRechteck();
+    return a.brett()->grab().toImage().pixelColor(r.topLeft() + QPoint(12, 12));
+}
+
+bool gruen(const QColor& c) {
+    return c.green() > c.red() + 40 && c.green() > c.blue() + 40;
+}
+
+void schreibe(const QString& pfad, const QByteArray& inhalt) {
+    QFile f(pfad);
+    QVERIFY(f.open(QIODevice::WriteOnly));
+    f.write(inhalt);
+}
+
+} // namespace
+
+class AussehenTest : public QObject {
+    Q_OBJECT
+  private slots:
+    void dieThemenDesSpiels() {
+        const std::vector<Thema> liste = themen();
+        QStringList ids;
+        for (const Thema& t : liste)
+            ids << t.id;
+        QCOMPARE(ids, (QStringList{"klassisch", "dunkel", "kontrast"}));
+        for (const Thema& t : liste)
+            QVERIFY2(t.rand.isValid() && t.zugNach.isValid() && t.hinweisGrund.isValid(), qPrintable(t.id));
+        QCOMPARE(thema(QStringLiteral("gibt-es-nicht")).id, QStringLiteral("klassisch"));
+        // Every mark of the high-contrast board is opaque and stands out from its white ground.
+        const Thema k = thema(QStringLiteral("kontrast"));
+        for (const QColor& c : {k.zugVon, k.zugNach, k.tippLinie, k.tippRing}) {
+            QCOMPARE(c.alpha(), 255);
+            QVERIFY(c.lightnessF() < 0.45);
+        }
+    }
+
+    // A theme of one's own is a folder: what it leaves out comes from the classic board, and a folder
+    // without its pictures is no theme.
+    void einOrdnerIstEinThema() {
+        QTemporaryDir wurzel;
+        QDir(wurzel.path()).mkpath(QStringLiteral("rot"));
+        QDir(wurzel.path()).mkpath(QStringLiteral("halb"));
+        QFile::copy(QStringLiteral(":/themen/klassisch/brett.svg"),
+                    wurzel.filePath(QStringLiteral("rot/b.svg")));
+        schreibe(wurzel.filePath(QStringLiteral("rot/thema.ini")),
+                 "[Thema]\nName=Rot\nBrett=b.svg\nFuchs=b.svg\nHenne=b.svg\nRand=#ff0000\nStrich=99\n");
+        schreibe(wurzel.filePath(QStringLiteral("halb/thema.ini")), "[Thema]\nBrett=fehlt.svg\n");
+        const std::vector<Thema> liste = themen(wurzel.path());
+        QCOMPARE(liste.size(), 2u); // the game's own classic board, and "rot"
+        const Thema& rot = liste.back();
+        QCOMPARE(rot.name, QStringLiteral("Rot"));
+        QCOMPARE(rot.rand, QColor(Qt::red));
+        QCOMPARE(rot.zugNach, liste.front().zugNach);
+        QCOMPARE(rot.strich, 3.0);
+    }
+
+    void themaGiltSofortUndBleibt() {
+        Aufbau a;
+        fensterEinstellungen().setValue(QStringLiteral("thema"), QStringLiteral("kontrast"));
+        a.starten();
+        QVERIFY(!gruen(grund(a)));
+        QVERIFY(grund(a).lightnessF() > 0.9);
+        a.aktion("thema_dunkel");
+        QVERIFY(grund(a).lightnessF() < 0.25);
+        QCOMPARE(a.brett()->figur(0)->datei(), thema(QStringLiteral("klassisch")).fuchs);
+        a.aktion("thema_klassisch");
+        QVERIFY(gruen(grund(a)));
+        a.starten();
+        QVERIFY(gruen(grund(a)));
+        QCOMPARE(fensterEinstellungen().value(QStringLiteral("thema")).toString(),
+                 QStringLiteral("klassisch"));
+    }
+
+    void klaengeFolgenDemSpiel() {
+        std::optional<Seite> mensch = Seite::Hennen;
+        Klaenge k([&] { return mensch; });
+        QSignalSpy gespielt(&k, &Klaenge::gespielt);
+        using A = Ereignis::Art;
+        using K = Klaenge::Klang;
+        const auto zug = [](int von, int nach) { return Ereignis{A::zug, von, nach, 0, false, {}}; };
+        const auto meldung = [](const char* t) {
+            return Ereignis{A::meldung, 0, 0, 0, false, QString::fromUtf8(t)};
+        };
+        const struct {
+            Ereignis e;
+            std::optional<Seite> mensch;
+            std::optional<K> klang;
+        } faelle[] = {
+            {zug(feldNummer(2, 4), feldNummer(2, 3)), Seite::Hennen, K::abgesetzt},
+            {zug(feldNummer(2, 2), feldNummer(2, 4)), Seite::Hennen, K::fang},
+            {zug(feldNummer(2, 2), feldNummer(4, 4)), Seite::Hennen, K::fang},
+            {zug(feldNummer(3, 2), kParkfeld), Seite::Hennen, K::geparkt},
+            {zug(kParkfeld, feldNummer(3, 0)), Seite::Hennen, K::abgesetzt},
+            {meldung(kHennenGewinnen), Seite::Hennen, K::sieg},
+            {meldung(kHennenGewinnen), Seite::Fuchs, K::niederlage},
+            {meldung(kFuchsGewinntOhneZug), Seite::Hennen, K::niederlage},
+            {meldung(kFuchsGewinnt), std::nullopt, K::sieg},
+            {meldung(kRemisZiel), Seite::Fuchs, K::remis},
+            {Ereignis{A::zugbegrenzung, 0, 0, 0, false, {}}, Seite::Fuchs, K::remis},
+            {meldung("Irgendeine Meldung"), Seite::Fuchs, std::nullopt},
+            {Ereignis{A::status, 1, 0, 0, false, {}}, Seite::Fuchs, std::nullopt},
+        };
+        for (const auto& f : faelle) {
+            mensch = f.mensch;
+            gespielt.clear();
+            k.ereignis(f.e);
+            QCOMPARE(gespielt.size(), f.klang ? 1 : 0);
+            if (f.klang) QCOMPARE(gespielt.front().front().value<K>(), *f.klang);
+        }
+    }
+
+    void tonImSpielUndAus() {
+        Aufbau a;
+        auto* klaenge = a.fenster->findChild<Klaenge*>();
+        QSignalSpy gespielt(klaenge, &Klaenge::gespielt);
+        a.aktion("Neu");
+        a.ziehe(24, 17);
+        a.fenster->zugTakt();
+        QCOMPARE(gespielt.size(), 2); // the hen set down, the fox's reply
+        a.aktion("ton");
+        QCOMPARE(fensterEinstellungen().value(QStringLiteral("ton")).toString(), QStringLiteral("aus"));
+        a.starten();
+        klaenge = a.fenster->findChild<Klaenge*>();
+        QVERIFY(!klaenge->an());
+        QSignalSpy still(klaenge, &Klaenge::gespielt);
+        a.aktion("Neu");
+        a.ziehe(24, 17);
+        QCOMPARE(still.size(), 0);
+    }
+};
+
+QTEST_MAIN(AussehenTest)
+#include "aussehen_test.moc"
