@@ -7,16 +7,15 @@
 #include <utility>
 
 #include "board/regeln.h"
-#include "board/zugliste.h"
+#include "board/zugliste.h" // teilzugAusfuehren
 
 namespace fuh {
 
 namespace {
 
-// A side's move on `Feld` by the rules: one step, or a chain of jumps of one fox; no move only when the
-// side has none.
+// A side's move on `Feld` by the rules: one step, or a chain of jumps of one fox. A computer player may
+// find no move even where the rules allow one (it then loses, or draws, as the end-of-move check says).
 bool erlaubt(Brettfeld Feld, Seite seite, const std::vector<Teilzug>& teile) {
-    if (teile.empty()) return erlaubteZuege(Feld, seite == Seite::Fuchs ? fuchs : henne).empty();
     Sprungfolge folge;
     for (const Teilzug& t : teile) {
         if ((folge.imSprung || teile.size() > 1) && !t.sprung()) return false;
