@@ -64,9 +64,9 @@ std::string aufzeichnungText(const Aufzeichnung& a) {
     angabe(text, kEnde, std::string(a.ende ? kEndegruende[static_cast<std::size_t>(*a.ende)] : kKeinEnde));
     text += '\n';
     for (std::size_t i = 0; i < a.zuege.size(); ++i) {
-        const Eintrag& e = a.zuege[i];
+        const Partiezug& e = a.zuege[i];
         text += std::to_string(i + 1) + ". " + (e.seite == Seite::Fuchs ? kFuchsZeichen : kHennenZeichen) +
-                ' ' + eintragText(e, a.offen && i + 1 == a.zuege.size()) + '\n';
+                ' ' + zugText(e, a.offen && i + 1 == a.zuege.size()) + '\n';
     }
     return text;
 }

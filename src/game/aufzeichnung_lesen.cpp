@@ -106,7 +106,7 @@ class Leser {
     std::optional<Gelesen> kopfLesen(std::size_t& i);
     std::optional<Gelesen> kopfDeuten();
     std::optional<Gelesen> spielerDeuten();
-    std::optional<Gelesen> zugLesen(const Zeile& zeile);
+    std::optional<Gelesen> zeileLesen(const Zeile& zeile);
     std::string_view wert(std::string_view name) const { return angaben_[*stelle(kAngaben, name)].text; }
     int zeileVon(std::string_view name) const { return angaben_[*stelle(kAngaben, name)].nummer; }
 
@@ -170,7 +170,7 @@ std::optional<Gelesen> Leser::kopfDeuten() {
 }
 
 // "12. F e5xe3xc3": the number counts the moves from 1; only the last may be an open chain.
-std::optional<Gelesen> Leser::zugLesen(const Zeile& zeile) {
+std::optional<Gelesen> Leser::zeileLesen(const Zeile& zeile) {
     const std::string_view t = zeile.text;
     const std::string nummer = std::to_string(a_.zuege.size() + 1) + ". ";
     if (a_.offen || !t.starts_with(nummer) || t.size() < nummer.size() + 3 || t[nummer.size() + 1] != ' ')
@@ -178,9 +178,9 @@ std::optional<Gelesen> Leser::zugLesen(const Zeile& zeile) {
     const char seite = t[nummer.size()];
     if (seite != kFuchsZeichen && seite != kHennenZeichen) return fehler(kZeileUnlesbar, zeile.nummer);
     const auto e =
-        eintragLesen(seite == kFuchsZeichen ? Seite::Fuchs : Seite::Hennen, t.substr(nummer.size() + 2));
+        zugLesen(seite == kFuchsZeichen ? Seite::Fuchs : Seite::Hennen, t.substr(nummer.size() + 2));
     if (!e) return fehler(kZeileUnlesbar, zeile.nummer);
-    a_.zuege.push_back(e->eintrag);
+    a_.zuege.push_back(e->zug);
     a_.zeilen.push_back(zeile.nummer);
     a_.offen = e->offen;
     return std::nullopt;
@@ -193,7 +193,7 @@ Gelesen Leser::lesen() {
     if (auto f = kopfDeuten()) return *f;
     for (; i < z_.size(); ++i)
         if (!z_[i].text.empty())
-            if (auto f = zugLesen(z_[i])) return *f;
+            if (auto f = zeileLesen(z_[i])) return *f;
     return {std::move(a_), {}};
 }
 } // namespace

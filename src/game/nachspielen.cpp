@@ -30,13 +30,13 @@ bool erlaubt(Brettfeld Feld, Seite seite, const std::vector<Teilzug>& teile) {
 class Vorgabe : public Zugvorgabe {
   public:
     explicit Vorgabe(const Spiel& spiel) : spiel_(spiel) {}
-    const Eintrag* naechster = nullptr;
+    const Partiezug* naechster = nullptr;
     bool verweigert = false;
 
     bool bereit(Seite seite) const override { return naechster && naechster->seite == seite; }
     Zugwahl wahl(Seite seite) override {
         Zugwahl w;
-        const Eintrag* e = std::exchange(naechster, nullptr);
+        const Partiezug* e = std::exchange(naechster, nullptr);
         verweigert = !e || !erlaubt(spiel_.stellung().Feld, seite, e->teile);
         if (verweigert) return w;
         for (const Teilzug& t : e->teile)
@@ -49,7 +49,7 @@ class Vorgabe : public Zugvorgabe {
 };
 
 // A person's move, drop by drop; a chain is closed unless the record leaves it open.
-bool menschZieht(Spiel& spiel, const Eintrag& e, bool offen) {
+bool menschZieht(Spiel& spiel, const Partiezug& e, bool offen) {
     if (e.teile.empty() || e.strafe != Strafe::Art::keine) return false;
     for (const Teilzug& t : e.teile) {
         const auto k = figur_index(spiel.stellung(), feldNummer(t.vonX, t.vonY));
@@ -63,6 +63,18 @@ bool menschZieht(Spiel& spiel, const Eintrag& e, bool offen) {
     if (spiel.sprungfolge().imSprung && !offen) spiel.sprungfolgeSchliessen();
     return true;
 }
+
+// Shows nothing: the states are what is wanted.
+class Stumm : public Ansicht {
+  public:
+    void figurBewegt(int, int, int) override {}
+    void figurSichtbar(int, bool) override {}
+    void figurenZiehbar(bool) override {}
+    void hinweis(Hinweis, bool) override {}
+    void status(Statusfeld, const std::string&) override {}
+    void meldung(const std::string&) override {}
+    void oeffnen(Fenster) override {}
+};
 
 // The game ends as the file says, or runs on when it says so.
 bool ergebnisPasst(const Spiel& spiel, const Aufzeichnung& a) {
@@ -85,7 +97,7 @@ std::string nachspielen(Spiel& spiel, const Aufzeichnung& a,
     const auto zeile = [&](std::size_t i) { return std::to_string(i < a.zeilen.size() ? a.zeilen[i] : 0); };
     std::string fehler;
     for (std::size_t i = 0; i < a.zuege.size() && fehler.empty(); ++i) {
-        const Eintrag& e = a.zuege[i];
+        const Partiezug& e = a.zuege[i];
         bool gemacht = !spiel.endeGefunden() && e.seite == spiel.amZug();
         if (gemacht && spiel.computerAmZug()) {
             vorgabe.naechster = &e;
@@ -103,6 +115,21 @@ std::string nachspielen(Spiel& spiel, const Aufzeichnung& a,
     if (fehler.empty() && !ergebnisPasst(spiel, a))
         fehler = einsetzen(kErgebnisFalsch, {std::to_string(a.ergebnisZeile)});
     return fehler;
+}
+
+} // namespace fuh
+
+namespace fuh {
+
+std::vector<Spielstand> nachspielStaende(const Aufzeichnung& a, const std::filesystem::path& ordner,
+                                         std::string& fehler) {
+    Stumm stumm;
+    Zufall zufall;
+    Spiel spiel(stumm, zufall, ordner);
+    std::vector<Spielstand> staende;
+    fehler = nachspielen(spiel, a, [&](std::size_t) { staende.push_back(spiel.zustand()); });
+    if (!fehler.empty()) staende.clear();
+    return staende;
 }
 
 } // namespace fuh

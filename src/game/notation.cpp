@@ -12,7 +12,7 @@ namespace {
 constexpr std::string_view kPark = "Park";
 constexpr std::string_view kKeinZug = "--";
 
-std::string parkplatzText(const Eintrag& e) {
+std::string parkplatzText(const Partiezug& e) {
     const Teilzug& z = e.strafzug;
     switch (e.strafe) {
     case Strafe::Art::parken:
@@ -43,7 +43,7 @@ std::vector<std::string_view> woerter(std::string_view text) {
 }
 
 // The penalty's verdict: "e3-Park", "e3-Park=" or "Park-a5"; false when the word is none of these.
-bool strafeLesen(std::string_view w, Eintrag& e) {
+bool strafeLesen(std::string_view w, Partiezug& e) {
     const std::string park(kPark);
     if (w.starts_with(park + "-")) {
         const auto p = punktLesen(w.substr(park.size() + 1));
@@ -62,7 +62,7 @@ bool strafeLesen(std::string_view w, Eintrag& e) {
 }
 
 // "d4-d5" or "e5xe3xc3", a chain perhaps followed by "+".
-bool zugLesen(std::string_view w, Eintrag& e, bool& offen) {
+bool bewegungLesen(std::string_view w, Partiezug& e, bool& offen) {
     if (w == kKeinZug) return true;
     offen = w.ends_with('+');
     if (offen) w.remove_suffix(1);
@@ -87,7 +87,7 @@ std::string punktText(int x, int y) {
     return {static_cast<char>('a' + x), static_cast<char>('7' - y)};
 }
 
-std::string eintragText(const Eintrag& e, bool offen) {
+std::string zugText(const Partiezug& e, bool offen) {
     std::string text = parkplatzText(e);
     if (!text.empty()) text += ' ';
     if (e.teile.empty()) return text + std::string(kKeinZug);
@@ -97,13 +97,13 @@ std::string eintragText(const Eintrag& e, bool offen) {
     return offen ? text + "+" : text;
 }
 
-std::optional<GelesenerEintrag> eintragLesen(Seite seite, std::string_view text) {
+std::optional<GelesenerZug> zugLesen(Seite seite, std::string_view text) {
     const auto w = woerter(text);
-    GelesenerEintrag g;
-    g.eintrag.seite = seite;
+    GelesenerZug g;
+    g.zug.seite = seite;
     if (w.empty() || w.size() > 2) return std::nullopt;
-    if (w.size() == 2 && !strafeLesen(w[0], g.eintrag)) return std::nullopt;
-    if (!zugLesen(w.back(), g.eintrag, g.offen)) return std::nullopt;
+    if (w.size() == 2 && !strafeLesen(w[0], g.zug)) return std::nullopt;
+    if (!bewegungLesen(w.back(), g.zug, g.offen)) return std::nullopt;
     return g;
 }
 

@@ -149,7 +149,7 @@ void teilzug(Leser& a, Teilzug& t) {
 
 void mitschrift(Schreiber& a, const Mitschrift& m) {
     a.u16(static_cast<uint16_t>(m.zuege.size()));
-    for (const Eintrag& e : m.zuege) {
+    for (const Partiezug& e : m.zuege) {
         a.art(e.seite), a.art(e.strafe), teilzug(a, e.strafzug);
         a.u8(static_cast<uint8_t>(e.teile.size()));
         for (const Teilzug& t : e.teile)
@@ -164,7 +164,7 @@ void mitschrift(Leser& a, Mitschrift& m) {
     a.u16(n);
     a.kaputt |= n > 2 * kSituationen;
     m.zuege.resize(a.kaputt ? 0 : n);
-    for (Eintrag& e : m.zuege) {
+    for (Partiezug& e : m.zuege) {
         uint8_t teile = 0;
         a.art(e.seite), a.art(e.strafe), teilzug(a, e.strafzug), a.u8(teile);
         a.kaputt |= teile > kLaengsteKette;

@@ -116,7 +116,7 @@ bool teilzugGueltig(const Teilzug& t) {
 // The record names sides, verdicts, squares and reasons that exist. That its moves were legal is what
 // replaying it proves; a saved running game is the game's own, and its state is checked above.
 bool mitschriftGueltig(const Mitschrift& m) {
-    for (const Eintrag& e : m.zuege) {
+    for (const Partiezug& e : m.zuege) {
         if ((e.seite != Seite::Fuchs && e.seite != Seite::Hennen) ||
             !imBereich(static_cast<int>(e.strafe), 0, static_cast<int>(Strafe::Art::letzterFuchs)) ||
             !teilzugGueltig(e.strafzug) || !std::all_of(e.teile.begin(), e.teile.end(), teilzugGueltig))

@@ -71,6 +71,11 @@ TEST(Aufzeichnung, JedesSpielGehtDurchDieDateiUndZurueck) {
                 ASSERT_EQ(aufzeichnungText(*g.aufzeichnung), text);
                 Gespielt nach(leer, 1);
                 ASSERT_EQ(nachspielen(nach.spiel, *g.aufzeichnung), "") << text;
+                std::string fehler;
+                const auto staende = nachspielStaende(*g.aufzeichnung, leer.pfad(), fehler);
+                ASSERT_EQ(staende.size(), g.aufzeichnung->zuege.size() + 1);
+                EXPECT_TRUE(ohneZufall(staende.back()) == ohneZufall(nach.spiel.zustand()));
+                EXPECT_EQ(staende.front().mitschrift.zuege.size(), 0u);
                 const std::string fall = "PC " + std::to_string(PC) + " seed " + std::to_string(seed);
                 EXPECT_TRUE(ohneZufall(nach.spiel.zustand()) == ohneZufall(original.spiel.zustand())) << fall;
                 EXPECT_EQ(nach.ansicht.zuege, original.ansicht.zuege) << fall;
@@ -78,7 +83,7 @@ TEST(Aufzeichnung, JedesSpielGehtDurchDieDateiUndZurueck) {
                 EXPECT_EQ(nach.ansicht.fenster, original.ansicht.fenster) << fall;
                 EXPECT_TRUE(leer.namen().empty()) << fall;
 
-                for (const Eintrag& e : original.spiel.mitschrift().zuege) {
+                for (const Partiezug& e : original.spiel.mitschrift().zuege) {
                     if (e.teile.size() > 1) gesehen.insert("Kette");
                     gesehen.insert("Strafe " + std::to_string(static_cast<int>(e.strafe)));
                 }
@@ -162,15 +167,15 @@ TEST(Aufzeichnung, DateiZuGrossOderKeineDatei) {
 TEST(Aufzeichnung, Notation) {
     EXPECT_EQ(punktText(0, 6), "a1");
     EXPECT_EQ(punktText(3, 3), "d4");
-    const auto kette = eintragLesen(Seite::Fuchs, "e3-Park e5xe3xc3+");
+    const auto kette = zugLesen(Seite::Fuchs, "e3-Park e5xe3xc3+");
     ASSERT_TRUE(kette);
-    EXPECT_EQ(kette->eintrag.teile, (std::vector<Teilzug>{{4, 2, 4, 4}, {4, 4, 2, 4}}));
-    EXPECT_EQ(kette->eintrag.strafzug, (Teilzug{4, 4, 0, 0}));
+    EXPECT_EQ(kette->zug.teile, (std::vector<Teilzug>{{4, 2, 4, 4}, {4, 4, 2, 4}}));
+    EXPECT_EQ(kette->zug.strafzug, (Teilzug{4, 4, 0, 0}));
     EXPECT_TRUE(kette->offen);
-    EXPECT_EQ(eintragText(kette->eintrag, true), "e3-Park e5xe3xc3+");
+    EXPECT_EQ(zugText(kette->zug, true), "e3-Park e5xe3xc3+");
     for (const char* falsch :
          {"d4-d6", "d4xd5", "d4-d5+", "h1-h2", "d4-d5 d5-d6", "e3-Park", "Park-d4 d4", ""})
-        EXPECT_FALSE(eintragLesen(Seite::Hennen, falsch)) << falsch;
+        EXPECT_FALSE(zugLesen(Seite::Hennen, falsch)) << falsch;
 }
 
 } // namespace

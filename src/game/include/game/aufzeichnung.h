@@ -47,7 +47,7 @@ struct Aufzeichnung {
     bool zurueckgenommen = false; // a move was taken back: the game goes to no high-score list
     Ergebnis ergebnis = Ergebnis::offen;
     std::optional<Endegrund> ende;
-    std::vector<Eintrag> zuege;
+    std::vector<Partiezug> zuege;
     bool offen = false; // the last move is a person's chain of jumps, not yet closed
     // The lines of a file read: each move's, and the result's (0 when not read from a file).
     std::vector<int> zeilen;

@@ -18,17 +18,17 @@ namespace fuh {
 // One side's turn: before a computer hen move the penalty rule may park a fox, bring one back or find
 // the last fox would be parked; then a step, a chain of jumps (each jump from where the one before
 // landed, the hen in between taken), or nothing when the side found no move.
-struct Eintrag {
+struct Partiezug {
     Seite seite = Seite::Hennen;
     Strafe::Art strafe = Strafe::Art::keine;
     Teilzug strafzug{};
     std::vector<Teilzug> teile;
 
-    friend bool operator==(const Eintrag&, const Eintrag&) = default;
+    friend bool operator==(const Partiezug&, const Partiezug&) = default;
 };
 
 struct Mitschrift {
-    std::vector<Eintrag> zuege;
+    std::vector<Partiezug> zuege;
     std::optional<Endegrund> ende; // the reason the game ended, the last one announced
 
     // A side's turn begins.

@@ -8,6 +8,7 @@
 // checked by the rules before it is made. The game tells its view everything as it did when played.
 #include <functional>
 #include <string>
+#include <vector>
 
 #include "game/aufzeichnung.h"
 #include "game/spiel.h"
@@ -19,5 +20,11 @@ namespace fuh {
 // or of a result that does not follow from the moves; empty when the whole game was replayed.
 std::string nachspielen(Spiel& spiel, const Aufzeichnung& a,
                         const std::function<void(std::size_t)>& nachZug = {});
+
+// The whole game after each of its first n moves, from n = 0 on, for stepping through a game file; played
+// in a game of its own that shows nothing and writes no file, in `ordner`. Empty, with the message in
+// `fehler`, when the moves are refused.
+std::vector<Spielstand> nachspielStaende(const Aufzeichnung& a, const std::filesystem::path& ordner,
+                                         std::string& fehler);
 
 } // namespace fuh

@@ -18,14 +18,14 @@ namespace fuh {
 std::string punktText(int x, int y);
 
 // One turn without its number and side: the penalty's verdict, if any, then the move.
-std::string eintragText(const Eintrag& e, bool offen);
+std::string zugText(const Partiezug& e, bool offen);
 
-// Reads what eintragText writes, for `seite`; nullopt when it is not notation. Only the form is checked
+// Reads what zugText writes, for `seite`; nullopt when it is not notation. Only the form is checked
 // here: whether the move was legal is for the game to find out.
-struct GelesenerEintrag {
-    Eintrag eintrag;
+struct GelesenerZug {
+    Partiezug zug;
     bool offen = false;
 };
-std::optional<GelesenerEintrag> eintragLesen(Seite seite, std::string_view text);
+std::optional<GelesenerZug> zugLesen(Seite seite, std::string_view text);
 
 } // namespace fuh
