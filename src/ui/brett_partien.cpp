@@ -49,10 +49,12 @@ void BrettFenster::partieMenue(QMenu* menue) {
         {QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z), QKeySequence(Qt::CTRL | Qt::Key_Y)});
     blaetternMenue(menue);
     QAction* zeigen = zugliste_->toggleViewAction();
+    zeigen->setObjectName(QStringLiteral("zuglisteZeigen"));
     texte_.text(zeigen, QT_TR_NOOP("Zug&liste"));
     menue->addAction(zeigen);
     zugliste_->setVisible(fensterEinstellungen().value(QLatin1String(kZuglisteSchluessel), false).toBool());
-    connect(zeigen, &QAction::toggled, this,
+    // Only the player's choice is kept: the dock also hides when the window goes.
+    connect(zeigen, &QAction::triggered, this,
             [](bool an) { fensterEinstellungen().setValue(QLatin1String(kZuglisteSchluessel), an); });
     connect(zugliste_, &ZuglistePanel::zugGewaehlt, this, [this](std::size_t n) { blaettern(n); });
 }
