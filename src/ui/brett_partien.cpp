@@ -31,13 +31,13 @@ QString dateifilter() {
 } // namespace
 
 void BrettFenster::partieMenue(QMenu* menue) {
-    befehl(menue, "partieSpeichern", QT_TR_NOOP("Partie s&peichern …"), [this] {
+    befehl(menue, "partieSpeichern", QT_TR_NOOP("Partie spei&chern…"), [this] {
         QString pfad = QFileDialog::getSaveFileName(this, tr("Partie speichern"), QString(), dateifilter());
         if (pfad.isEmpty()) return;
         if (!pfad.endsWith(QLatin1String(kEndung))) pfad += QLatin1String(kEndung);
         partieSpeichern(QFile::encodeName(pfad).toStdString());
     })->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_S));
-    wartendeBefehle_.push_back(befehl(menue, "partieOeffnen", QT_TR_NOOP("Partie ö&ffnen …"), [this] {
+    wartendeBefehle_.push_back(befehl(menue, "partieOeffnen", QT_TR_NOOP("Partie ö&ffnen…"), [this] {
         const QString pfad =
             QFileDialog::getOpenFileName(this, tr("Partie öffnen"), QString(), dateifilter());
         if (!pfad.isEmpty()) partieOeffnen(QFile::encodeName(pfad).toStdString());
@@ -61,7 +61,7 @@ void BrettFenster::partieMenue(QMenu* menue) {
 
 void BrettFenster::blaetternMenue(QMenu* menue) {
     QMenu* blaettern = menue->addMenu(QString());
-    texte_.text(blaettern->menuAction(), QT_TR_NOOP("&Blättern"));
+    texte_.text(blaettern->menuAction(), QT_TR_NOOP("Bl&ättern"));
     const struct {
         const char* name;
         const char* text;
