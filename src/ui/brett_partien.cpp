@@ -13,6 +13,7 @@
 #include "game/nachspielen.h"
 #include "game/spiel.h"
 #include "game/zug.h"
+#include "ui/ansage.h"
 #include "ui/brett_fenster.h"
 #include "ui/brett_flaeche.h"
 #include "ui/meldung.h"
@@ -153,6 +154,7 @@ void BrettFenster::blaettern(std::size_t n) {
     brett_->markierungLoeschen();
     spiel_->fortsetzen({ziel, {}, false});
     spielWeiter();
+    ansage_->sagen(ZuglistePanel::zeile(blaetterPartie_->zuege, blaetterPartie_->offen, n));
 }
 
 std::optional<std::size_t> BrettFenster::blaetterStand() const {

@@ -19,8 +19,10 @@ ZuglistePanel::ZuglistePanel(QWidget* parent) : QDockWidget(parent), liste_(new 
     texteSetzen();
     connect(liste_, &QListWidget::itemActivated, this,
             [this](QListWidgetItem* i) { emit zugGewaehlt(static_cast<std::size_t>(liste_->row(i))); });
-    connect(liste_, &QListWidget::itemClicked, this,
-            [this](QListWidgetItem* i) { emit zugGewaehlt(static_cast<std::size_t>(liste_->row(i))); });
+    // A click or the list's own keys move the selection; the board follows.
+    connect(liste_, &QListWidget::currentRowChanged, this, [this](int zeile) {
+        if (zeile >= 0) emit zugGewaehlt(static_cast<std::size_t>(zeile));
+    });
 }
 
 void ZuglistePanel::zeigen(const std::vector<Partiezug>& zuege, bool offen, std::size_t stand) {
@@ -35,19 +37,22 @@ void ZuglistePanel::zeigen(const std::vector<Partiezug>& zuege, bool offen, std:
 }
 
 // Row 0 is the start, row n the move n, as in a game file.
+QString ZuglistePanel::zeile(const std::vector<Partiezug>& zuege, bool offen, std::size_t n) {
+    if (n == 0 || n > zuege.size()) return tr("Anfang");
+    const Partiezug& e = zuege[n - 1];
+    return QStringLiteral("%1. %2 %3")
+        .arg(n)
+        .arg(QLatin1Char(e.seite == Seite::Fuchs ? 'F' : 'H'))
+        .arg(QString::fromStdString(zugText(e, offen && n == zuege.size())));
+}
+
 void ZuglistePanel::fuellen() {
     const QSignalBlocker ruhe(liste_);
-    const int zeile = liste_->currentRow();
+    const int aktuell = liste_->currentRow();
     liste_->clear();
-    liste_->addItem(tr("Anfang"));
-    for (std::size_t i = 0; i < zuege_.size(); ++i) {
-        const Partiezug& e = zuege_[i];
-        liste_->addItem(QStringLiteral("%1. %2 %3")
-                            .arg(i + 1)
-                            .arg(QLatin1Char(e.seite == Seite::Fuchs ? 'F' : 'H'))
-                            .arg(QString::fromStdString(zugText(e, offen_ && i + 1 == zuege_.size()))));
-    }
-    liste_->setCurrentRow(std::min(zeile, liste_->count() - 1));
+    for (std::size_t n = 0; n <= zuege_.size(); ++n)
+        liste_->addItem(zeile(zuege_, offen_, n));
+    liste_->setCurrentRow(std::min(aktuell, liste_->count() - 1));
 }
 
 void ZuglistePanel::changeEvent(QEvent* e) {

@@ -21,6 +21,8 @@ class ZuglistePanel : public QDockWidget {
     // The moves, and how many of them the board shows.
     void zeigen(const std::vector<Partiezug>& zuege, bool offen, std::size_t stand);
     QListWidget* liste() const { return liste_; }
+    // The text of row n: "Anfang" for the start, else the move n as "12. F e5xe3xc3".
+    static QString zeile(const std::vector<Partiezug>& zuege, bool offen, std::size_t n);
 
   signals:
     void zugGewaehlt(std::size_t stand); // the board is to show the game after this many moves
