@@ -6,6 +6,7 @@
 
 #include <QEvent>
 #include <QListWidget>
+#include <QScrollBar>
 
 #include "game/notation.h"
 
@@ -66,6 +67,10 @@ void ZuglistePanel::changeEvent(QEvent* e) {
 void ZuglistePanel::texteSetzen() {
     setWindowTitle(tr("Zugliste"));
     liste_->setAccessibleName(tr("Zugliste"));
+    // Wide enough for a long line without cutting it.
+    liste_->setMinimumWidth(
+        liste_->fontMetrics().horizontalAdvance(QStringLiteral("150. F e5xe3xc3xa3xa5+")) +
+        liste_->verticalScrollBar()->sizeHint().width() + 2 * liste_->frameWidth());
     liste_->setAccessibleDescription(tr("Die Züge der Partie; die Auswahl zeigt das Brett nach diesem Zug."));
 }
 
