@@ -26,7 +26,8 @@ void Spiel::strafeAnwenden(const Strafe& strafe) {
 }
 
 Meister* Spiel::meister(const std::optional<Spieler>& seite, std::unique_ptr<Meister>& instanz) {
-    if (!seite || !seite->meister) return nullptr;
+    // A replayed game's choices are given: no search is set up for them.
+    if (vorgabe_ || !seite || !seite->meister) return nullptr;
     if (!instanz) instanz = std::make_unique<Meister>(spielerwahl_.meisterSeed);
     return instanz.get();
 }
