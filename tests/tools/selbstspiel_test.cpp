@@ -204,6 +204,11 @@ TEST(Selbstspiel, NichtGespeichertGibtStatusEins) {
     const std::string log = lauf(schlecht, "--spiele 1 --seed 7 --protokoll", fehler);
     EXPECT_NE(log.find("\nmeldung " + schreibfehler("QZ.sta") + "\n"), std::string::npos);
     EXPECT_EQ(log.substr(0, 2), "1\n");
+    // A game file that cannot be written is named once, and the run goes on.
+    const std::string partien = (gut / "fehlt").string();
+    EXPECT_EQ(lauf(gut, "--spiele 2 --seed 7 --partien " + partien, fehler), "1\nsumme 2 0 2 0 0\n");
+    EXPECT_EQ(fehler, "selbstspiel: " + schreibfehler(partien + "/spiel-1.fuh") + "\n" +
+                          "selbstspiel: " + schreibfehler(partien + "/spiel-2.fuh") + "\n");
 }
 
 } // namespace
