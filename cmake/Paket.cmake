@@ -39,6 +39,8 @@ if(FUH_GUI)
   install(TARGETS fuchs-und-hennen RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
   install(FILES ${FUH_ASSETS}/desktop/${FUH_APP_ID}.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
   install(FILES ${FUH_ASSETS}/metainfo/${FUH_APP_ID}.metainfo.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo)
+  # The game file's type, so that a file manager opens a game file with the game.
+  install(FILES ${FUH_ASSETS}/desktop/${FUH_APP_ID}.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/mime/packages)
 
   # The icon: the game's own SVG, plus PNG sizes for menus and docks that want pixels. rsvg-convert
   # renders SVG completely and needs no display; a Qt tool would have to be built first and only

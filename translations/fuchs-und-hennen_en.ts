@@ -126,6 +126,42 @@
         <source>%1 „%2“ ist eine symbolische Verknüpfung, die ein anderer Benutzer angelegt oder verändert haben kann; das Spiel schreibt nicht durch sie hindurch.</source>
         <translation>%1 “%2” is a symbolic link that another user may have made or changed; the game does not write through it.</translation>
     </message>
+    <message>
+        <source>Zeile 1: Das ist keine Partie von Fuchs und Hennen.</source>
+        <translation>Line 1: This is not a game of Fuchs und Hennen.</translation>
+    </message>
+    <message>
+        <source>Zeile %1: Unbekannte Angabe „%2“.</source>
+        <translation>Line %1: Unknown header “%2”.</translation>
+    </message>
+    <message>
+        <source>Zeile %1 ist nicht lesbar.</source>
+        <translation>Line %1 cannot be read.</translation>
+    </message>
+    <message>
+        <source>Zeile %1 ist abgeschnitten.</source>
+        <translation>Line %1 is cut off.</translation>
+    </message>
+    <message>
+        <source>Die Angabe „%1“ fehlt.</source>
+        <translation>The header “%1” is missing.</translation>
+    </message>
+    <message>
+        <source>Zeile %1: Dieser Zug ist nach den Regeln nicht möglich.</source>
+        <translation>Line %1: The rules do not allow this move.</translation>
+    </message>
+    <message>
+        <source>Zeile %1: Das Ergebnis passt nicht zu den Zügen.</source>
+        <translation>Line %1: The result does not follow from the moves.</translation>
+    </message>
+    <message>
+        <source>Die Datei ist zu groß für eine Partie.</source>
+        <translation>The file is too large for a game.</translation>
+    </message>
+    <message>
+        <source>Die Datei „%1“ kann nicht gelesen werden.</source>
+        <translation>The file “%1” cannot be read.</translation>
+    </message>
 </context>
 <context>
     <name>datenordner</name>
@@ -309,7 +345,63 @@
     </message>
     <message>
         <source>T&amp;on</source>
-        <translation>S&amp;ound</translation>
+        <translation>Soun&amp;d</translation>
+    </message>
+    <message>
+        <source>Partien von Fuchs und Hennen (*.fuh)</source>
+        <translation>Games of Fuchs und Hennen (*.fuh)</translation>
+    </message>
+    <message>
+        <source>Partie spei&amp;chern…</source>
+        <translation>Sa&amp;ve Game…</translation>
+    </message>
+    <message>
+        <source>Partie speichern</source>
+        <translation>Save Game</translation>
+    </message>
+    <message>
+        <source>Partie ö&amp;ffnen…</source>
+        <translation>&amp;Open Game…</translation>
+    </message>
+    <message>
+        <source>Partie öffnen</source>
+        <translation>Open Game</translation>
+    </message>
+    <message>
+        <source>Zug &amp;wiederholen</source>
+        <translation>&amp;Redo Move</translation>
+    </message>
+    <message>
+        <source>Zug&amp;liste</source>
+        <translation>&amp;Move List</translation>
+    </message>
+    <message>
+        <source>Bl&amp;ättern</source>
+        <translation>&amp;Browse</translation>
+    </message>
+    <message>
+        <source>Zum &amp;Anfang</source>
+        <translation>To the &amp;Start</translation>
+    </message>
+    <message>
+        <source>Einen Zug &amp;zurück</source>
+        <translation>One Move &amp;Back</translation>
+    </message>
+    <message>
+        <source>Einen Zug &amp;vor</source>
+        <translation>One Move &amp;Forward</translation>
+    </message>
+    <message>
+        <source>Zum &amp;Ende</source>
+        <translation>To the &amp;End</translation>
+    </message>
+    <message>
+        <source>Von hier w&amp;eiterspielen</source>
+        <translation>Pla&amp;y On from Here</translation>
+    </message>
+    <message>
+        <source>Partie gespeichert.</source>
+        <translation>Game saved.</translation>
     </message>
 </context>
 <context>
@@ -560,6 +652,21 @@
     <message>
         <source>Gesamt</source>
         <translation>Total</translation>
+    </message>
+</context>
+<context>
+    <name>fuh::ZuglistePanel</name>
+    <message>
+        <source>Anfang</source>
+        <translation>Start</translation>
+    </message>
+    <message>
+        <source>Zugliste</source>
+        <translation>Move List</translation>
+    </message>
+    <message>
+        <source>Die Züge der Partie; die Auswahl zeigt das Brett nach diesem Zug.</source>
+        <translation>The moves of the game; the selection shows the board after that move.</translation>
     </message>
 </context>
 <context>

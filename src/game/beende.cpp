@@ -14,9 +14,11 @@ void Spiel::beende() {
     if (z_.ergebnis == Ergebnis::hennen) z_.partie.sanktion(3, -3, 1);
     if (z_.ergebnis == Ergebnis::fuchs) z_.partie.sanktion(-3, 3, 1);
     if (z_.ergebnis == Ergebnis::remis) z_.oeff.sw_spielende = false;
-    ansicht_.hinweis(Hinweis::speichern_msg, true);
-    meldeSchreibfehler(dateienSchreiben(std::move(ende)));
-    ansicht_.hinweis(Hinweis::speichern_msg, false);
+    if (!ohneDateien_) {
+        ansicht_.hinweis(Hinweis::speichern_msg, true);
+        meldeSchreibfehler(dateienSchreiben(std::move(ende)));
+        ansicht_.hinweis(Hinweis::speichern_msg, false);
+    }
     // Taking moves back could improve any score: such a game is filed and learned from, but not listed.
     if (z_.zurueckgenommen) {
         z_.oeff.sw_spielende = false;

@@ -21,7 +21,10 @@ void Spiel::abgelegt(int t, int k) {
     if (!z_.sprungfolge.imSprung) {
         verlauf_.push_back(zustand());
         verlauf_.back().zugregister = vorher;
+        wiederholbar_.clear(); // a different move: what was taken back cannot come back
+        z_.mitschrift.beginnen(z_.amZug);
     }
+    z_.mitschrift.zuege.back().teile.push_back(r);
     zug(true);
     if (endecheck(z_.stellung.Feld[r.nachX][r.nachY])) return;
     // A fox's chain of jumps stays open until the person closes it.

@@ -16,8 +16,8 @@ namespace {
 
 constexpr char kMagie[4] = {'F', 'u', 'H', 'P'};
 // 1: a running game, with the computer's pending reply instead of the side to move; 2: the side to move,
-// and whether the game is a finished one still to be filed.
-constexpr uint16_t kVersion = 2;
+// and whether the game is a finished one still to be filed; 3: the record of the moves.
+constexpr uint16_t kVersion = 3;
 constexpr std::size_t kKopf = sizeof kMagie + 2 + 4; // magic, version, length of what follows
 constexpr std::size_t kPruefsumme = 4;
 constexpr std::size_t kHoechstVerlauf = kSituationen; // a player cannot make more moves than positions
@@ -140,6 +140,44 @@ void amZugNachtragen(Leser& a, Spielstand& z, uint16_t version, const AltesAmZug
         z.amZug = z.oeff.einst.computer() == Computer::hennen ? Seite::Fuchs : Seite::Hennen;
 }
 
+void teilzug(Schreiber& a, const Teilzug& t) {
+    a.i16(t.vonX), a.i16(t.vonY), a.i16(t.nachX), a.i16(t.nachY);
+}
+void teilzug(Leser& a, Teilzug& t) {
+    a.i16(t.vonX), a.i16(t.vonY), a.i16(t.nachX), a.i16(t.nachY);
+}
+
+void mitschrift(Schreiber& a, const Mitschrift& m) {
+    a.u16(static_cast<uint16_t>(m.zuege.size()));
+    for (const Partiezug& e : m.zuege) {
+        a.art(e.seite), a.art(e.strafe), teilzug(a, e.strafzug);
+        a.u8(static_cast<uint8_t>(e.teile.size()));
+        for (const Teilzug& t : e.teile)
+            teilzug(a, t);
+    }
+    a.ja(m.ende.has_value()), a.art(m.ende.value_or(Endegrund{}));
+}
+
+// Counts are bounded before anything is allocated; the values are checked with the whole game.
+void mitschrift(Leser& a, Mitschrift& m) {
+    uint16_t n = 0;
+    a.u16(n);
+    a.kaputt |= n > 2 * kSituationen;
+    m.zuege.resize(a.kaputt ? 0 : n);
+    for (Partiezug& e : m.zuege) {
+        uint8_t teile = 0;
+        a.art(e.seite), a.art(e.strafe), teilzug(a, e.strafzug), a.u8(teile);
+        a.kaputt |= teile > kLaengsteKette;
+        e.teile.resize(a.kaputt ? 0 : teile);
+        for (Teilzug& t : e.teile)
+            teilzug(a, t);
+    }
+    bool ende = false;
+    Endegrund g{};
+    a.ja(ende), a.art(g);
+    if (ende) m.ende = g;
+}
+
 // Every field of a game, in file order. Z is Spielstand or const Spielstand.
 template <class A, class Z> void felder(A& a, Z& z, uint16_t version = kVersion) {
     for (int x = 0; x <= 6; ++x)
@@ -167,6 +205,7 @@ template <class A, class Z> void felder(A& a, Z& z, uint16_t version = kVersion)
     amZugNachtragen(a, z, version, alt);
     a.u32(z.zufall), a.u32(z.tippZufall);
     a.text(z.punkte), a.ja(z.zurueckgenommen);
+    if (version >= 3) mitschrift(a, z.mitschrift);
 }
 
 } // namespace

@@ -109,8 +109,28 @@ bool erreichbar(const Spielstand& z, bool laufend) {
            z.oeff.u_is_sieger == "    " && hennen >= 9 && imZiel < 9;
 }
 
-// The take-back states lie on the way to the game: earlier, with the same positions recorded so far.
+bool teilzugGueltig(const Teilzug& t) {
+    return aufGitter(t.vonX, t.vonY) && aufGitter(t.nachX, t.nachY);
+}
+
+// The record names sides, verdicts, squares and reasons that exist. That its moves were legal is what
+// replaying it proves; a saved running game is the game's own, and its state is checked above.
+bool mitschriftGueltig(const Mitschrift& m) {
+    for (const Partiezug& e : m.zuege) {
+        if ((e.seite != Seite::Fuchs && e.seite != Seite::Hennen) ||
+            !imBereich(static_cast<int>(e.strafe), 0, static_cast<int>(Strafe::Art::letzterFuchs)) ||
+            !teilzugGueltig(e.strafzug) || !std::all_of(e.teile.begin(), e.teile.end(), teilzugGueltig))
+            return false;
+    }
+    return !m.ende || imBereich(static_cast<int>(*m.ende), 0, static_cast<int>(Endegrund::zugbegrenzung));
+}
+
+// The take-back states lie on the way to the game: earlier, with the same positions recorded so far and
+// the same moves.
 bool aufDemWeg(const Spielstand& frueher, const Spielstand& spaeter) {
+    const auto& a = frueher.mitschrift.zuege;
+    const auto& b = spaeter.mitschrift.zuege;
+    if (a.size() > b.size() || !std::equal(a.begin(), a.end(), b.begin())) return false;
     if (frueher.partie.spielzug > spaeter.partie.spielzug) return false;
     for (int i = 0; i < frueher.partie.spielzug; ++i)
         if (frueher.partie.sits[static_cast<std::size_t>(i)].code !=
@@ -145,11 +165,13 @@ bool gueltig(const Spielstand& z) {
 } // namespace
 
 bool sicherungGueltig(const Sicherung& s) {
-    if (!gueltig(s.stand) || !erreichbar(s.stand, !s.abzulegen)) return false;
+    if (!gueltig(s.stand) || !mitschriftGueltig(s.stand.mitschrift) || !erreichbar(s.stand, !s.abzulegen))
+        return false;
     for (std::size_t i = 0; i < s.verlauf.size(); ++i) {
         const Spielstand& z = s.verlauf[i];
         const Spielstand& danach = i + 1 < s.verlauf.size() ? s.verlauf[i + 1] : s.stand;
-        if (!gueltig(z) || !erreichbar(z, true) || !aufDemWeg(z, danach)) return false;
+        if (!gueltig(z) || !mitschriftGueltig(z.mitschrift) || !erreichbar(z, true) || !aufDemWeg(z, danach))
+            return false;
     }
     return true;
 }

@@ -52,7 +52,9 @@ void Spiel::init() {
     z_.sprungfolge.imSprung = false;
     z_.partie.spielzug = 0;
     z_.amZug = Seite::Hennen;
+    z_.mitschrift = {};
     verlauf_.clear();
+    wiederholbar_.clear();
     offeneAblage_.reset();
     if (z_.zurueckgenommen) ansicht_.status(Statusfeld::zuruecknahme, "");
     z_.zurueckgenommen = false;
@@ -82,7 +84,7 @@ void Spiel::neuesSpiel() {
     bool gezaehlt = false;
     {
         const datei::Ordnersperre sperre = ordnerSperren();
-        gezaehlt = spielGestartet(ordner_);
+        gezaehlt = ohneDateien_ || spielGestartet(ordner_);
     }
     if (!gezaehlt) meldeSchreibfehler({kStatistikdatei});
     z_.bilder.aufstellen(z_.stellung);
@@ -112,6 +114,7 @@ void Spiel::einstellungenUebernehmen(const Einstellungen& e) {
 void Spiel::spielerGewechselt() {
     // The moves so far were made under the old players; taking them back would bring those back too.
     verlauf_.clear();
+    wiederholbar_.clear();
     // A chain of jumps is a person's: it ends when the computer takes over the foxes.
     if (z_.sprungfolge.imSprung && !menschSpielt(Seite::Fuchs)) {
         z_.sprungfolge.imSprung = false;

@@ -36,6 +36,7 @@ bool Spiel::endecheck(int16_t figur) {
     if (spielende(figur).enthaelt(Endegrund::zugbegrenzung)) {
         z_.ergebnis = Ergebnis::remis;
         sperren(false); // no move may be recorded past the position table
+        z_.mitschrift.ende = Endegrund::zugbegrenzung;
         ansicht_.zugbegrenzungErreicht();
     }
     if (z_.ergebnis != Ergebnis::offen) {
@@ -67,6 +68,7 @@ Spielausgang Spiel::spielende(int16_t figur) {
         if (!text) continue;
         const Ergebnis e = ergebnisVon(g);
         z_.ergebnis = e;
+        z_.mitschrift.ende = g;
         ansicht_.meldung(text);
         sperren(false);
         const bool menschGewinnt = (e == Ergebnis::hennen && mensch == Seite::Hennen) ||

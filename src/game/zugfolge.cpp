@@ -12,6 +12,8 @@ namespace fuh {
 
 void Spiel::strafeAnwenden(const Strafe& strafe) {
     if (strafe.art == Strafe::Art::keine) return;
+    z_.mitschrift.zuege.back().strafe = strafe.art;
+    z_.mitschrift.zuege.back().strafzug = strafe.zug;
     z_.zugregister = strafe.zug;
     ansicht_.meldung(strafe.art == Strafe::Art::einsetzen ? kFuchsEingesetzt : kFuchsAusgeschlossen);
     if (strafe.art != Strafe::Art::letzterFuchs) {
@@ -24,7 +26,8 @@ void Spiel::strafeAnwenden(const Strafe& strafe) {
 }
 
 Meister* Spiel::meister(const std::optional<Spieler>& seite, std::unique_ptr<Meister>& instanz) {
-    if (!seite || !seite->meister) return nullptr;
+    // A replayed game's choices are given: no search is set up for them.
+    if (vorgabe_ || !seite || !seite->meister) return nullptr;
     if (!instanz) instanz = std::make_unique<Meister>(spielerwahl_.meisterSeed);
     return instanz.get();
 }
@@ -32,6 +35,7 @@ Meister* Spiel::meister(const std::optional<Spieler>& seite, std::unique_ptr<Mei
 // The searching player knows the penalty rule: the game applies it to the foxes whenever the computer
 // plays the hens, except in single-move mode.
 Zugwahl Spiel::hennenWahl(const Erinnerung& erinnerung, Zufall& zufall, Meister* meister) {
+    if (vorgabe_) return vorgabe_->wahl(Seite::Hennen);
     if (meister)
         return meister->berechne({z_.stellung.Feld, henne, z_.partie.spielzug, z_.oeff.einst.Einzelzug == 0,
                                   spielerwahl_.bedenkzeit});
@@ -39,6 +43,7 @@ Zugwahl Spiel::hennenWahl(const Erinnerung& erinnerung, Zufall& zufall, Meister*
 }
 
 Zugwahl Spiel::fuchsWahl(const Erinnerung& erinnerung, Zufall& zufall, Meister* meister) {
+    if (vorgabe_) return vorgabe_->wahl(Seite::Fuchs);
     const bool strafe = computerSpielt(Seite::Hennen) && z_.oeff.einst.Einzelzug == 0;
     if (meister)
         return meister->berechne(
@@ -48,11 +53,15 @@ Zugwahl Spiel::fuchsWahl(const Erinnerung& erinnerung, Zufall& zufall, Meister* 
 
 void Spiel::hennenZiehen() {
     ansicht_.hinweis(Hinweis::h_zug, true);
+    z_.mitschrift.beginnen(Seite::Hennen);
     strafeAnwenden(strafregel(z_.stellung.Feld, z_.partie, z_.oeff.einst.Einzelzug));
     const Zugwahl wahl =
         hennenWahl(erinnerung(spielerwahl_.hennen), zufall_, meister(spielerwahl_.hennen, meisterHennen_));
     z_.zugregister = wahl.keinZug() ? Teilzug{} : *wahl.begin();
-    if (!wahl.keinZug()) zug(true);
+    if (!wahl.keinZug()) {
+        z_.mitschrift.zuege.back().teile.push_back(z_.zugregister);
+        zug(true);
+    }
     ansicht_.hinweis(Hinweis::h_zug, false);
     endecheck(henne);
 }
@@ -62,10 +71,12 @@ void Spiel::fuechseZiehen() {
     // Without a move the target stays (0, 0), which the end-of-move check reads as "no move".
     z_.zugregister.nachX = 0;
     z_.zugregister.nachY = 0;
+    z_.mitschrift.beginnen(Seite::Fuchs);
     const Zugwahl wahl =
         fuchsWahl(erinnerung(spielerwahl_.fuchs), zufall_, meister(spielerwahl_.fuchs, meisterFuchs_));
     for (const Teilzug& sprung : wahl) {
         z_.zugregister = sprung;
+        z_.mitschrift.zuege.back().teile.push_back(sprung);
         zug(true);
         ansicht_.hinweis(Hinweis::f_zug, false);
     }
@@ -75,6 +86,7 @@ void Spiel::fuechseZiehen() {
 bool Spiel::computerZieht() {
     // The move limit always ends a game before its positions run out.
     if (!computerAmZug() || z_.partie.spielzug >= kZugbegrenzung) return false;
+    if (vorgabe_ && !vorgabe_->bereit(z_.amZug)) return false;
     const Seite seite = z_.amZug;
     if (seite == Seite::Hennen)
         hennenZiehen();

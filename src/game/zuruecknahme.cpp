@@ -26,14 +26,30 @@ bool Spiel::zuruecknehmenMoeglich() const {
 
 void Spiel::zuruecknehmen() {
     if (!zuruecknehmenMoeglich()) return;
+    wiederholbar_.push_back(zustand());
+    wiederholbar_.back().zurueckgenommen = true;
     Spielstand vorher = std::move(verlauf_.back());
     verlauf_.pop_back();
     vorher.zurueckgenommen = true;
     zustandSetzen(vorher);
 }
 
+void Spiel::wiederholen() {
+    if (!wiederholenMoeglich()) return;
+    verlauf_.push_back(zustand());
+    Spielstand nachher = std::move(wiederholbar_.back());
+    wiederholbar_.pop_back();
+    zustandSetzen(nachher);
+}
+
+void Spiel::keineBestenliste() {
+    z_.zurueckgenommen = true;
+    ansicht_.status(Statusfeld::zuruecknahme, kZurueckgenommen);
+}
+
 void Spiel::fortsetzen(const Sicherung& s) {
     verlauf_ = s.verlauf;
+    wiederholbar_.clear();
     offeneAblage_.reset();
     zustandSetzen(s.stand);
 }

@@ -11,8 +11,10 @@
 #include <vector>
 
 #include "board/regeln.h"
+#include "dateischicht/satzdatei.h"
 #include "game/partiedatei.h"
 #include "game/spiel.h"
+#include "tools/partien.h"
 #include "tools/protokoll_ansicht.h"
 #include "tools/zwischenordner.h"
 
@@ -140,6 +142,11 @@ Summe selbstspiel(const Optionen& o, uint32_t seed, const std::filesystem::path&
         if (!beendet && !computerAllein(o)) beendet = menschSpielt(lauf);
         const int ergebnis = beendet ? static_cast<int>(lauf.spiel().letztesErgebnis()) : 0;
         if (o.protokoll) aus << "ende " << ergebnis << ' ' << lauf.spiel().spielzug() << '\n';
+        if (o.partien)
+            if (const auto name = partieAblegen(*o.partien, lauf.spiel(), n)) {
+                ++summe.nichtGespeichert;
+                if (beobachter) beobachter->nichtGespeichert(schreibfehler(*name));
+            }
         ++summe.spiele;
         ++summe.nachErgebnis[ergebnis >= 0 && ergebnis <= 3 ? ergebnis : 0];
         if (beobachter) beobachter->partieGespielt(summe);

@@ -29,6 +29,14 @@ Setzer spieler(std::optional<Spieler>& ziel, bool& mensch) {
     };
 }
 
+Setzer pfad(std::optional<std::filesystem::path>& ziel) {
+    return [&ziel](const std::string& s) {
+        if (s.empty()) return false;
+        ziel = s;
+        return true;
+    };
+}
+
 // Any non-negative integer, however long, reduced modulo 2^24.
 Setzer seed(std::optional<uint32_t>& ziel) {
     return [&ziel](const std::string& s) {
@@ -88,7 +96,8 @@ Programm selbstspielAufruf(Optionen& o) {
             "Die letzte Zeile der Ausgabe ist immer:\n"
             "  summe SPIELE HENNEN FÜCHSE REMIS ABGEBROCHEN\n"
             "Rückgabewert: 0 alles gespielt und gespeichert; 1 eine Datei konnte nicht\n"
-            "gespeichert werden (die Meldung nennt sie); 2 falscher Aufruf.",
+            "gespeichert werden (die Meldung nennt sie) oder die Partie von --nachspielen\n"
+            "wurde abgelehnt; 2 falscher Aufruf.",
             {
                 {"spiele", 'n', "N",
                  "so viele Spiele nacheinander (Vorgabe " + std::to_string(vorgabe.spiele) + ")",
@@ -115,6 +124,13 @@ Programm selbstspielAufruf(Optionen& o) {
                  "vor jedem Zug die Partie in eine Datei sichern und aus ihr fortsetzen (Log und Dateien "
                  "bleiben gleich)",
                  schalter(o.fortsetzenPruefen)},
+                {"partien", 0, "ORDNER",
+                 "jede gespielte Partie als Datei spiel-N.fuh in ORDNER schreiben (Züge in der Notation)",
+                 pfad(o.partien)},
+                {"nachspielen", 0, "DATEI",
+                 "keine neue Partie spielen, sondern die Partie aus DATEI nachspielen und ihre Zeilen "
+                 "ausgeben (spiel, zug, meldung, liste, ende)",
+                 pfad(o.nachspielen)},
                 {"dienen", 0, "",
                  "keine Partie spielen, sondern den Meister Züge liefern lassen: je Zeile der "
                  "Standardeingabe eine Stellung, je Zeile der Ausgabe ein Zug (für match --gegner)",

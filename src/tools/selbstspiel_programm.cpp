@@ -11,6 +11,7 @@
 #include <set>
 
 #include "tools/fortschritt.h"
+#include "tools/partien.h"
 #include "tools/selbstspiel_lauf.h"
 #include "tools/zugprotokoll.h"
 #include "tools/zwischenordner.h"
@@ -62,6 +63,8 @@ int selbstspielProgramm(const std::vector<std::string>& args, const std::filesys
         dienen(std::cin, k.aus);
         return 0;
     }
+    if (o.nachspielen)
+        return partieNachspielen(*o.nachspielen, ordner, k.aus, k.fehler) ? 0 : kNichtGespeichert;
     // A log scrolling on the same terminal is progress enough, and the line would tear it.
     const std::size_t spalten = o.protokoll && k.ausTerminal ? 0 : k.fehlerSpalten;
     Rueckmeldung rueckmeldung(programm.name, o.spiele, k.fehler, spalten);

@@ -21,6 +21,7 @@
 #include "ui/klaenge.h"
 #include "ui/meldung.h"
 #include "ui/titel.h"
+#include "ui/zugliste_panel.h"
 
 namespace fuh {
 
@@ -48,6 +49,8 @@ BrettFenster::BrettFenster(std::filesystem::path ordner, uint32_t startzeit, QWi
     brett_ = new BrettFlaeche([this] { return spiel_->menschAmZug() && !beschaeftigt(); }, this);
     klaenge_ = new Klaenge([this] { return spiel_ ? spiel_->menschenseite() : std::nullopt; }, this);
     setCentralWidget(brett_);
+    zugliste_ = new ZuglistePanel(this);
+    addDockWidget(Qt::RightDockWidgetArea, zugliste_);
     menueAnlegen();
     statusleisteAnlegen();
     tempoLaden();
@@ -157,6 +160,7 @@ void BrettFenster::neu() {
     brett_->markierungLoeschen();
     ansage_->verwerfen();
     statusBar()->clearMessage();
+    blaetternBeenden();
     spiel_->neuesSpiel();
     spielWeiter();
 }
@@ -199,6 +203,7 @@ void BrettFenster::befehleAbgleichen() {
         a->setEnabled(frei);
     if (tippAktion_) tippAktion_->setEnabled(frei && spiel_ && spiel_->tippMoeglich());
     if (zurueckAktion_) zurueckAktion_->setEnabled(frei && spiel_ && spiel_->zuruecknehmenMoeglich());
+    zuglisteAbgleichen();
 }
 
 void BrettFenster::zeigen(const Ereignis& e) {

@@ -115,6 +115,7 @@ void BrettFenster::spielMenue() {
     tippAktion_->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_T));
     zurueckAktion_ = befehl(menue, "zurueck", QT_TR_NOOP("Zug &zurücknehmen"), [this] { zuruecknehmen(); });
     zurueckAktion_->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Z));
+    partieMenue(menue);
     connect(menue, &QMenu::aboutToShow, this, &BrettFenster::befehleAbgleichen);
     menue->addSeparator();
     tempoMenue(menue);

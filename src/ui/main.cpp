@@ -5,6 +5,7 @@
 // Fuchs und Hennen: starts the main window in the player's data folder.
 #include <QApplication>
 #include <QFile>
+#include <QFileInfo>
 #include <filesystem>
 #include <unistd.h>
 
@@ -20,6 +21,10 @@ int main(int argc, char* argv[]) {
     QApplication app(argc, argv);
     // Signals first: from here on a logout or `kill` ends the program as "Beenden" does.
     fuh::signaleBeendenLassen(app);
+    // A game file given on the command line (a double click in a file manager), named before the
+    // program enters its data folder.
+    const QStringList args = QCoreApplication::arguments();
+    const QString partie = args.size() > 1 ? QFileInfo(args.at(1)).absoluteFilePath() : QString();
     // The window's own settings (and with them the language) come from a checked folder only.
     const QStringList warnungen = fuh::fensterEinstellungenEinrichten();
     fuh::BrettFenster::anwendungEinrichten(app);
@@ -47,5 +52,6 @@ int main(int argc, char* argv[]) {
     fenster.show();
     fenster.fortsetzenAnbieten(fuh::partieOrdnerStandard().value_or(std::filesystem::path()));
     if (fuh::beendenVerlangt()) return 0; // ended while asking; the window keeps the game as it goes
+    if (!partie.isEmpty()) fenster.partieOeffnen(QFile::encodeName(partie).toStdString());
     return app.exec();
 }

@@ -13,6 +13,7 @@
 #include <optional>
 
 #include "dateischicht/satzdatei.h"
+#include "game/aufzeichnung.h"
 #include "game/texte.h"
 #include "spieldaten/statustexte.h"
 #include "ui/brett_fenster.h"
@@ -130,7 +131,9 @@ QString kernText(const QString& text) {
     const Teil gleich = [](const QString& w) { return w; };
     if (auto t = nachVorlage(text, kLinkHinweis, kernText)) return *t; // a message, then the link's sentence
     if (auto t = nachVorlage(text, kSchreibfehlerMehrere, dateiliste)) return *t;
-    for (const char* vorlage : {kSchreibfehler, kPunkteText, kStaerkeStatustext})
+    for (const char* vorlage :
+         {kSchreibfehler, kPunkteText, kStaerkeStatustext, kAngabeUnbekannt, kZeileUnlesbar,
+          kZeileAbgeschnitten, kAngabeFehlt, kZugVerboten, kErgebnisFalsch, kPartieUnlesbar})
         if (auto t = nachVorlage(text, vorlage, gleich)) return *t;
     return text;
 }

@@ -12,8 +12,8 @@
 #include <optional>
 #include <string>
 
-#include "fremde_sperre.h"
 #include "dateischicht/prozess.h"
+#include "fremde_sperre.h"
 #include "partie_fixture.h"
 #include "spieldaten/statistikdatei.h"
 

@@ -33,6 +33,33 @@ TEST_F(PartieTest, BeschaedigteBytesWerdenAbgelehnt) {
     }
 }
 
+// A game saved before the game kept its moves (version 2) still continues: the same game without a record.
+// Made from today's bytes of such a game: each state's empty record (a count, a flag and a reason) taken
+// out, the version, length and checksum set back.
+TEST_F(PartieTest, AeltereFassungWirdGelesen) {
+    Sicherung s = mitten();
+    s.stand.mitschrift = {};
+    s.verlauf.clear();
+    const Bytes neu = partieKodieren(s);
+    constexpr std::size_t kKopf = 10, kLeereMitschrift = 5, kVerlaufszahl = 2, kSumme = 4;
+    Bytes alt(neu.begin(), neu.end() - static_cast<long>(kSumme + kVerlaufszahl + kLeereMitschrift));
+    alt.insert(alt.end(), {0, 0}); // no take-back states
+    alt[4] = 2, alt[5] = 0;
+    const uint32_t laenge = static_cast<uint32_t>(alt.size() - kKopf);
+    for (int i = 0; i < 4; ++i)
+        alt[6 + static_cast<std::size_t>(i)] = static_cast<uint8_t>(laenge >> (8 * i));
+    uint32_t h = 2166136261u;
+    for (std::size_t i = kKopf; i < alt.size(); ++i)
+        h = (h ^ alt[i]) * 16777619u;
+    for (int i = 0; i < 4; ++i)
+        alt.push_back(static_cast<uint8_t>(h >> (8 * i)));
+    const auto gelesen = partieDekodieren(alt);
+    ASSERT_TRUE(gelesen.has_value());
+    EXPECT_TRUE(*gelesen == s);
+    alt[4] = 4; // a version yet to come is not guessed at
+    EXPECT_FALSE(partieDekodieren(alt).has_value());
+}
+
 // Well-formed files whose values no running game can have: never trusted, whatever the checksum says.
 TEST_F(PartieTest, WerteAusserhalbWerdenAbgelehnt) {
     const Sicherung gut = mitten();

@@ -16,7 +16,7 @@ bool geparkt(const Spielstand& z) {
 // A random player against the computer on either side, learning at every strength: before each of its
 // moves the whole game is copied. The move (a fox's whole chain of jumps) and the computer's reply are
 // taken back, which must give that copy again and write no file; making the same move again must give
-// the same game as the first time, random draws included.
+// the same game as the first time, random draws included, and so must redoing it.
 TEST(Zuruecknahme, StelltDenGanzenStandHerUndDieselbenZuegeFolgen) {
     int ketten = 0, strafen = 0, zuruecknahmen = 0;
     for (int16_t PC : {0, 1})
@@ -45,11 +45,19 @@ TEST(Zuruecknahme, StelltDenGanzenStandHerUndDieselbenZuegeFolgen) {
                         << "seed " << seed << ", position " << vorher.partie.spielzug;
                     ASSERT_EQ(dateien(ordner), bytes);
 
+                    // Redo brings the move and the reply back exactly; then take them back again.
+                    erwartet = nachher;
+                    erwartet.zurueckgenommen = true;
+                    ASSERT_TRUE(spiel.wiederholenMoeglich());
+                    spiel.wiederholen();
+                    ASSERT_TRUE(spiel.zustand() == erwartet);
+                    ASSERT_FALSE(spiel.wiederholenMoeglich());
+                    spiel.zuruecknehmen();
+
                     for (const Aktion& a : zug)
                         ausfuehren(spiel, a);
                     spiel.computerZieht();
-                    erwartet = nachher;
-                    erwartet.zurueckgenommen = true;
+                    ASSERT_FALSE(spiel.wiederholenMoeglich()); // a move made anew: nothing to redo
                     ASSERT_TRUE(spiel.zustand() == erwartet)
                         << "seed " << seed << ", position " << vorher.partie.spielzug;
                     ++zuruecknahmen;

@@ -70,6 +70,34 @@ INSTANTIATE_TEST_SUITE_P(Selbstspiel, Aufnahme,
                          ::testing::Combine(::testing::Values("a", "b", "c", "d", "e", "f"),
                                             ::testing::Bool()));
 
+// Every game of every recorded run, written as a game file and replayed, prints the recorded run's lines
+// for that game, byte for byte, and writes nothing where it is replayed.
+TEST(Selbstspiel, NachgespieltePartienGebenDieselbenZeilen) {
+    for (const char* fall : {"a", "b", "c", "d", "e", "f"}) {
+        Optionen o = optionen(lies(fs::path(AUFNAHMEN) / fall / "args"));
+        test::TempOrdner ordner, partien, leer;
+        o.partien = partien.pfad();
+        std::ostringstream log;
+        selbstspiel(o, *o.seed, ordner.pfad(), log);
+        std::map<std::string, std::string> erwartet; // the recorded log's lines, by game
+        std::istringstream aufnahme(lies(fs::path(AUFNAHMEN) / fall / "log.txt"));
+        std::string spiel;
+        for (std::string zeile; std::getline(aufnahme, zeile);) {
+            if (zeile.starts_with("spiel ")) spiel = zeile.substr(6);
+            if (!zeile.starts_with("summe ")) erwartet[spiel] += zeile + "\n";
+        }
+        ASSERT_EQ(dateien(partien.pfad()).size(), o.spiele) << fall;
+        for (const auto& [n, zeilen] : erwartet) {
+            std::ostringstream aus, fehler;
+            const auto datei = partien.pfad() / ("spiel-" + n + ".fuh");
+            EXPECT_EQ(selbstspielProgramm({"--nachspielen", datei.string()}, leer.pfad(), {aus, fehler}), 0)
+                << fehler.str();
+            EXPECT_EQ(aus.str(), zeilen) << fall << " game " << n;
+        }
+        EXPECT_TRUE(dateien(leer.pfad()).empty()) << fall;
+    }
+}
+
 // Saving and continuing before every move changes nothing, whatever the settings.
 TEST(Selbstspiel, FortsetzenAendertNichts) {
     Zufall wahl(2026);
@@ -176,6 +204,11 @@ TEST(Selbstspiel, NichtGespeichertGibtStatusEins) {
     const std::string log = lauf(schlecht, "--spiele 1 --seed 7 --protokoll", fehler);
     EXPECT_NE(log.find("\nmeldung " + schreibfehler("QZ.sta") + "\n"), std::string::npos);
     EXPECT_EQ(log.substr(0, 2), "1\n");
+    // A game file that cannot be written is named once, and the run goes on.
+    const std::string partien = (gut / "fehlt").string();
+    EXPECT_EQ(lauf(gut, "--spiele 2 --seed 7 --partien " + partien, fehler), "1\nsumme 2 0 2 0 0\n");
+    EXPECT_EQ(fehler, "selbstspiel: " + schreibfehler(partien + "/spiel-1.fuh") + "\n" +
+                          "selbstspiel: " + schreibfehler(partien + "/spiel-2.fuh") + "\n");
 }
 
 } // namespace

@@ -31,6 +31,15 @@
 
 namespace fuh {
 
+// Where the computer's choices come from in a game being replayed, instead of from its players.
+class Zugvorgabe {
+  public:
+    virtual ~Zugvorgabe() = default;
+    // A choice for `seite` is at hand; without one the computer does not move.
+    virtual bool bereit(Seite seite) const = 0;
+    virtual Zugwahl wahl(Seite seite) = 0;
+};
+
 class Spiel {
   public:
     // `ordner` is where the data files live; `zufall` is the game's one random source.
@@ -104,6 +113,19 @@ class Spiel {
     // written to any file.
     bool zuruecknehmenMoeglich() const;
     void zuruecknehmen();
+    // Bringing back what was taken back, exactly as it was (random sources included), until a
+    // different move is made.
+    bool wiederholenMoeglich() const { return !wiederholbar_.empty() && laeuft(); }
+    void wiederholen();
+
+    // A replayed game: the computer's choices come from `v` (null: from its players again), and no
+    // file is written, as the game was filed when it was played.
+    void vorgeben(Zugvorgabe* v) { vorgabe_ = v; }
+    void ohneDateien(bool ja) { ohneDateien_ = ja; }
+    // The running game goes to no high-score list (a move was taken back, or it goes on from a record).
+    void keineBestenliste();
+    const Mitschrift& mitschrift() const { return z_.mitschrift; }
+    bool zurueckgenommen() const { return z_.zurueckgenommen; }
 
     // A game is running: started, and not yet ended.
     bool laeuft() const { return z_.bilder.ziehbar && !z_.endeGefunden; }
@@ -165,8 +187,11 @@ class Spiel {
     Zufall& zufall_;
     Zufall tippZufall_;
     std::filesystem::path ordner_;
-    Spielstand z_;                    // the random sources' states are taken into it only by zustand()
-    std::vector<Spielstand> verlauf_; // before each of the player's moves in this game, oldest first
+    Spielstand z_;                         // the random sources' states are taken into it only by zustand()
+    std::vector<Spielstand> verlauf_;      // before each of the player's moves in this game, oldest first
+    std::vector<Spielstand> wiederholbar_; // what take-backs left, the latest last
+    Zugvorgabe* vorgabe_ = nullptr;
+    bool ohneDateien_ = false;
     std::optional<Sicherung> offeneAblage_;
     Lerndatei lerndatei_;
     std::optional<Einstellungen> festeEinstellungen_;

@@ -14,6 +14,7 @@
 #include "board/spielausgang.h"
 #include "board/stellung.h"
 #include "board/teilzug.h"
+#include "game/mitschrift.h"
 #include "memory/partie.h"
 #include "spieldaten/oeffentlich.h"
 
@@ -35,6 +36,7 @@ struct Spielstand {
     uint32_t tippZufall = 0;      // the hint's own one
     std::string punkte;           // the points panel as last shown
     bool zurueckgenommen = false; // a move was taken back: the game goes to no high-score list
+    Mitschrift mitschrift;
 
     friend bool operator==(const Spielstand&, const Spielstand&) = default;
 };

@@ -6,6 +6,7 @@
 // The command line of the headless driver.
 #include <chrono>
 #include <cstdint>
+#include <filesystem>
 #include <optional>
 
 #include "game/spielerwahl.h"
@@ -24,7 +25,9 @@ struct Optionen {
     bool fortsetzenPruefen = false; // save the game to a file and go on from it before every move
     bool dienen = false;            // play no game: answer move requests (match --gegner) instead
     Spielerwahl spieler;            // --fuchs, --hennen, --bedenkzeit: each side at its own strength
-    bool menschFuchs = false, menschHennen = false; // --fuchs mensch, --hennen mensch: a random person
+    bool menschFuchs = false, menschHennen = false;   // --fuchs mensch, --hennen mensch: a random person
+    std::optional<std::filesystem::path> partien;     // a game file of each game goes here
+    std::optional<std::filesystem::path> nachspielen; // play no new game: replay this game file
 };
 
 // The settings and players a run plays with: a side given to a person makes the other the computer's,

@@ -19,6 +19,8 @@
 
 #include "board/zufall.h"
 #include "game/ansicht.h"
+#include "game/aufzeichnung.h"
+#include "game/spielstand.h"
 #include "spieldaten/bestenliste.h"
 #include "ui/beschriftung.h"
 #include "ui/einst_dialog.h"
@@ -43,6 +45,7 @@ class Klaenge;
 class Partieablage;
 class Spiel;
 class StatForm;
+class ZuglistePanel;
 
 // The player's own settings of the window (size, pace, the Meister); the game's settings stay in QZ.INI.
 QSettings fensterEinstellungen();
@@ -80,6 +83,18 @@ class BrettFenster : public QMainWindow, public Ansicht {
     void tippZeigen();
     // Spiel -> Zug zurücknehmen: the player's last move and the computer's reply to it.
     void zuruecknehmen();
+    // Spiel -> Zug wiederholen: what was taken back comes back exactly.
+    void wiederholen();
+    // Spiel -> Partie speichern / öffnen: a game file; what goes wrong is told in a message. An opened game
+    // is shown at its end, to be stepped through.
+    bool partieSpeichern(const std::filesystem::path& pfad);
+    bool partieOeffnen(const std::filesystem::path& pfad);
+    // Stepping through an opened or finished game: the board shows it after `n` moves, nothing moves.
+    void blaettern(std::size_t n);
+    std::optional<std::size_t> blaetterStand() const;
+    // Spiel -> Von hier weiterspielen: the game shown goes on, as a game for no high-score list.
+    void weiterspielen();
+    ZuglistePanel* zugliste() const { return zugliste_; }
     // At start-up: a game saved when the program last ended in the folder `ordner` (and held by no other
     // window) is offered to be continued, else dropped; its file stays until the answer has taken effect.
     // From now on a game still running when the window goes is saved there, in a file of this window's
@@ -135,6 +150,13 @@ class BrettFenster : public QMainWindow, public Ansicht {
     void spielMenue();
     void ergebnisMenue();
     void hilfeMenue();
+    // Game files, stepping and the move list (brett_partien.cpp).
+    void partieMenue(QMenu* menue);
+    void blaetternMenue(QMenu* menue);
+    bool blaetternVorbereiten();
+    void blaetternUm(int schritte);
+    void blaetternBeenden();
+    void zuglisteAbgleichen();
     // A command named `name` in `menue` that does `tun`, its text in the player's language.
     QAction* befehl(QMenu* menue, const char* name, const char* text, std::function<void()> tun);
     void tempoMenue(QMenu* menue);
@@ -179,6 +201,12 @@ class BrettFenster : public QMainWindow, public Ansicht {
     QAction* tonAktion_ = nullptr;
     QAction* tippAktion_ = nullptr;
     QAction* zurueckAktion_ = nullptr;
+    QAction* wiederholenAktion_ = nullptr;
+    QAction* weiterAktion_ = nullptr;
+    ZuglistePanel* zugliste_ = nullptr;
+    std::optional<Aufzeichnung> blaetterPartie_; // the game stepped through
+    std::vector<Spielstand> blaetterStaende_;    // it after each of its moves, from the start
+    std::size_t blaetterStand_ = 0;
     std::unique_ptr<Partieablage> ablage_; // where a running game is kept; null: nowhere
     bool partieBehalten_ = false;          // fortsetzenAnbieten was called: a running game is to be kept
     bool ohnePartie_ = false;              // the player chose to quit although the game was not saved
