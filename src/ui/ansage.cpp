@@ -6,7 +6,10 @@
 #include "ui/sprache.h"
 
 #include <QAccessible>
+#include <QAccessibleWidget>
+#include <QEvent>
 #include <QStringList>
+#include <cstdlib>
 
 #include "ui/brett_flaeche.h"
 #include "ui/brett_zugang.h"
@@ -24,13 +27,34 @@ QString saetze(const QStringList& texte) {
     return saetze.join(QLatin1Char(' '));
 }
 
+// Screen readers know the field as a notification, named by its text.
+class AnsageZugang : public QAccessibleWidget {
+  public:
+    explicit AnsageZugang(Ansage* ansage) : QAccessibleWidget(ansage, QAccessible::Notification) {}
+    QString text(QAccessible::Text t) const override {
+        return t == QAccessible::Name ? static_cast<const QLabel*>(widget())->text() : QString();
+    }
+};
+
+QAccessibleInterface* ansageFabrik(const QString&, QObject* objekt) {
+    if (auto* ansage = qobject_cast<Ansage*>(objekt)) return new AnsageZugang(ansage);
+    return nullptr;
+}
+
 } // namespace
 
 Ansage::Ansage(const BrettFlaeche& brett, QWidget* parent) : Statustext(parent), brett_(brett) {
     setObjectName(QStringLiteral("ansage"));
+    static const bool eingerichtet = (QAccessible::installFactory(ansageFabrik), true);
+    (void)eingerichtet;
     gleich_.setSingleShot(true);
     gleich_.setInterval(0);
     connect(&gleich_, &QTimer::timeout, this, &Ansage::aussprechen);
+}
+
+void Ansage::changeEvent(QEvent* e) {
+    if (e->type() == QEvent::LanguageChange) clear();
+    Statustext::changeEvent(e);
 }
 
 void Ansage::verwerfen() {
@@ -56,7 +80,9 @@ void Ansage::ereignis(const Ereignis& e) {
         return;
     }
     case Ereignis::Art::hinweis:
-        if (e.ja) sagen(brett_.hinweisLabel(static_cast<Hinweis>(e.a))->text());
+        if (!e.ja) return;
+        sagen(brett_.hinweisLabel(static_cast<Hinweis>(e.a))->text());
+        if (static_cast<Hinweis>(e.a) == Hinweis::spr_msg) sagen(BrettFlaeche::sprungTasten());
         return;
     case Ereignis::Art::status: {
         QString& alt = status_.at(static_cast<size_t>(e.a - 1));
@@ -92,24 +118,32 @@ void Ansage::tipp(const std::vector<int>& felder) {
 }
 
 QString Ansage::zugSatz(bool fuchs, const std::vector<int>& felder) const {
-    QStringList ziele;
-    for (size_t i = 1; i < felder.size(); ++i)
-        ziele << feldName(felder[i]);
+    // A jump names the hen it takes: "springt über c6 nach c5", a chain each jump in turn.
+    QString weg;
+    for (size_t i = 1; i < felder.size(); ++i) {
+        const int a = felder[i - 1], b = felder[i];
+        const int dx = feldX(b) - feldX(a), dy = feldY(b) - feldY(a);
+        const QString ziel = feldName(b);
+        if (std::abs(dx) != 2 && std::abs(dy) != 2) {
+            weg += tr(" nach %1").arg(ziel);
+            continue;
+        }
+        const QString ueber = feldName(feldNummer(feldX(a) + dx / 2, feldY(a) + dy / 2));
+        weg += i == 1 ? tr(" springt über %1 nach %2").arg(ueber, ziel)
+                      : tr(" und über %1 nach %2").arg(ueber, ziel);
+    }
     const QString von = feldName(felder.front());
-    const QString ziel = ziele.join(tr(" nach "));
-    return fuchs ? tr("Fuchs %1 nach %2").arg(von, ziel) : tr("Henne %1 nach %2").arg(von, ziel);
+    return (fuchs ? tr("Fuchs %1") : tr("Henne %1")).arg(von) + weg;
 }
 
 void Ansage::aussprechen() {
     const QString text = saetze(wartend_);
     wartend_.clear();
-    // A label tells screen readers of a changed text itself; a repeated one is news all the same.
-    if (text == this->text()) {
-        QAccessibleEvent ereignis(this, QAccessible::NameChanged);
-        QAccessible::updateAccessibility(&ereignis);
-    } else {
-        setText(text);
-    }
+    setText(text);
+    // Screen readers pass over a label's changed name; a notification that appears they speak, also
+    // when its text is the same as before.
+    QAccessibleEvent erschienen(this, QAccessible::ObjectShow);
+    QAccessible::updateAccessibility(&erschienen);
     emit angesagt(text);
 }
 

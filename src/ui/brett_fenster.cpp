@@ -45,7 +45,7 @@ BrettFenster::BrettFenster(std::filesystem::path ordner, uint32_t startzeit, QWi
     setWindowTitle(QString::fromUtf8(kTitel));
 
     brett_ = new BrettFlaeche([this] { return spiel_->menschAmZug() && !beschaeftigt(); }, this);
-    setCentralWidget(brett_);
+    mitteAnlegen();
     menueAnlegen();
     statusleisteAnlegen();
     tempoLaden();
@@ -75,12 +75,6 @@ void BrettFenster::verbinden() {
     connect(brett_, &BrettFlaeche::figurGedrueckt, this, [this](int, Maustaste taste) {
         if (taste != Maustaste::rechts || beschaeftigt()) return;
         spiel_->sprungfolgeSchliessen();
-        spielWeiter();
-    });
-    connect(brett_, &BrettFlaeche::abgelegt, this, [this](int t, int k) {
-        if (beschaeftigt()) return;
-        brett_->tippLoeschen();
-        spiel_->abgelegt(t, k);
         spielWeiter();
     });
     connect(&wiedergabe_, &Wiedergabe::fertig, this, &BrettFenster::wiedergabeFertig);
@@ -168,6 +162,7 @@ void BrettFenster::spielWeiter() {
 
 void BrettFenster::wiedergabeFertig() {
     ansage_->abschliessen();
+    lageZeigen();
     if (selbstspielSchleife_) return;
     if (spiel_->selbstspielLaeuft()) {
         if (wiedergabe_.gleitdauer() > 0) {
@@ -197,6 +192,9 @@ void BrettFenster::befehleAbgleichen() {
         a->setEnabled(frei);
     if (tippAktion_) tippAktion_->setEnabled(frei && spiel_ && spiel_->tippMoeglich());
     if (zurueckAktion_) zurueckAktion_->setEnabled(frei && spiel_ && spiel_->zuruecknehmenMoeglich());
+    if (einstellungenAktion_)
+        einstellungenAktion_->setEnabled(frei || (spiel_ && spiel_->selbstspielLaeuft()));
+    if (!wiedergabe_.laeuft()) lageZeigen(); // else when what the game reported has been shown
 }
 
 void BrettFenster::zeigen(const Ereignis& e) {
@@ -232,10 +230,13 @@ void BrettFenster::zeigen(const Ereignis& e) {
             brett_->markierungLoeschen();
         break;
     case Ereignis::Art::meldung:
-        meldungZeigen(this, QMessageBox::NoIcon, kernText(e.text));
+        if (!nurNotiz(e.text)) meldungZeigen(this, QMessageBox::NoIcon, kernText(e.text));
         break;
     case Ereignis::Art::speicherfehler:
         meldungZeigen(this, QMessageBox::Warning, kernText(e.text));
+        break;
+    case Ereignis::Art::ende:
+        endeZeigen(e);
         break;
     case Ereignis::Art::oeffnen:
         highscoreNachDemSpiel(static_cast<Fenster>(e.a) == Fenster::highf ? Seite::Fuchs : Seite::Hennen);

@@ -113,6 +113,7 @@ void BrettFlaeche::aufnehmenOderAblegen() {
     anheben(k, getragenRechteck().topLeft());
     getragenVon_ = cursor_;
     zugangNameGeaendert(this, cursor_);
+    emit aufgenommen(k, cursor_);
 }
 
 void BrettFlaeche::rechtsDruecken() {

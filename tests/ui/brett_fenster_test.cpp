@@ -139,6 +139,9 @@ class BrettFensterTest : public QObject {
         QVERIFY(a.spiel().ziehbar());
 
         sprungVorbereiten(a);
+        QVERIFY(
+            test::versetzen(a.spiel(), feldNummer(2, 6), feldNummer(0, 2))); // c1 free: the chain may go on
+        QCoreApplication::processEvents();
         const int von = feldNummer(2, 2), nach = feldNummer(2, 4);
         const int fuchsK = *figur_index(a.spiel().stellung(), von);
         a.ziehe(von, nach);
@@ -161,6 +164,27 @@ class BrettFensterTest : public QObject {
         a.fenster->zugTakt();
         QVERIFY(!(a.spiel().stellung() == vorher));
         QVERIFY(antworter.texte.empty());
+    }
+
+    // A chain of jumps with no further jump ends by itself: the hens answer without the right button.
+    void sprungketteEndetVonSelbst() {
+        Aufbau a({{1, 0, 0, 0}});
+        a.aktion("Neu");
+        sprungVorbereiten(a);
+        QVERIFY(test::versetzen(a.spiel(), feldNummer(2, 6), feldNummer(0, 2)));
+        QCoreApplication::processEvents();
+        a.ziehe(feldNummer(2, 2), feldNummer(2, 4));
+        QVERIFY(a.spiel().sprungfolge().imSprung); // c1 is free: over c2 the chain may go on
+        QVERIFY(
+            a.brett()->hinweisLabel(Hinweis::spr_msg)->toolTip().contains(QStringLiteral("Umschalt+F10")));
+        a.ziehe(feldNummer(2, 4), feldNummer(2, 6));
+        QCOMPARE(a.spiel().stellung().Feld[2][5], leer);
+        QVERIFY(!a.spiel().sprungfolge().imSprung);
+        QVERIFY(!a.hinweisSichtbar("spr_msg"));
+        QVERIFY(a.spiel().computerAmZug() && a.spiel().amZug() == Seite::Hennen);
+        const Stellung vorher = a.spiel().stellung();
+        a.fenster->zugTakt();
+        QVERIFY(!(a.spiel().stellung() == vorher));
     }
 
     void verpassterSprungWirdGemeldet() {

@@ -40,6 +40,10 @@ class Ansage : public Statustext {
   signals:
     void angesagt(const QString& text);
 
+  protected:
+    // What was said stays in the language it was said in; another language clears it.
+    void changeEvent(QEvent* e) override;
+
   private:
     QString zugSatz(bool fuchs, const std::vector<int>& felder) const;
     void aussprechen();

@@ -39,6 +39,7 @@ class EinstDialog;
 class HighscoreFenster;
 class HilfeFenster;
 class InfoWin;
+class Lagefeld;
 class Partieablage;
 class Spiel;
 class StatForm;
@@ -98,6 +99,7 @@ class BrettFenster : public QMainWindow, public Ansicht {
     void meldung(const std::string& text) override;
     void speicherfehler(const std::string& text) override;
     void zugbegrenzungErreicht() override;
+    void spielEndet(const Spielausgang& ausgang) override;
     void oeffnen(Fenster f) override;
     void zugAusgefuehrt(int vonX, int vonY, int nachX, int nachY, bool normal) override;
     void wartetAufDateien(bool fertig) override;
@@ -126,6 +128,14 @@ class BrettFenster : public QMainWindow, public Ansicht {
     void groesseLaden();
     // The board's input, the playback and the timers, wired to the game.
     void verbinden();
+    // The board with the line that explains the game under it, a person's drop, and that line kept up
+    // to date (brett_lage.cpp).
+    void mitteAnlegen();
+    void ablegen(int t, int k);
+    void lageZeigen();
+    void endeZeigen(const Ereignis& e);
+    // A message that is only noted (status and screen reader), not shown in a box that halts the game.
+    bool nurNotiz(const QString& text) const;
     // The pieces where the game keeps them, before the window is first shown.
     void bilderSetzen();
 
@@ -157,6 +167,7 @@ class BrettFenster : public QMainWindow, public Ansicht {
     std::unique_ptr<Spiel> spiel_;
     BrettFlaeche* brett_ = nullptr;
     Ansage* ansage_ = nullptr;
+    Lagefeld* lage_ = nullptr;
     std::array<QLabel*, 4> panels_{};
     std::array<QString, 4> panelTexte_{}; // as the game wrote them, in German
     Beschriftung texte_{staticMetaObject};
@@ -170,6 +181,7 @@ class BrettFenster : public QMainWindow, public Ansicht {
     std::array<QAction*, 3> tempoAktionen_{};
     QActionGroup* sprachen_ = nullptr; // Deutsch and English in Spiel -> Sprache
     QAction* tippAktion_ = nullptr;
+    QAction* einstellungenAktion_ = nullptr; // also while the computer plays itself
     QAction* zurueckAktion_ = nullptr;
     std::unique_ptr<Partieablage> ablage_; // where a running game is kept; null: nowhere
     bool partieBehalten_ = false;          // fortsetzenAnbieten was called: a running game is to be kept
