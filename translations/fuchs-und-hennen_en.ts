@@ -622,8 +622,8 @@
         <translation>Game over: %1</translation>
     </message>
     <message>
-        <source>Spiel → Neu (Strg+N) beginnt eine Partie; die Hennen ziehen zuerst.</source>
-        <translation>Game → New (Ctrl+N) starts a game; the hens move first.</translation>
+        <source>Spiel → Neu (Strg+N) beginnt eine Partie.</source>
+        <translation>Game → New (Ctrl+N) starts a game.</translation>
     </message>
     <message>
         <source>Lernmodus</source>

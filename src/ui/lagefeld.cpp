@@ -96,7 +96,7 @@ void Lagefeld::schreiben() {
             if (gruende_ & (1U << g)) gruende << grundText(static_cast<Endegrund>(g), letzterFuchs_);
         teile << tr("Spielende: %1").arg(gruende.join(QLatin1Char(' ')));
     } else if (!lage_.begonnen) {
-        teile << tr("Spiel → Neu (Strg+N) beginnt eine Partie; die Hennen ziehen zuerst.");
+        teile << tr("Spiel → Neu (Strg+N) beginnt eine Partie.");
     } else if (lage_.laeuft) {
         teile << zugText(lage_) << zaehlerText(lage_.spielzug) << warnung(lage_.spielzug);
     }
