@@ -10,6 +10,7 @@
 #include <QEvent>
 #include <QStringList>
 #include <cstdlib>
+#include <utility>
 
 #include "ui/brett_flaeche.h"
 #include "ui/brett_zugang.h"
@@ -32,7 +33,7 @@ class AnsageZugang : public QAccessibleWidget {
   public:
     explicit AnsageZugang(Ansage* ansage) : QAccessibleWidget(ansage, QAccessible::Notification) {}
     QString text(QAccessible::Text t) const override {
-        return t == QAccessible::Name ? static_cast<const QLabel*>(widget())->text() : QString();
+        return t == QAccessible::Name ? static_cast<const Ansage*>(widget())->gesprochen() : QString();
     }
 };
 
@@ -60,6 +61,7 @@ void Ansage::changeEvent(QEvent* e) {
 void Ansage::verwerfen() {
     zugFelder_.clear();
     wartend_.clear();
+    zeigen_ = false;
     gleich_.stop();
 }
 
@@ -86,7 +88,8 @@ void Ansage::ereignis(const Ereignis& e) {
         return;
     case Ereignis::Art::status: {
         QString& alt = status_.at(static_cast<size_t>(e.a - 1));
-        if (e.text != alt) sagen(kernText(e.text));
+        // Said, but not shown a second time beside its own field.
+        if (e.text != alt) sagen(kernText(e.text), false);
         alt = e.text;
         return;
     }
@@ -98,10 +101,11 @@ void Ansage::ereignis(const Ereignis& e) {
     }
 }
 
-void Ansage::sagen(const QString& text) {
+void Ansage::sagen(const QString& text, bool zeigen) {
     abschliessen(); // in the order they appeared
     if (text.isEmpty()) return;
     wartend_ << text;
+    zeigen_ = zeigen_ || zeigen;
     gleich_.start();
 }
 
@@ -139,7 +143,8 @@ QString Ansage::zugSatz(bool fuchs, const std::vector<int>& felder) const {
 void Ansage::aussprechen() {
     const QString text = saetze(wartend_);
     wartend_.clear();
-    setText(text);
+    gesprochen_ = text;
+    if (std::exchange(zeigen_, false)) setText(text);
     // Screen readers pass over a label's changed name; a notification that appears they speak, also
     // when its text is the same as before.
     QAccessibleEvent erschienen(this, QAccessible::ObjectShow);

@@ -149,6 +149,7 @@ void BrettFenster::neu() {
     brett_->markierungLoeschen();
     ansage_->verwerfen();
     statusBar()->clearMessage();
+    panelSetzen(Statusfeld::punkte, QString()); // the last game's points go; the new game shows its own
     spiel_->neuesSpiel();
     spielWeiter();
 }

@@ -75,7 +75,7 @@ void BrettFenster::lageZeigen() {
     l.lernmodus = e.Lernmodus == 1 && !s.spielerwahl().zweiSpieler;
     l.einzelzug = e.Einzelzug == 1 && s.menschenseite().has_value();
     const QString neu = lage_->setzen(l);
-    if (!neu.isEmpty()) ansage_->sagen(neu);
+    if (!neu.isEmpty()) ansage_->sagen(neu, false); // the line shows it
 }
 
 void BrettFenster::spielEndet(const Spielausgang& ausgang) {
@@ -94,7 +94,7 @@ bool BrettFenster::nurNotiz(const QString& text) const {
 }
 
 void BrettFenster::endeZeigen(const Ereignis& e) {
-    ansage_->sagen(lage_->ende(static_cast<uint8_t>(e.a), e.b != 0));
+    ansage_->sagen(lage_->ende(static_cast<uint8_t>(e.a), e.b != 0), false);
 }
 
 } // namespace fuh

@@ -126,6 +126,9 @@ class BrettFensterTest : public QObject {
         QVERIFY(!a.spiel().computerAmZug());
         QVERIFY(!a.hinweisSichtbar("f_zug"));
         bilderPruefen(a);
+        // A new game does not show the points of the one before.
+        a.aktion("Neu");
+        QCOMPARE(a.panel(3), QString());
     }
 
     void fuchssprungMitRechtsklickAbschliessen() {
