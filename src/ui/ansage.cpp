@@ -81,11 +81,19 @@ void Ansage::ereignis(const Ereignis& e) {
         zugFelder_ = {e.a, e.b};
         return;
     }
-    case Ereignis::Art::hinweis:
-        if (!e.ja) return;
-        sagen(brett_.hinweisLabel(static_cast<Hinweis>(e.a))->text());
-        if (static_cast<Hinweis>(e.a) == Hinweis::spr_msg) sagen(BrettFlaeche::sprungTasten());
+    case Ereignis::Art::hinweis: {
+        const QString text = brett_.hinweisLabel(static_cast<Hinweis>(e.a))->text();
+        const bool sprung = static_cast<Hinweis>(e.a) == Hinweis::spr_msg;
+        if (e.ja) {
+            sagen(text);
+            if (sprung) sagen(BrettFlaeche::sprungTasten());
+        } else if (sprung) {
+            // A chain that ended at once (no further jump) asks for nothing: its prompt is not said.
+            wartend_.removeAll(text);
+            wartend_.removeAll(BrettFlaeche::sprungTasten());
+        }
         return;
+    }
     case Ereignis::Art::status: {
         QString& alt = status_.at(static_cast<size_t>(e.a - 1));
         // Said, but not shown a second time beside its own field.
@@ -141,6 +149,7 @@ QString Ansage::zugSatz(bool fuchs, const std::vector<int>& felder) const {
 }
 
 void Ansage::aussprechen() {
+    if (wartend_.isEmpty()) return; // all of it was taken back before it was said
     const QString text = saetze(wartend_);
     wartend_.clear();
     gesprochen_ = text;
