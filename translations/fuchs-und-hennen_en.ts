@@ -23,6 +23,14 @@
         <source>%1: Fuchs</source>
         <translation>%1: fox</translation>
     </message>
+    <message>
+        <source>Ausgeschlossener Fuchs</source>
+        <translation>Fox taken off the board</translation>
+    </message>
+    <message>
+        <source>%1: leer, erlaubt</source>
+        <translation>%1: empty, allowed</translation>
+    </message>
 </context>
 <context>
     <name>Kern</name>
@@ -213,16 +221,24 @@
         <translation>Hint: %1</translation>
     </message>
     <message>
-        <source> nach </source>
-        <translation> to </translation>
+        <source> nach %1</source>
+        <translation> to %1</translation>
     </message>
     <message>
-        <source>Fuchs %1 nach %2</source>
-        <translation>Fox %1 to %2</translation>
+        <source> springt über %1 nach %2</source>
+        <translation> jumps over %1 to %2</translation>
     </message>
     <message>
-        <source>Henne %1 nach %2</source>
-        <translation>Hen %1 to %2</translation>
+        <source> und über %1 nach %2</source>
+        <translation> and over %1 to %2</translation>
+    </message>
+    <message>
+        <source>Fuchs %1</source>
+        <translation>Fox %1</translation>
+    </message>
+    <message>
+        <source>Henne %1</source>
+        <translation>Hen %1</translation>
     </message>
 </context>
 <context>
@@ -276,7 +292,7 @@
         <translation>&amp;About</translation>
     </message>
     <message>
-        <source>&amp;Tempo</source>
+        <source>Te&amp;mpo</source>
         <translation>&amp;Pace</translation>
     </message>
     <message>
@@ -403,6 +419,26 @@
         <source>Partie gespeichert.</source>
         <translation>Game saved.</translation>
     </message>
+    <message>
+        <source>Fuchs %1 aufgenommen</source>
+        <translation>Fox %1 picked up</translation>
+    </message>
+    <message>
+        <source>Henne %1 aufgenommen</source>
+        <translation>Hen %1 picked up</translation>
+    </message>
+    <message>
+        <source>%1, kein Zug möglich</source>
+        <translation>%1, no move possible</translation>
+    </message>
+    <message>
+        <source>%1, erlaubt: %2</source>
+        <translation>%1, allowed: %2</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>, </translation>
+    </message>
 </context>
 <context>
     <name>fuh::BrettFlaeche</name>
@@ -425,6 +461,10 @@
     <message>
         <source>Spielbrett</source>
         <translation>Game board</translation>
+    </message>
+    <message>
+        <source>Ohne weiteren möglichen Sprung endet die Sprungfolge von selbst. Früher beenden: rechte Maustaste, Kontextmenütaste oder Umschalt+F10.</source>
+        <translation>Without a further possible jump the chain of jumps ends by itself. To end it earlier: right mouse button, menu key or Shift+F10.</translation>
     </message>
 </context>
 <context>
@@ -536,6 +576,22 @@
         <source>Ihr Name für Platz %1</source>
         <translation>Your name for place %1</translation>
     </message>
+    <message>
+        <source>Neu in der Liste! Ihr &amp;Name:</source>
+        <translation>New in the list! Your &amp;name:</translation>
+    </message>
+    <message>
+        <source>Ihr Eintrag in der Highscore-Liste ist noch nicht gespeichert. Verwerfen?</source>
+        <translation>Your entry in the high-score list has not been saved yet. Discard it?</translation>
+    </message>
+    <message>
+        <source>&amp;Verwerfen</source>
+        <translation>&amp;Discard</translation>
+    </message>
+    <message>
+        <source>&amp;Zurück zur Liste</source>
+        <translation>&amp;Back to the list</translation>
+    </message>
 </context>
 <context>
     <name>fuh::HilfeFenster</name>
@@ -579,16 +635,103 @@
         <translation>Thanks to Anna Gärtner and Paul Hofmann for their patience in testing</translation>
     </message>
     <message>
-        <source>Neue Versionen, Informationen und Neuigkeiten:&lt;br&gt;&lt;span style=&quot;white-space: nowrap&quot;&gt;https://example.org/fuchs-und-hennen&lt;/span&gt;</source>
-        <translation>New versions, information and news:&lt;br&gt;&lt;span style=&quot;white-space: nowrap&quot;&gt;https://example.org/fuchs-und-hennen&lt;/span&gt;</translation>
-    </message>
-    <message>
         <source>Ok</source>
         <translation>OK</translation>
     </message>
     <message>
         <source>Freie Software unter der GNU General Public License, Version 3 oder später (GPL-3.0-or-later)</source>
         <translation>Free software under the GNU General Public License, version 3 or later (GPL-3.0-or-later)</translation>
+    </message>
+    <message>
+        <source>Neue Versionen, Informationen und Neuigkeiten:&lt;br&gt;&lt;a href=&quot;https://example.org/fuchs-und-hennen&quot; style=&quot;white-space: nowrap&quot;&gt;https://example.org/fuchs-und-hennen&lt;/a&gt;</source>
+        <translation>New versions, information and news:&lt;br&gt;&lt;a href=&quot;https://example.org/fuchs-und-hennen&quot; style=&quot;white-space: nowrap&quot;&gt;https://example.org/fuchs-und-hennen&lt;/a&gt;</translation>
+    </message>
+    <message>
+        <source>Version %1</source>
+        <translation>Version %1</translation>
+    </message>
+</context>
+<context>
+    <name>fuh::Lagefeld</name>
+    <message>
+        <source>Sie sind am Zug: Füchse</source>
+        <translation>Your move: foxes</translation>
+    </message>
+    <message>
+        <source>Sie sind am Zug: Hennen</source>
+        <translation>Your move: hens</translation>
+    </message>
+    <message>
+        <source>Der Computer zieht: Füchse</source>
+        <translation>The computer moves: foxes</translation>
+    </message>
+    <message>
+        <source>Der Computer zieht: Hennen</source>
+        <translation>The computer moves: hens</translation>
+    </message>
+    <message>
+        <source>Füchse am Zug</source>
+        <translation>Foxes to move</translation>
+    </message>
+    <message>
+        <source>Hennen am Zug</source>
+        <translation>Hens to move</translation>
+    </message>
+    <message>
+        <source>Der Computer spielt gegen sich selbst</source>
+        <translation>The computer plays against itself</translation>
+    </message>
+    <message>
+        <source>Zug %1 von %2</source>
+        <translation>Move %1 of %2</translation>
+    </message>
+    <message>
+        <source>Noch ein Zug bis zum Remis</source>
+        <translation>One move left before the draw</translation>
+    </message>
+    <message>
+        <source>Noch %1 Züge bis zum Remis</source>
+        <translation>%1 moves left before the draw</translation>
+    </message>
+    <message>
+        <source>Die Hennen besetzen alle %1 Zielfelder.</source>
+        <translation>The hens occupy all %1 target points.</translation>
+    </message>
+    <message>
+        <source>Weniger als %1 Hennen sind übrig; sie können das Ziel nicht mehr füllen.</source>
+        <translation>Fewer than %1 hens are left; they can no longer fill the target.</translation>
+    </message>
+    <message>
+        <source>Die Hennen können nicht mehr ziehen.</source>
+        <translation>The hens cannot move any more.</translation>
+    </message>
+    <message>
+        <source>Der letzte Fuchs auf dem Brett wäre ausgeschlossen worden.</source>
+        <translation>The last fox on the board would have been taken off.</translation>
+    </message>
+    <message>
+        <source>Die Füchse können nicht mehr ziehen.</source>
+        <translation>The foxes cannot move any more.</translation>
+    </message>
+    <message>
+        <source>Die Zugbegrenzung von %1 Zügen ist erreicht.</source>
+        <translation>The move limit of %1 moves has been reached.</translation>
+    </message>
+    <message>
+        <source>Spielende: %1</source>
+        <translation>Game over: %1</translation>
+    </message>
+    <message>
+        <source>Spiel → Neu (Strg+N) beginnt eine Partie.</source>
+        <translation>Game → New (Ctrl+N) starts a game.</translation>
+    </message>
+    <message>
+        <source>Lernmodus</source>
+        <translation>Learning mode</translation>
+    </message>
+    <message>
+        <source>Einzelzug: Der Computer antwortet nicht</source>
+        <translation>Single move: the computer does not reply</translation>
     </message>
 </context>
 <context>

@@ -31,6 +31,16 @@ void Spiel::abgelegt(int t, int k) {
     if (!z_.sprungfolge.imSprung) zugBeendet(z_.amZug);
 }
 
+std::vector<int> Spiel::ziele(int von) const {
+    std::vector<int> frei;
+    if (!menschAmZug() || von <= 0 || von >= kFelder) return frei;
+    const int x = feldX(von), y = feldY(von);
+    for (int t = 0; t < kFelder; ++t)
+        if (korrekterZug(z_.stellung.Feld, z_.amZug, z_.sprungfolge, x, y, feldX(t), feldY(t)))
+            frei.push_back(t);
+    return frei;
+}
+
 void Spiel::sprungfolgeSchliessen() {
     if (!menschAmZug() || !z_.sprungfolge.imSprung) return;
     z_.sprungfolge.imSprung = false;

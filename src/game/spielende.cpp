@@ -61,6 +61,7 @@ Spielausgang Spiel::spielende(int16_t figur) {
     // A side that found no move leaves the destination at (0, 0), and so does the last fox's parking.
     const bool keinZug = z_.zugregister.nachX == 0 && z_.zugregister.nachY == 0;
     const Spielausgang ausgang = spielausgang(z_.stellung.Feld, figur, keinZug, z_.partie.spielzug);
+    if (ausgang.anzahl > 0) ansicht_.spielEndet(ausgang);
     const std::optional<Seite> mensch = menschenseite();
     z_.ergebnis = Ergebnis::offen;
     for (const Endegrund g : ausgang) {

@@ -6,7 +6,11 @@
 #include "ui/sprache.h"
 
 #include <QAccessible>
+#include <QAccessibleWidget>
+#include <QEvent>
 #include <QStringList>
+#include <cstdlib>
+#include <utility>
 
 #include "ui/brett_flaeche.h"
 #include "ui/brett_zugang.h"
@@ -24,18 +28,40 @@ QString saetze(const QStringList& texte) {
     return saetze.join(QLatin1Char(' '));
 }
 
+// Screen readers know the field as a notification, named by its text.
+class AnsageZugang : public QAccessibleWidget {
+  public:
+    explicit AnsageZugang(Ansage* ansage) : QAccessibleWidget(ansage, QAccessible::Notification) {}
+    QString text(QAccessible::Text t) const override {
+        return t == QAccessible::Name ? static_cast<const Ansage*>(widget())->gesprochen() : QString();
+    }
+};
+
+QAccessibleInterface* ansageFabrik(const QString&, QObject* objekt) {
+    if (auto* ansage = qobject_cast<Ansage*>(objekt)) return new AnsageZugang(ansage);
+    return nullptr;
+}
+
 } // namespace
 
 Ansage::Ansage(const BrettFlaeche& brett, QWidget* parent) : Statustext(parent), brett_(brett) {
     setObjectName(QStringLiteral("ansage"));
+    static const bool eingerichtet = (QAccessible::installFactory(ansageFabrik), true);
+    (void)eingerichtet;
     gleich_.setSingleShot(true);
     gleich_.setInterval(0);
     connect(&gleich_, &QTimer::timeout, this, &Ansage::aussprechen);
 }
 
+void Ansage::changeEvent(QEvent* e) {
+    if (e->type() == QEvent::LanguageChange) clear();
+    Statustext::changeEvent(e);
+}
+
 void Ansage::verwerfen() {
     zugFelder_.clear();
     wartend_.clear();
+    zeigen_ = false;
     gleich_.stop();
 }
 
@@ -55,12 +81,23 @@ void Ansage::ereignis(const Ereignis& e) {
         zugFelder_ = {e.a, e.b};
         return;
     }
-    case Ereignis::Art::hinweis:
-        if (e.ja) sagen(brett_.hinweisLabel(static_cast<Hinweis>(e.a))->text());
+    case Ereignis::Art::hinweis: {
+        const QString text = brett_.hinweisLabel(static_cast<Hinweis>(e.a))->text();
+        const bool sprung = static_cast<Hinweis>(e.a) == Hinweis::spr_msg;
+        if (e.ja) {
+            sagen(text);
+            if (sprung) sagen(BrettFlaeche::sprungTasten());
+        } else if (sprung) {
+            // A chain that ended at once (no further jump) asks for nothing: its prompt is not said.
+            wartend_.removeAll(text);
+            wartend_.removeAll(BrettFlaeche::sprungTasten());
+        }
         return;
+    }
     case Ereignis::Art::status: {
         QString& alt = status_.at(static_cast<size_t>(e.a - 1));
-        if (e.text != alt) sagen(kernText(e.text));
+        // Said, but not shown a second time beside its own field.
+        if (e.text != alt) sagen(kernText(e.text), false);
         alt = e.text;
         return;
     }
@@ -72,10 +109,11 @@ void Ansage::ereignis(const Ereignis& e) {
     }
 }
 
-void Ansage::sagen(const QString& text) {
+void Ansage::sagen(const QString& text, bool zeigen) {
     abschliessen(); // in the order they appeared
     if (text.isEmpty()) return;
     wartend_ << text;
+    zeigen_ = zeigen_ || zeigen;
     gleich_.start();
 }
 
@@ -92,24 +130,34 @@ void Ansage::tipp(const std::vector<int>& felder) {
 }
 
 QString Ansage::zugSatz(bool fuchs, const std::vector<int>& felder) const {
-    QStringList ziele;
-    for (size_t i = 1; i < felder.size(); ++i)
-        ziele << feldName(felder[i]);
+    // A jump names the hen it takes: "springt über c6 nach c5", a chain each jump in turn.
+    QString weg;
+    for (size_t i = 1; i < felder.size(); ++i) {
+        const int a = felder[i - 1], b = felder[i];
+        const int dx = feldX(b) - feldX(a), dy = feldY(b) - feldY(a);
+        const QString ziel = feldName(b);
+        if (std::abs(dx) != 2 && std::abs(dy) != 2) {
+            weg += tr(" nach %1").arg(ziel);
+            continue;
+        }
+        const QString ueber = feldName(feldNummer(feldX(a) + dx / 2, feldY(a) + dy / 2));
+        weg += i == 1 ? tr(" springt über %1 nach %2").arg(ueber, ziel)
+                      : tr(" und über %1 nach %2").arg(ueber, ziel);
+    }
     const QString von = feldName(felder.front());
-    const QString ziel = ziele.join(tr(" nach "));
-    return fuchs ? tr("Fuchs %1 nach %2").arg(von, ziel) : tr("Henne %1 nach %2").arg(von, ziel);
+    return (fuchs ? tr("Fuchs %1") : tr("Henne %1")).arg(von) + weg;
 }
 
 void Ansage::aussprechen() {
+    if (wartend_.isEmpty()) return; // all of it was taken back before it was said
     const QString text = saetze(wartend_);
     wartend_.clear();
-    // A label tells screen readers of a changed text itself; a repeated one is news all the same.
-    if (text == this->text()) {
-        QAccessibleEvent ereignis(this, QAccessible::NameChanged);
-        QAccessible::updateAccessibility(&ereignis);
-    } else {
-        setText(text);
-    }
+    gesprochen_ = text;
+    if (std::exchange(zeigen_, false)) setText(text);
+    // Screen readers pass over a label's changed name; a notification that appears they speak, also
+    // when its text is the same as before.
+    QAccessibleEvent erschienen(this, QAccessible::ObjectShow);
+    QAccessible::updateAccessibility(&erschienen);
     emit angesagt(text);
 }
 

@@ -48,7 +48,7 @@ BrettFenster::BrettFenster(std::filesystem::path ordner, uint32_t startzeit, QWi
 
     brett_ = new BrettFlaeche([this] { return spiel_->menschAmZug() && !beschaeftigt(); }, this);
     klaenge_ = new Klaenge([this] { return spiel_ ? spiel_->menschenseite() : std::nullopt; }, this);
-    setCentralWidget(brett_);
+    mitteAnlegen();
     zugliste_ = new ZuglistePanel(this);
     addDockWidget(Qt::RightDockWidgetArea, zugliste_);
     menueAnlegen();
@@ -80,12 +80,6 @@ void BrettFenster::verbinden() {
     connect(brett_, &BrettFlaeche::figurGedrueckt, this, [this](int, Maustaste taste) {
         if (taste != Maustaste::rechts || beschaeftigt()) return;
         spiel_->sprungfolgeSchliessen();
-        spielWeiter();
-    });
-    connect(brett_, &BrettFlaeche::abgelegt, this, [this](int t, int k) {
-        if (beschaeftigt()) return;
-        brett_->tippLoeschen();
-        spiel_->abgelegt(t, k);
         spielWeiter();
     });
     connect(&wiedergabe_, &Wiedergabe::fertig, this, &BrettFenster::wiedergabeFertig);
@@ -161,6 +155,7 @@ void BrettFenster::neu() {
     ansage_->verwerfen();
     statusBar()->clearMessage();
     blaetternBeenden();
+    panelSetzen(Statusfeld::punkte, QString()); // the last game's points go; the new game shows its own
     spiel_->neuesSpiel();
     spielWeiter();
 }
@@ -174,6 +169,7 @@ void BrettFenster::spielWeiter() {
 
 void BrettFenster::wiedergabeFertig() {
     ansage_->abschliessen();
+    lageZeigen();
     if (selbstspielSchleife_) return;
     if (spiel_->selbstspielLaeuft()) {
         if (wiedergabe_.gleitdauer() > 0) {
@@ -204,6 +200,9 @@ void BrettFenster::befehleAbgleichen() {
     if (tippAktion_) tippAktion_->setEnabled(frei && spiel_ && spiel_->tippMoeglich());
     if (zurueckAktion_) zurueckAktion_->setEnabled(frei && spiel_ && spiel_->zuruecknehmenMoeglich());
     zuglisteAbgleichen();
+    if (einstellungenAktion_)
+        einstellungenAktion_->setEnabled(frei || (spiel_ && spiel_->selbstspielLaeuft()));
+    if (!wiedergabe_.laeuft()) lageZeigen(); // else when what the game reported has been shown
 }
 
 void BrettFenster::zeigen(const Ereignis& e) {
@@ -240,10 +239,13 @@ void BrettFenster::zeigen(const Ereignis& e) {
             brett_->markierungLoeschen();
         break;
     case Ereignis::Art::meldung:
-        meldungZeigen(this, QMessageBox::NoIcon, kernText(e.text));
+        if (!nurNotiz(e.text)) meldungZeigen(this, QMessageBox::NoIcon, kernText(e.text));
         break;
     case Ereignis::Art::speicherfehler:
         meldungZeigen(this, QMessageBox::Warning, kernText(e.text));
+        break;
+    case Ereignis::Art::ende:
+        endeZeigen(e);
         break;
     case Ereignis::Art::oeffnen:
         highscoreNachDemSpiel(static_cast<Fenster>(e.a) == Fenster::highf ? Seite::Fuchs : Seite::Hennen);

@@ -110,6 +110,7 @@ void BrettFlaeche::paintEvent(QPaintEvent*) {
         for (int feld : {tipp_.front(), tipp_.back()})
             painter.drawEllipse(mitteVon(feld), radius, radius);
     }
+    zieleZeichnen(painter);
     if (hasFocus()) cursorZeichnen(painter);
     if (!markierung_) return;
     // Rings around the two points, just outside a piece standing there; the origin's is fainter.
@@ -193,6 +194,7 @@ int BrettFlaeche::figurAuf(int feld) const {
 
 void BrettFlaeche::ziehenAbbrechen() {
     gezogen_ = -1;
+    zieleSetzen({});
     if (const int von = std::exchange(getragenVon_, -1); von >= 0) zugangNameGeaendert(this, von);
     if (schwebend_) {
         schwebend_->deleteLater();
@@ -229,6 +231,7 @@ void BrettFlaeche::anheben(int k, QPoint lage) {
     schwebend_->move(lage);
     schwebend_->show();
     schwebend_->raise();
+    if (zielgeber_) zieleSetzen(zielgeber_(k));
 }
 
 void BrettFlaeche::mouseMoveEvent(QMouseEvent* event) {

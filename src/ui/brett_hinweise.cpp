@@ -7,7 +7,9 @@
 #include <QFont>
 #include <QFontDatabase>
 #include <QFontMetrics>
+#include <QHelpEvent>
 #include <QLabel>
+#include <QToolTip>
 #include <cmath>
 
 #include "ui/brett_flaeche.h"
@@ -110,10 +112,34 @@ void BrettFlaeche::hinweiseAnordnen() {
     for (const HinweisLage& lage : kHinweise) {
         QLabel* label = hinweisLabel(lage.h);
         label->setText(tr(lage.text));
+        // The jump prompt also names the keys and that a chain without a further jump ends by itself.
+        const QString mehr = lage.h == Hinweis::spr_msg ? sprungTasten() : QString();
+        label->setToolTip(mehr);
+        label->setAccessibleDescription(mehr);
         label->setFont(schrift);
         label->setStyleSheet(stil);
         label->setGeometry(rechteck(lage));
     }
+}
+
+QString BrettFlaeche::sprungTasten() {
+    return tr("Ohne weiteren möglichen Sprung endet die Sprungfolge von selbst. Früher beenden: rechte "
+              "Maustaste, Kontextmenütaste oder Umschalt+F10.");
+}
+
+bool BrettFlaeche::event(QEvent* event) {
+    // The prompts let the mouse through to the pieces; their tips are shown from here.
+    if (event->type() == QEvent::ToolTip) {
+        const QPoint p = static_cast<QHelpEvent*>(event)->pos();
+        for (const QLabel* label : hinweise_)
+            if (label->isVisible() && label->geometry().contains(p) && !label->toolTip().isEmpty()) {
+                QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), label->toolTip(), this);
+                return true;
+            }
+        QToolTip::hideText();
+        return true;
+    }
+    return QWidget::event(event);
 }
 
 void BrettFlaeche::hinweisZeigen(Hinweis h, bool sichtbar) {

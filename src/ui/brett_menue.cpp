@@ -10,6 +10,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QScreen>
+#include <QShortcut>
 #include <QStatusBar>
 #include <algorithm>
 
@@ -97,9 +98,19 @@ void BrettFenster::menueAnlegen() {
     texte_.text(einstellungen, QT_TR_NOOP("&Einstellungen"));
     einstellungen->setObjectName(QStringLiteral("Einstellungen"));
     connect(einstellungen, &QAction::triggered, this, &BrettFenster::einstellungenZeigen);
-    wartendeBefehle_.push_back(einstellungen);
+    einstellungenAktion_ = einstellungen;
     ergebnisMenue();
     hilfeMenue();
+    // F10 opens the menu, as everywhere on the desktop; Shift+F10 stays the board's right button.
+    auto* f10 = new QShortcut(QKeySequence(Qt::Key_F10), this);
+    connect(f10, &QShortcut::activated, this, [this] {
+        menuBar()->setFocus(Qt::ShortcutFocusReason);
+        menuBar()->setActiveAction(menuBar()->actions().front());
+    });
+    // F11 toggles full screen.
+    auto* f11 = new QShortcut(QKeySequence(Qt::Key_F11), this);
+    connect(f11, &QShortcut::activated, this,
+            [this] { setWindowState(windowState() ^ Qt::WindowFullScreen); });
 }
 
 void BrettFenster::spielMenue() {
@@ -167,7 +178,7 @@ void BrettFenster::tempoSetzen(Tempo t) {
 
 void BrettFenster::tempoMenue(QMenu* menue) {
     QMenu* tempo = menue->addMenu(QString());
-    texte_.text(tempo->menuAction(), QT_TR_NOOP("&Tempo"));
+    texte_.text(tempo->menuAction(), QT_TR_NOOP("Te&mpo"));
     tempo->setObjectName(QStringLiteral("tempo"));
     auto* gruppe = new QActionGroup(tempo);
     struct Stufe {

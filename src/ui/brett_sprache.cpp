@@ -14,6 +14,7 @@
 #include <QStatusBar>
 
 #include "ui/brett_fenster.h"
+#include "ui/brett_flaeche.h"
 #include "ui/titel.h"
 
 namespace fuh {
@@ -55,6 +56,11 @@ void BrettFenster::spracheMenue(QMenu* menue) {
 
 void BrettFenster::changeEvent(QEvent* e) {
     if (e->type() == QEvent::LanguageChange) texteSetzen();
+    // Back in the window (a dialog or menu closed), the keys move the cursor on the board again.
+    // An open menu keeps the keys (a popup may come with an activation of its own).
+    if (e->type() == QEvent::ActivationChange && isActiveWindow() && brett_ &&
+        !QApplication::activePopupWidget())
+        brett_->setFocus(Qt::ActiveWindowFocusReason);
     QMainWindow::changeEvent(e);
 }
 

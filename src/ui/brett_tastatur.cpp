@@ -114,6 +114,7 @@ void BrettFlaeche::aufnehmenOderAblegen() {
     anheben(k, getragenRechteck().topLeft());
     getragenVon_ = cursor_;
     zugangNameGeaendert(this, cursor_);
+    emit aufgenommen(k, cursor_);
 }
 
 void BrettFlaeche::rechtsDruecken() {

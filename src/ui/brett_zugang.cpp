@@ -9,6 +9,7 @@
 #include <QLabel>
 #include <QPointer>
 #include <QWindow>
+#include <algorithm>
 #include <array>
 
 #include "ui/brett_flaeche.h"
@@ -17,16 +18,17 @@ namespace fuh {
 
 namespace {
 
-constexpr int kPunkte = 33;
+constexpr int kPunkte = 34; // the cross, then the place of a fox taken off the board
 constexpr int kHinweise = 4;
 
-// The points of the cross in reading order, from the top left.
+// The points of the cross in reading order, from the top left, then the parking place.
 constexpr std::array<int, kPunkte> kPunktFelder = [] {
     std::array<int, kPunkte> felder{};
     int i = 0;
     for (int y = 0; y <= 6; ++y)
         for (int x = 0; x <= 6; ++x)
             if (aufKreuz(x, y)) felder[i++] = feldNummer(x, y);
+    felder[i] = kParkfeld;
     return felder;
 }();
 
@@ -62,7 +64,9 @@ class PunktZugang : public QAccessibleInterface {
     QAccessible::State state() const override {
         QAccessible::State s;
         s.focusable = true;
-        s.invisible = !brett_ || !brett_->isVisible();
+        // The parking place is there only while a fox waits on it.
+        s.invisible =
+            !brett_ || !brett_->isVisible() || (feld_ == kParkfeld && brett_->angesagteFigur(feld_) < 0);
         s.focused = brett_ && brett_->hasFocus() && brett_->cursor() == feld_;
         return s;
     }
@@ -135,6 +139,11 @@ QString feldName(int feld) {
 
 QString punktName(const BrettFlaeche& brett, int feld) {
     const int k = brett.angesagteFigur(feld);
+    if (feld == kParkfeld)
+        return k < 0 ? QString() : QCoreApplication::translate("BrettZugang", "Ausgeschlossener Fuchs");
+    const auto& ziele = brett.ziele();
+    if (k < 0 && std::find(ziele.begin(), ziele.end(), feld) != ziele.end())
+        return QCoreApplication::translate("BrettZugang", "%1: leer, erlaubt").arg(feldName(feld));
     const bool aufgenommen = brett.getragenVon() == feld;
     const char* text = k < 0 ? QT_TRANSLATE_NOOP("BrettZugang", "%1: leer")
                        : !BrettFlaeche::istFuchs(k)

@@ -118,6 +118,7 @@ void EinstDialog::aufbauen() {
     setTabOrder(computerSpielt_, staerke_);
     setTabOrder(staerke_, lernmodus_);
     setTabOrder(lernmodus_, einzelzug_);
+    computerSpielt_->setFocus(); // the dialog opens on its first field
 }
 
 QLabel* EinstDialog::beschriftet(const char* text, QWidget* feld) {
@@ -125,6 +126,10 @@ QLabel* EinstDialog::beschriftet(const char* text, QWidget* feld) {
     l->setObjectName(feld->objectName() + QStringLiteral("Text"));
     texte_.text(l, text);
     l->setBuddy(feld);
+    // A list is known by its label, not by the entry it shows.
+    texte_.zugangsname(feld, [this, text] {
+        return texte_.uebersetzt(text).remove(QLatin1Char('&')).remove(QLatin1Char(':'));
+    });
     return l;
 }
 

@@ -4,6 +4,7 @@
 
 #include "ui/highscore_fenster.h"
 
+#include <QCloseEvent>
 #include <QDate>
 #include <QDialogButtonBox>
 #include <QEvent>
@@ -11,6 +12,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QLocale>
+#include <QMessageBox>
 #include <QPushButton>
 #include <QVBoxLayout>
 #include <array>
@@ -77,6 +79,10 @@ HighscoreFenster::HighscoreFenster(Seite seite, Oeffentlich& spiel, std::filesys
     const int neu = liste_.anzeigen(spiel, oleDatumHeute());
 
     auto* haupt = new QVBoxLayout(this);
+    auto* aufforderung = new QLabel(this); // says what the edit in the new row is for
+    aufforderung->setObjectName(QStringLiteral("aufforderung"));
+    aufforderung->setWordWrap(true);
+    haupt->addWidget(aufforderung);
     auto* tabelle = new QGridLayout;
     tabelle->setHorizontalSpacing(16);
     for (int c = 0; c < 4; ++c) {
@@ -90,7 +96,14 @@ HighscoreFenster::HighscoreFenster(Seite seite, Oeffentlich& spiel, std::filesys
     for (int i = 0; i < kListenzeilen; ++i)
         zeileAnlegen(tabelle, i);
     // The new row has an edit for the name; it lies over the name cell and comes first in the tab order.
-    if (neu >= 0 && neu < kListenzeilen) tabelle->addWidget(namensfeldAnlegen(neu), neu + 1, 2);
+    if (neu >= 0 && neu < kListenzeilen) {
+        QLineEdit* name = namensfeldAnlegen(neu);
+        tabelle->addWidget(name, neu + 1, 2);
+        texte_.text(aufforderung, QT_TR_NOOP("Neu in der Liste! Ihr &Name:"));
+        aufforderung->setBuddy(name);
+    } else {
+        aufforderung->hide();
+    }
     haupt->addLayout(tabelle);
     zeilenSetzen();
     haupt->addWidget(knoepfeAnlegen());
@@ -137,7 +150,10 @@ QDialogButtonBox* HighscoreFenster::knoepfeAnlegen() {
     knoepfe->addButton(ok, QDialogButtonBox::AcceptRole);
     knoepfe->addButton(abbruch, QDialogButtonBox::RejectRole);
     connect(ok, &QPushButton::clicked, this, [this] { speichernUndSchliessen(); });
-    connect(abbruch, &QPushButton::clicked, this, &QDialog::close);
+    connect(abbruch, &QPushButton::clicked, this, [this] {
+        entschieden_ = true; // the player chose to leave the list as it was
+        close();
+    });
     return knoepfe;
 }
 
@@ -173,7 +189,30 @@ void HighscoreFenster::speichernUndSchliessen() {
                                            ordner_, bestenlistendatei(liste_.seite())));
         return;
     }
+    entschieden_ = true;
     close();
+}
+
+void HighscoreFenster::reject() {
+    if (verwerfenErlaubt()) QDialog::reject();
+}
+
+void HighscoreFenster::closeEvent(QCloseEvent* e) {
+    if (!verwerfenErlaubt()) return e->ignore();
+    QDialog::closeEvent(e);
+}
+
+bool HighscoreFenster::verwerfenErlaubt() {
+    // Escape and the window's close button ask before a new entry is lost.
+    if (entschieden_ || !liste_.hatNeueZeile()) return true;
+    QMessageBox frage(QMessageBox::Question, windowTitle(),
+                      tr("Ihr Eintrag in der Highscore-Liste ist noch nicht gespeichert. Verwerfen?"),
+                      QMessageBox::NoButton, this);
+    QPushButton* verwerfen = frage.addButton(tr("&Verwerfen"), QMessageBox::DestructiveRole);
+    frage.setDefaultButton(frage.addButton(tr("&Zurück zur Liste"), QMessageBox::RejectRole));
+    frage.exec();
+    entschieden_ = frage.clickedButton() == verwerfen;
+    return entschieden_;
 }
 
 } // namespace fuh

@@ -8,6 +8,7 @@
 #include <QHBoxLayout>
 #include <QKeySequence>
 #include <QPushButton>
+#include <QScreen>
 #include <QScrollBar>
 #include <QShortcut>
 #include <QTextBrowser>
@@ -19,6 +20,8 @@
 namespace fuh {
 
 namespace {
+
+constexpr int kRahmen = 40; // room for a window frame and title bar, which the size does not include
 
 // The guide in the language spoken now.
 QUrl startseite() {
@@ -58,6 +61,12 @@ HilfeFenster::HilfeFenster(QWidget* parent) : QDialog(parent, Qt::Window) {
     haupt->addWidget(browser_);
     browser_->setSource(startseite());
     resize(640, 560);
+    // On a small screen the window and its frame stay within the screen, title bar included.
+    if (const QScreen* bildschirm = parent ? parent->screen() : screen()) {
+        const QRect frei = bildschirm->availableGeometry();
+        resize(size().boundedTo(frei.size() - QSize(kRahmen, 2 * kRahmen)));
+        move(frei.topLeft() + QPoint(kRahmen / 2, kRahmen));
+    }
 
     connect(browser_, &QTextBrowser::backwardAvailable, zurueck, &QPushButton::setEnabled);
     connect(zurueck, &QPushButton::clicked, browser_, &QTextBrowser::backward);

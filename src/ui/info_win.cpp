@@ -36,7 +36,7 @@ QLayout* InfoWin::texteAnlegen() {
     auto* texte = new QVBoxLayout;
     auto text = [&](const QString& name, const char* inhalt) {
         auto* l = new QLabel(this);
-        texte_.text(l, inhalt);
+        if (inhalt) texte_.text(l, inhalt);
         l->setObjectName(name);
         l->setWordWrap(true);
         texte->addWidget(l);
@@ -46,15 +46,21 @@ QLayout* InfoWin::texteAnlegen() {
     QFont f = titel->font();
     f.setBold(true);
     titel->setFont(f);
+    text(QStringLiteral("version"), nullptr);
+    versionSetzen();
     text(QStringLiteral("rechte"), QT_TR_NOOP("© 2026 Das Fuchs-und-Hennen-Team"));
     text(QStringLiteral("dank"),
          QT_TR_NOOP("Dank an Anna Gärtner und Paul Hofmann für ihre Geduld beim Testen"));
     texte->addWidget(mailAnlegen());
     // The address gets a line of its own and is never broken inside.
     text(QStringLiteral("webseite"), QT_TR_NOOP("Neue Versionen, Informationen und Neuigkeiten:<br>"
-                                                "<span style=\"white-space: nowrap\">"
-                                                "https://example.org/fuchs-und-hennen</span>"))
-        ->setTextFormat(Qt::RichText);
+                                                "<a href=\"https://example.org/fuchs-und-hennen\" "
+                                                "style=\"white-space: nowrap\">"
+                                                "https://example.org/fuchs-und-hennen</a>"));
+    QLabel* webseite = findChild<QLabel*>(QStringLiteral("webseite"));
+    webseite->setTextFormat(Qt::RichText);
+    webseite->setOpenExternalLinks(true); // opens in the browser, by mouse or by Tab and Enter
+    webseite->setTextInteractionFlags(Qt::TextBrowserInteraction);
     text(
         QStringLiteral("lizenz"),
         QT_TR_NOOP(
@@ -80,9 +86,14 @@ QLabel* InfoWin::mailAnlegen() {
     return mail;
 }
 
+void InfoWin::versionSetzen() {
+    findChild<QLabel*>(QStringLiteral("version"))->setText(tr("Version %1").arg(QStringLiteral(FUH_VERSION)));
+}
+
 void InfoWin::changeEvent(QEvent* e) {
     if (e->type() == QEvent::LanguageChange) {
         texte_.erneuern();
+        versionSetzen();
         layout()->activate(); // the new size at once, not at the next layout pass
     }
     QDialog::changeEvent(e);

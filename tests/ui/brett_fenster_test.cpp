@@ -16,6 +16,7 @@
 #include <vector>
 
 #include "fenster_aufbau.h"
+#include "ui/ansage.h"
 #include "ui/einst_dialog.h"
 #include "ui/highscore_fenster.h"
 #include "ui/hilfe_fenster.h"
@@ -126,6 +127,9 @@ class BrettFensterTest : public QObject {
         QVERIFY(!a.spiel().computerAmZug());
         QVERIFY(!a.hinweisSichtbar("f_zug"));
         bilderPruefen(a);
+        // A new game does not show the points of the one before.
+        a.aktion("Neu");
+        QCOMPARE(a.panel(3), QString());
     }
 
     void fuchssprungMitRechtsklickAbschliessen() {
@@ -139,6 +143,9 @@ class BrettFensterTest : public QObject {
         QVERIFY(a.spiel().ziehbar());
 
         sprungVorbereiten(a);
+        QVERIFY(
+            test::versetzen(a.spiel(), feldNummer(2, 6), feldNummer(0, 2))); // c1 free: the chain may go on
+        QCoreApplication::processEvents();
         const int von = feldNummer(2, 2), nach = feldNummer(2, 4);
         const int fuchsK = *figur_index(a.spiel().stellung(), von);
         a.ziehe(von, nach);
@@ -161,6 +168,38 @@ class BrettFensterTest : public QObject {
         a.fenster->zugTakt();
         QVERIFY(!(a.spiel().stellung() == vorher));
         QVERIFY(antworter.texte.empty());
+    }
+
+    // A chain of jumps with no further jump ends by itself: the hens answer without the right button.
+    void sprungketteEndetVonSelbst() {
+        Aufbau a({{1, 0, 0, 0}});
+        a.aktion("Neu");
+        sprungVorbereiten(a);
+        QVERIFY(test::versetzen(a.spiel(), feldNummer(2, 6), feldNummer(0, 2)));
+        QCoreApplication::processEvents();
+        QSignalSpy gesagt(a.fenster->findChild<Ansage*>(), &Ansage::angesagt);
+        auto alles = [&gesagt] {
+            QStringList texte;
+            for (const QList<QVariant>& s : gesagt)
+                texte << s.at(0).toString();
+            return texte.join(QLatin1Char('\n'));
+        };
+        a.ziehe(feldNummer(2, 2), feldNummer(2, 4));
+        QVERIFY(a.spiel().sprungfolge().imSprung); // c1 is free: over c2 the chain may go on
+        QVERIFY(
+            a.brett()->hinweisLabel(Hinweis::spr_msg)->toolTip().contains(QStringLiteral("Umschalt+F10")));
+        QTRY_VERIFY(alles().contains(QStringLiteral("Umschalt+F10"))); // the prompt is said with its keys
+        gesagt.clear();
+        a.ziehe(feldNummer(2, 4), feldNummer(2, 6));
+        QTest::qWait(20); // what the jump brought is said
+        QVERIFY2(!alles().contains(QStringLiteral("Sprung mit rechter Maustaste")), qPrintable(alles()));
+        QCOMPARE(a.spiel().stellung().Feld[2][5], leer);
+        QVERIFY(!a.spiel().sprungfolge().imSprung);
+        QVERIFY(!a.hinweisSichtbar("spr_msg"));
+        QVERIFY(a.spiel().computerAmZug() && a.spiel().amZug() == Seite::Hennen);
+        const Stellung vorher = a.spiel().stellung();
+        a.fenster->zugTakt();
+        QVERIFY(!(a.spiel().stellung() == vorher));
     }
 
     void verpassterSprungWirdGemeldet() {

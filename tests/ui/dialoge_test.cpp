@@ -12,7 +12,9 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMessageBox>
 #include <QPointer>
+#include <QTimer>
 #include <QtTest>
 #include <memory>
 
@@ -180,6 +182,13 @@ class DialogeTest : public QObject {
                     QVERIFY2(!zugang->relations(QAccessible::Label).isEmpty(), qPrintable(name(w)));
             }
             const QString fenster = name(o.d);
+            // A new high-score entry goes only when the player confirms it.
+            if (o.d->findChild<QLineEdit*>())
+                QTimer::singleShot(0, [] {
+                    if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget()))
+                        for (QAbstractButton* b : box->buttons())
+                            if (box->buttonRole(b) == QMessageBox::DestructiveRole) b->click();
+                });
             QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
             QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
             QVERIFY2(o.d.isNull(), qPrintable(fenster));

@@ -253,6 +253,34 @@ class FensterTest : public QObject {
         QCOMPARE(text(w, "sieg1"), QStringLiteral("Nein"));
         QCOMPARE(text(w, "datum0"), QLocale().toString(QDate(2020, 6, 18), QLocale::ShortFormat));
         tippen(kind(w, "nameEingabe1"), QStringLiteral("Otto"));
+        // A visible label says what the field is for.
+        QVERIFY(kind(w, "aufforderung")->isVisible());
+        QCOMPARE(kind<QLabel>(w, "aufforderung")->buddy(), kind(w, "nameEingabe1"));
+
+        // Escape and the close button ask first: "Zurück zur Liste" keeps the entry, "Verwerfen" drops it.
+        auto antworten = [](const QString& knopf) {
+            QTimer::singleShot(0, [knopf] {
+                auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+                QVERIFY(box);
+                for (QAbstractButton* b : box->buttons())
+                    if (b->text().remove(QLatin1Char('&')) == knopf) b->click();
+            });
+        };
+        antworten(QStringLiteral("Zurück zur Liste"));
+        QTest::keyClick(kind(w, "nameEingabe1"), Qt::Key_Escape);
+        QVERIFY(w && w->isVisible());
+        antworten(QStringLiteral("Zurück zur Liste"));
+        w->close();
+        QVERIFY(w && w->isVisible());
+        antworten(QStringLiteral("Verwerfen"));
+        QTest::keyClick(kind(w, "nameEingabe1"), Qt::Key_Escape);
+        QVERIFY(!w || !w->isVisible());
+        QCOMPARE(dir.lies("QZF.sco"), vorher);
+        delete w;
+
+        // "Abbruch" is a choice already: it asks nothing.
+        w = new HighscoreFenster(Seite::Fuchs, spiel, dir.pfad());
+        w->show();
         klick(w, "abbruchKnopf");
         QVERIFY(w.isNull());
         QCOMPARE(dir.lies("QZF.sco"), vorher);

@@ -5,6 +5,7 @@
 // The game without a mouse: the keyboard cursor on the board, the standard shortcuts, and what a
 // screen reader is told about the board and the computer's moves.
 #include <QAccessible>
+#include <QMenuBar>
 #include <QSignalSpy>
 #include <QStatusBar>
 #include <QTest>
@@ -15,6 +16,7 @@
 #include "ui/brett_zugang.h"
 #include "ui/highscore_fenster.h"
 #include "ui/hilfe_fenster.h"
+#include "versetzen.h"
 
 using namespace fuh;
 using namespace fuh::test;
@@ -83,7 +85,8 @@ class TastaturTest : public QObject {
         QVERIFY(brett);
         QStringList punkte;
         for (int i = 0; i < brett->childCount(); ++i)
-            if (brett->child(i)->role() == QAccessible::Button) punkte << name(brett->child(i));
+            if (brett->child(i)->role() == QAccessible::Button && !brett->child(i)->state().invisible)
+                punkte << name(brett->child(i));
         QCOMPARE(punkte.size(), 33);
         // Rows count from the bottom: the foxes start on row 5, the hens fill rows 1 to 4.
         QCOMPARE(punkte.first(), QStringLiteral("c7: leer"));
@@ -115,6 +118,11 @@ class TastaturTest : public QObject {
         const int k = a.brett()->figurAuf(feldNummer(3, 2));
         a.brett()->figurGleiten(k, platzLeft(feldNummer(3, 3)), platzTop(feldNummer(3, 3)));
         QCOMPARE(name(d4), QStringLiteral("d4: leer"));
+
+        // A fox taken off the board is still found, on its own place beside the cross.
+        QVERIFY(versetzen(a.spiel(), feldNummer(2, 2), kParkfeld));
+        QTRY_VERIFY(brett->child(33) && !brett->child(33)->state().invisible);
+        QCOMPARE(name(brett->child(33)), QStringLiteral("Ausgeschlossener Fuchs"));
     }
 
     void aufnehmenZuruecklegenUndFalschAblegen() {
@@ -152,7 +160,8 @@ class TastaturTest : public QObject {
         bilderPruefen(a);
     }
 
-    // One move by keys as the hint (Ctrl+T) shows it; a chain of jumps is closed with Shift+F10.
+    // One move by keys as the hint (Ctrl+T) shows it; a chain of jumps that could go on is closed with
+    // Shift+F10. `geschlossen` counts the jumps.
     void zugNachTipp(Aufbau& a, int& geschlossen) {
         QTest::keyClick(a.fenster.get(), Qt::Key_T, Qt::ControlModifier);
         const std::vector<int> tipp = a.brett()->tipp();
@@ -161,10 +170,11 @@ class TastaturTest : public QObject {
             fahren(a, feld);
             taste(a, Qt::Key_Return);
         }
+        if (std::abs(feldX(tipp[1]) - feldX(tipp[0])) == 2 || std::abs(feldY(tipp[1]) - feldY(tipp[0])) == 2)
+            ++geschlossen;
         if (a.spiel().sprungfolge().imSprung) {
             QTest::keyClick(a.brett(), Qt::Key_F10, Qt::ShiftModifier);
             QVERIFY(!a.spiel().sprungfolge().imSprung);
-            ++geschlossen;
         }
     }
 
@@ -239,6 +249,10 @@ class TastaturTest : public QObject {
         const QString texte = ansagen(gesagt);
         QVERIFY(texte.indexOf(QStringLiteral("Die Füchse sind am Zug.")) <
                 texte.indexOf(QStringLiteral("Fuchs %1 nach %2").arg(von, nach)));
+        // Screen readers hear it as a notification that appears.
+        QAccessibleInterface* zugang = QAccessible::queryAccessibleInterface(a.fenster->findChild<Ansage*>());
+        QCOMPARE(zugang->role(), QAccessible::Notification);
+        QVERIFY(zugang->text(QAccessible::Name).contains(QStringLiteral("Fuchs %1 nach %2").arg(von, nach)));
     }
 
     void sprungketteInEinemSatz() {
@@ -257,15 +271,67 @@ class TastaturTest : public QObject {
         ansage.sagen(hinweis);
         QCOMPARE(gesagt.count(), 0); // what appears in one go is said together
         QTRY_COMPARE(gesagt.count(), 1);
-        QCOMPARE(ansage.text(), QStringLiteral("Fuchs c5 nach c3 nach e3. Henne d2 nach d3. ") + hinweis);
+        QCOMPARE(ansage.text(),
+                 QStringLiteral("Fuchs c5 springt über c4 nach c3 und über d3 nach e3. Henne d2 nach d3. ") +
+                     hinweis);
         ansage.sagen(hinweis);
         QTRY_COMPARE(gesagt.count(), 2); // said again, heard again
         QCOMPARE(ansage.text(), hinweis);
-        // A status text is said when it changes.
+        // A status text is said when it changes, and not shown again beside its own field.
         for (const char* punkte : {"Punkte: 237", "Punkte: 237", "Punkte: 240"})
             ansage.ereignis({Ereignis::Art::status, 3, 0, 0, false, QString::fromLatin1(punkte)});
         QTRY_COMPARE(gesagt.count(), 3);
-        QCOMPARE(ansage.text(), QStringLiteral("Punkte: 237. Punkte: 240."));
+        QCOMPARE(ansage.gesprochen(), QStringLiteral("Punkte: 237. Punkte: 240."));
+        QCOMPARE(ansage.text(), hinweis);
+    }
+
+    // A lifted piece shows where it may go, lifted by keys or by the mouse; screen readers hear those
+    // points as allowed, and the marks go when the piece is put down.
+    void erlaubteZiele() {
+        Aufbau a;
+        aktivieren(a);
+        QSignalSpy gesagt(a.fenster->findChild<Ansage*>(), &Ansage::angesagt);
+        a.aktion("Neu");
+        QAccessibleInterface* brett = QAccessible::queryAccessibleInterface(a.brett());
+        taste(a, Qt::Key_Return); // the hen on d4: only d5 is free ahead of it
+        QCOMPARE(a.brett()->ziele(), std::vector<int>{feldNummer(3, 2)});
+        QTRY_VERIFY(ansagen(gesagt).contains(QStringLiteral("Henne d4 aufgenommen, erlaubt: d5")));
+        taste(a, Qt::Key_Up);
+        QCOMPARE(name(brett->focusChild()), QStringLiteral("d5: leer, erlaubt"));
+        taste(a, Qt::Key_Escape);
+        QVERIFY(a.brett()->ziele().empty());
+        QCOMPARE(name(brett->focusChild()), QStringLiteral("d5: leer"));
+
+        const int a4 = feldNummer(0, 3), a5 = feldNummer(0, 2);
+        QTest::mousePress(a.brett(), Qt::LeftButton, Qt::NoModifier, a.mitte(a4));
+        QCOMPARE(a.brett()->ziele(), std::vector<int>{a5});
+        QTest::mouseMove(a.brett(), a.mitte(a5));
+        QTest::mouseRelease(a.brett(), Qt::LeftButton, Qt::NoModifier, a.mitte(a5));
+        QVERIFY(a.brett()->ziele().empty());
+        QCOMPARE(a.spiel().stellung().Feld[0][2], henne);
+    }
+
+    // F10 opens the menu; after each window or dialog closes the keys move the cursor again, and a
+    // dialog opens on its first field, named by its label.
+    void fokusNachJedemDialog() {
+        Aufbau a;
+        aktivieren(a);
+        QTest::keyClick(a.brett(), Qt::Key_F10);
+        QTRY_VERIFY(QApplication::activePopupWidget());
+        QApplication::activePopupWidget()->close();
+        for (const char* befehl : {"Einstellungen", "statistik", "highscoreFuchs", "hilfeZeigen", "info"}) {
+            a.fenster->menuBar()->setFocus(Qt::MenuBarFocusReason); // as when it was chosen there
+            a.aktion(befehl);
+            QTRY_VERIFY2(QApplication::activeWindow() && QApplication::activeWindow() != a.fenster.get(),
+                         befehl);
+            if (qstrcmp(befehl, "Einstellungen") == 0) {
+                QCOMPARE(QApplication::focusWidget()->objectName(), QStringLiteral("computerSpielt"));
+                QCOMPARE(QApplication::focusWidget()->accessibleName(), QStringLiteral("Computer spielt"));
+            }
+            QApplication::activeWindow()->close();
+            aktivieren(a); // as the desktop does when a window closes
+            QTRY_VERIFY2(QApplication::focusWidget() == a.brett(), befehl);
+        }
     }
 
     // Ctrl+N, Ctrl+T and Shift+F10 are played in the whole game above.

@@ -4,6 +4,8 @@
 
 // The main window shows the computer's moves at a pace a player can follow, scales with the window,
 // and reports what went wrong in one message: driven like a player on the offscreen platform.
+#include <QComboBox>
+#include <QPushButton>
 #include <QScreen>
 #include <QSignalSpy>
 #include <QStatusBar>
@@ -11,6 +13,11 @@
 #include <vector>
 
 #include "fenster_aufbau.h"
+#include "player/strafregel.h"
+#include "ui/ansage.h"
+#include "ui/einst_dialog.h"
+#include "ui/lagefeld.h"
+#include "ui/sprache.h"
 
 using namespace fuh;
 using namespace fuh::test;
@@ -115,7 +122,6 @@ class WiedergabeTest : public QObject {
         });
         a.aktion("Neu");
         QVERIFY(a.spiel().selbstspielLaeuft());
-        QVERIFY(!a.fenster->findChild<QAction*>(QStringLiteral("Einstellungen"))->isEnabled());
         QTRY_VERIFY_WITH_TIMEOUT(neuGedrueckt, 60000);
         QTRY_VERIFY(!a.fenster->beschaeftigt());
 
@@ -206,16 +212,60 @@ class WiedergabeTest : public QObject {
         QVERIFY(std::filesystem::is_directory(a.pfad() / "QZ3.DAT"));
     }
 
+    // Watching the computer play itself: the penalty rule's word is a note (no box halts the game), and
+    // the settings can be changed meanwhile, taking effect at once. A person's game gets the box.
+    void zuschauenMitNotizUndEinstellungen() {
+        Aufbau a({{2, 0, 0, 0}}, Tempo::schnell);
+        Antworter antworter;
+        a.aktion("Neu");
+        QVERIFY(a.spiel().selbstspielLaeuft() && a.fenster->beschaeftigt());
+        a.fenster->meldung(kFuchsAusgeschlossen);
+        const QLabel* ansage = a.fenster->findChild<Ansage*>();
+        QTRY_VERIFY(ansage->text().contains(QString::fromUtf8(kFuchsAusgeschlossen)));
+        QVERIFY(antworter.texte.empty());
+
+        QAction* einstellungen = a.fenster->findChild<QAction*>(QStringLiteral("Einstellungen"));
+        QVERIFY(einstellungen->isEnabled());
+        einstellungen->trigger();
+        auto* dialog = a.fenster->findChild<EinstDialog*>();
+        QVERIFY(dialog && a.fenster->beschaeftigt());
+        dialog->findChild<QComboBox*>(QStringLiteral("computerSpielt"))->setCurrentIndex(1); // the hens only
+        dialog->findChild<QPushButton*>(QStringLiteral("okKnopf"))->click();
+        QVERIFY(!a.spiel().selbstspielLaeuft());
+        QTRY_VERIFY(!a.fenster->beschaeftigt());
+        QVERIFY(a.spiel().laeuft() && (a.spiel().menschAmZug() || a.spiel().computerAmZug()));
+        a.fenster->meldung(kFuchsAusgeschlossen);
+        QTRY_COMPARE(antworter.texte.size(), size_t{1});
+    }
+
     void zugbegrenzungSagtRemis() {
         // Single-move mode with the player's foxes after the hens' opening: one fox steps back and forth.
         Aufbau a({{1, 0, 0, 1}});
         Antworter antworter;
+        const Lagefeld* lage = a.fenster->findChild<Lagefeld*>();
+        QVERIFY(lage->text().startsWith(QStringLiteral("Spiel → Neu (Strg+N) beginnt eine Partie")));
         a.aktion("Neu");
-        for (int i = 0; i < 200 && a.spiel().ziehbar(); ++i)
+        // The line under the board counts the moves against the limit and warns ten moves before it.
+        for (int i = 0; i < 200 && a.spiel().ziehbar(); ++i) {
+            const QString zaehler = QStringLiteral("Zug %1 von 149").arg(a.spiel().spielzug());
+            const QString erwartet = a.spiel().spielzug() == 139
+                                         ? QStringLiteral(" · Noch 10 Züge bis zum Remis")
+                                     : a.spiel().spielzug() == 138 ? QStringLiteral(" · Einzelzug")
+                                                                   : QString();
+            QVERIFY2(lage->text().contains(zaehler + erwartet), qPrintable(lage->text()));
             a.ziehe(i % 2 == 0 ? 16 : 9, i % 2 == 0 ? 9 : 16);
+        }
         QCOMPARE(a.spiel().spielzug(), kZugbegrenzung);
         QCOMPARE(a.fenster->statusBar()->currentMessage(), QStringLiteral("Remis: Zugbegrenzung erreicht"));
         QVERIFY(antworter.texte.empty());
+        // The reason of the end, in the language the player switches to.
+        QVERIFY(lage->text().startsWith(
+            QStringLiteral("Spielende: Die Zugbegrenzung von 149 Zügen ist erreicht.")));
+        spracheSetzen(Sprache::englisch);
+        QTRY_VERIFY2(lage->text().startsWith(
+                         QStringLiteral("Game over: The move limit of 149 moves has been reached.")),
+                     qPrintable(lage->text()));
+        spracheSetzen(Sprache::deutsch);
         a.aktion("Neu");
         QCOMPARE(a.fenster->statusBar()->currentMessage(), QString());
     }

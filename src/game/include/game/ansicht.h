@@ -6,6 +6,8 @@
 // The one way the game reaches the screen. The window implements it; headless programs log through it.
 #include <string>
 
+#include "board/spielausgang.h"
+
 namespace fuh {
 
 // The four prompt labels of the main window.
@@ -39,6 +41,8 @@ class Ansicht {
     virtual void speicherfehler(const std::string& text) { meldung(text); }
     // The game was drawn because the move limit was reached; it announces nothing else.
     virtual void zugbegrenzungErreicht() {}
+    // The game is over, for every reason in `ausgang`; reported before the end's messages.
+    virtual void spielEndet(const Spielausgang& /*ausgang*/) {}
     virtual void oeffnen(Fenster f) = 0;
     // Another program is using the data files and the game waits for it, a few seconds at most: called
     // again and again while it waits, then once with `fertig`. A screen keeps painting meanwhile and

@@ -52,6 +52,9 @@ class Spiel {
     // A person dropped piece k on square t: taken only when a person plays the side to move and the move
     // is legal, otherwise ignored.
     void abgelegt(int t, int k);
+    // The squares the piece on square `von` may be moved to now by the person to move; empty when no
+    // person is to move or that piece may not move.
+    std::vector<int> ziele(int von) const;
     // A person ends the fox's open chain of jumps (the right mouse button); the hens move next.
     void sprungfolgeSchliessen();
     // The computer makes the move of the side to move when it plays that side; true when it moved.

@@ -6,7 +6,7 @@
 // What a screen reader hears as it appears on the screen: the computer's moves, the prompts, the changed
 // status texts and the game's messages. A screen reader reads the label's name some time after it was
 // told of a change, so what appears in one go (a move, then the points) is said as one text, and a
-// repeated text is told again all the same. The label shows the last text said.
+// repeated text is told again all the same. The label shows the last text said that no other field shows.
 #include <QString>
 #include <QStringList>
 #include <QTimer>
@@ -30,8 +30,12 @@ class Ansage : public Statustext {
     void ereignis(const Ereignis& e);
     // A suggested move (origin, then each landing square), said as the computer's moves are.
     void tipp(const std::vector<int>& felder);
-    // Said when control returns to the event loop, together with whatever else is said until then.
-    void sagen(const QString& text);
+    // Said when control returns to the event loop, together with whatever else is said until then;
+    // shown in the field as well unless `zeigen` is false for all of it (a text the window shows
+    // elsewhere already).
+    void sagen(const QString& text, bool zeigen = true);
+    // What was said last: the name screen readers read.
+    const QString& gesprochen() const { return gesprochen_; }
     // Everything reported so far has been shown.
     void abschliessen();
     // The game was abandoned: nothing of it still waiting is said.
@@ -40,12 +44,18 @@ class Ansage : public Statustext {
   signals:
     void angesagt(const QString& text);
 
+  protected:
+    // What was said stays in the language it was said in; another language clears it.
+    void changeEvent(QEvent* e) override;
+
   private:
     QString zugSatz(bool fuchs, const std::vector<int>& felder) const;
     void aussprechen();
 
     const BrettFlaeche& brett_;
     QStringList wartend_;
+    bool zeigen_ = false; // something waiting is to be shown
+    QString gesprochen_;
     QTimer gleich_;
     std::array<QString, 4> status_; // the panels' texts, so that only a change is said
     bool zugFuchs_ = false;

@@ -42,6 +42,7 @@ class HighscoreFenster;
 class HilfeFenster;
 class InfoWin;
 class Klaenge;
+class Lagefeld;
 class Partieablage;
 class Spiel;
 class StatForm;
@@ -114,6 +115,7 @@ class BrettFenster : public QMainWindow, public Ansicht {
     void meldung(const std::string& text) override;
     void speicherfehler(const std::string& text) override;
     void zugbegrenzungErreicht() override;
+    void spielEndet(const Spielausgang& ausgang) override;
     void oeffnen(Fenster f) override;
     void zugAusgefuehrt(int vonX, int vonY, int nachX, int nachY, bool normal) override;
     void wartetAufDateien(bool fertig) override;
@@ -142,6 +144,14 @@ class BrettFenster : public QMainWindow, public Ansicht {
     void groesseLaden();
     // The board's input, the playback and the timers, wired to the game.
     void verbinden();
+    // The board with the line that explains the game under it, a person's drop, and that line kept up
+    // to date (brett_lage.cpp).
+    void mitteAnlegen();
+    void ablegen(int t, int k);
+    void lageZeigen();
+    void endeZeigen(const Ereignis& e);
+    // A message that is only noted (status and screen reader), not shown in a box that halts the game.
+    bool nurNotiz(const QString& text) const;
     // The pieces where the game keeps them, before the window is first shown.
     void bilderSetzen();
 
@@ -185,6 +195,7 @@ class BrettFenster : public QMainWindow, public Ansicht {
     BrettFlaeche* brett_ = nullptr;
     Ansage* ansage_ = nullptr;
     Klaenge* klaenge_ = nullptr;
+    Lagefeld* lage_ = nullptr;
     std::array<QLabel*, 4> panels_{};
     std::array<QString, 4> panelTexte_{}; // as the game wrote them, in German
     Beschriftung texte_{staticMetaObject};
@@ -200,6 +211,7 @@ class BrettFenster : public QMainWindow, public Ansicht {
     QActionGroup* themaAktionen_ = nullptr;
     QAction* tonAktion_ = nullptr;
     QAction* tippAktion_ = nullptr;
+    QAction* einstellungenAktion_ = nullptr; // also while the computer plays itself
     QAction* zurueckAktion_ = nullptr;
     QAction* wiederholenAktion_ = nullptr;
     QAction* weiterAktion_ = nullptr;

@@ -73,6 +73,11 @@ class BrettFlaeche : public QWidget {
     // The same as screen readers know it: not changed by a slide until the move has been marked.
     int angesagteFigur(int feld) const { return inhalt_[feld]; }
 
+    // Where a lifted piece may go: `ziele` gives the squares for piece k, asked each time a piece is
+    // lifted; they stay marked (and are named "erlaubt" to screen readers) until it is put down.
+    void zieleGeben(std::function<std::vector<int>(int k)> ziele) { zielgeber_ = std::move(ziele); }
+    const std::vector<int>& ziele() const { return ziele_; }
+
     bool ziehtGerade() const { return gezogen_ >= 0; }
     void ziehenAbbrechen();
 
@@ -83,6 +88,9 @@ class BrettFlaeche : public QWidget {
     int getragenVon() const { return getragenVon_; } // -1 when the keyboard carries no piece
     void cursorSetzen(int feld);
 
+    // How a person's chain of jumps ends, keys included: the jump prompt's tip, said with the prompt.
+    static QString sprungTasten();
+
     QSize minimumSizeHint() const override { return {kSeite, kSeite}; }
     QSize sizeHint() const override { return {kSeite, kSeite}; }
 
@@ -90,8 +98,10 @@ class BrettFlaeche : public QWidget {
     void figurGedrueckt(int k, Maustaste taste);
     void abgelegt(int t, int k);                  // piece k dropped on the target of square t
     void figurVersetzt(int k, int left, int top); // the image of piece k now stands there (twips)
+    void aufgenommen(int k, int feld);            // the keyboard picked up piece k from square feld
 
   protected:
+    bool event(QEvent* event) override;
     void changeEvent(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
@@ -117,6 +127,9 @@ class BrettFlaeche : public QWidget {
     // The one way a drop reaches the game: only onto a target that no piece image covers.
     void ablegen(int k, QPoint p);
     void cursorZeichnen(QPainter& painter) const;
+    // The legal targets of the lifted piece (brett_ziele.cpp).
+    void zieleSetzen(std::vector<int> ziele);
+    void zieleZeichnen(QPainter& painter) const;
     // The keyboard's gestures on the cursor's point.
     void aufnehmenOderAblegen();
     void rechtsDruecken();
@@ -133,6 +146,8 @@ class BrettFlaeche : public QWidget {
     QPixmap brett_; // the board picture at its current size
     std::optional<std::pair<int, int>> markierung_;
     std::vector<int> tipp_;
+    std::function<std::vector<int>(int)> zielgeber_;
+    std::vector<int> ziele_;
     SvgBild* schwebend_ = nullptr; // the copy that follows the cursor during a drag
     int gezogen_ = -1;
     QPoint griff_;         // cursor offset inside the dragged image

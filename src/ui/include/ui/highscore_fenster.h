@@ -26,6 +26,8 @@ class HighscoreFenster : public QDialog {
 
   protected:
     void changeEvent(QEvent* e) override;
+    void closeEvent(QCloseEvent* e) override;
+    void reject() override;
 
   private:
     void zeileAnlegen(QGridLayout* tabelle, int i);
@@ -34,12 +36,15 @@ class HighscoreFenster : public QDialog {
     QDialogButtonBox* knoepfeAnlegen();
     // "OK": the list goes to its file; a list that cannot be saved stays open, so the name is not lost.
     void speichernUndSchliessen();
+    // A new entry not yet saved is dropped only when the player says so.
+    bool verwerfenErlaubt();
     // The dates and win flags of the rows, in the player's language.
     void zeilenSetzen();
 
     Bestenliste liste_;
     Beschriftung texte_{staticMetaObject};
     std::filesystem::path ordner_;
+    bool entschieden_ = false; // saved, or left unsaved on purpose: closing asks nothing
 };
 
 } // namespace fuh

@@ -25,6 +25,7 @@ class InfoWin : public QDialog {
     // The texts from the title down to the Ok button.
     QLayout* texteAnlegen();
     QLabel* mailAnlegen();
+    void versionSetzen(); // the program's version, in words of the current language
 
     Beschriftung texte_{staticMetaObject};
 };

@@ -30,6 +30,7 @@ struct Ereignis {
         meldung,        // text, a modal message
         speicherfehler, // text, a modal warning
         oeffnen,        // a: window
+        ende,           // a: the reasons, bit n for Endegrund n; b: 1 when the last fox was to be parked
     };
     Art art;
     int a = 0, b = 0, c = 0;
