@@ -10,6 +10,7 @@
 #include <string_view>
 
 #include "board/regeln.h"
+#include "dateischicht/benutzerordner.h"
 #include "dateischicht/dateizugriff.h"
 
 namespace fuh {
@@ -75,6 +76,21 @@ std::optional<Endspielurteil> urteil(const Endspieltafel& t, const meister::Such
 
 std::filesystem::path tafelDatei(const std::filesystem::path& ordner, bool strafregel) {
     return ordner / (strafregel ? "endspiel-strafregel.tafel" : "endspiel.tafel");
+}
+
+std::optional<std::filesystem::path> tafelOrdner() {
+    const auto basis = xdgOrdner("XDG_CACHE_HOME", ".cache");
+    if (!basis) return std::nullopt;
+    return *basis / kProgrammordner;
+}
+
+Endspieltafeln tafelnLaden(const std::filesystem::path& ordner) {
+    Endspieltafeln t;
+    for (const bool strafregel : {true, false})
+        if (auto geladen = tafelLaden(tafelDatei(ordner, strafregel), strafregel))
+            (strafregel ? t.mitStrafregel : t.ohneStrafregel) =
+                std::make_shared<const Endspieltafel>(std::move(*geladen));
+    return t;
 }
 
 std::optional<Endspieltafel> tafelLaden(const std::filesystem::path& datei, bool strafregel, int zeilen) {

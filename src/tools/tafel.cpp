@@ -12,7 +12,6 @@
 #include <thread>
 #include <vector>
 
-#include "dateischicht/benutzerordner.h"
 #include "player/tafel_bau.h"
 #include "tools/ausgabe.h"
 #include "tools/befehlszeile.h"
@@ -63,8 +62,8 @@ fuh::Programm tafelAufruf(TafelOptionen& o) {
 
 fs::path tafelPfad(const TafelOptionen& o) {
     if (!o.datei.empty()) return o.datei;
-    const auto basis = fuh::xdgOrdner("XDG_CACHE_HOME", ".cache");
-    return basis ? fuh::tafelDatei(*basis / fuh::kProgrammordner, !o.ohneStrafregel) : fs::path{};
+    const auto ordner = fuh::tafelOrdner();
+    return ordner ? fuh::tafelDatei(*ordner, !o.ohneStrafregel) : fs::path{};
 }
 
 double sekundenSeit(std::chrono::steady_clock::time_point start) {

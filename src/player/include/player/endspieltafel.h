@@ -9,6 +9,7 @@
 // The two largest distances stand for "this many or more".
 #include <cstdint>
 #include <filesystem>
+#include <memory>
 #include <optional>
 #include <vector>
 
@@ -62,6 +63,19 @@ struct Endspielurteil {
     friend bool operator==(const Endspielurteil&, const Endspielurteil&) = default;
 };
 std::optional<Endspielurteil> urteil(const Endspieltafel& t, const meister::Suchbrett& b, int spielzug);
+
+// Both rule sets' tables: with the penalty rule (the computer plays the hens) and without.
+struct Endspieltafeln {
+    std::shared_ptr<const Endspieltafel> mitStrafregel, ohneStrafregel;
+    const Endspieltafel* fuer(bool strafregel) const {
+        return (strafregel ? mitStrafregel : ohneStrafregel).get();
+    }
+};
+
+// The game's folder in the user's cache folder ($XDG_CACHE_HOME, else ~/.cache), nullopt without one.
+std::optional<std::filesystem::path> tafelOrdner();
+// The tables found sound in `ordner`; a missing or damaged one stays empty.
+Endspieltafeln tafelnLaden(const std::filesystem::path& ordner);
 
 // The table's file in the cache folder `ordner`, one per rule set.
 std::filesystem::path tafelDatei(const std::filesystem::path& ordner, bool strafregel);
