@@ -126,6 +126,26 @@
         <source>%1 „%2“ ist eine symbolische Verknüpfung, die ein anderer Benutzer angelegt oder verändert haben kann; das Spiel schreibt nicht durch sie hindurch.</source>
         <translation>%1 “%2” is a symbolic link that another user may have made or changed; the game does not write through it.</translation>
     </message>
+    <message>
+        <source>Die Hennen gewinnen in %1 Zügen</source>
+        <translation>The hens win in %1 moves</translation>
+    </message>
+    <message>
+        <source>Die Füchse gewinnen in %1 Zügen</source>
+        <translation>The foxes win in %1 moves</translation>
+    </message>
+    <message>
+        <source>Die Hennen gewinnen mit diesem Zug</source>
+        <translation>The hens win with this move</translation>
+    </message>
+    <message>
+        <source>Die Füchse gewinnen mit diesem Zug</source>
+        <translation>The foxes win with this move</translation>
+    </message>
+    <message>
+        <source>Remis</source>
+        <translation>Draw</translation>
+    </message>
 </context>
 <context>
     <name>datenordner</name>

@@ -100,8 +100,7 @@ void Schichtloeser::erkunden(uint32_t von, uint32_t bis, Kinder& k) {
         meister::nachfolger(
             ix_.stellung(global(p)), ix_.strafregel(), zuege.data(), b, [&](const Suchbrett& kind) {
                 const auto l = ix_.zerlege(kind);
-                const int32_t m =
-                    std::popcount(l->hennen) == s_.hennen ? lokal_[TafelIndex::rang(l->hennen)] : -1;
+                const int32_t m = kind.hennen == s_.hennen ? lokal_[TafelIndex::rang(l->hennen)] : -1;
                 if (m >= 0)
                     hier.push_back(
                         static_cast<uint32_t>((m * lagen_ + l->fuechse) * 2 + (kind.fuchsAmZug ? 1 : 0)));

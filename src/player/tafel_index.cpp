@@ -15,29 +15,40 @@ struct Kreuz {
     std::array<int8_t, kKreuzfelder> feld{}; // square of each cross number
     std::array<int8_t, kQuadrate> nummer{};  // cross number of each square, -1 off the cross
     std::array<std::array<uint64_t, kKreuzfelder + 1>, kKreuzfelder + 1> binom{};
-    Kreuz() {
-        int n = 0;
-        for (int s = 0; s < kQuadrate; ++s) {
-            nummer[s] = static_cast<int8_t>(linien().kreuz[s] ? n : -1);
-            if (linien().kreuz[s]) feld[n++] = static_cast<int8_t>(s);
-        }
-        for (int a = 0; a <= kKreuzfelder; ++a) {
-            binom[a][0] = 1;
-            for (int b = 1; b <= a; ++b)
-                binom[a][b] = binom[a - 1][b - 1] + (b <= a - 1 ? binom[a - 1][b] : 0);
-        }
-    }
 };
-const Kreuz& kreuz() {
-    static const Kreuz k;
+// Built at compile time: the index is asked at every position the builder and the search visit.
+constexpr Kreuz baueKreuz() {
+    Kreuz k;
+    int n = 0;
+    for (int s = 0; s < kQuadrate; ++s) {
+        const bool auf = aufKreuz(s % 7, s / 7);
+        k.nummer[s] = static_cast<int8_t>(auf ? n : -1);
+        if (auf) k.feld[n++] = static_cast<int8_t>(s);
+    }
+    for (int a = 0; a <= kKreuzfelder; ++a) {
+        k.binom[a][0] = 1;
+        for (int b = 1; b <= a; ++b)
+            k.binom[a][b] = k.binom[a - 1][b - 1] + (b <= a - 1 ? k.binom[a - 1][b] : 0);
+    }
     return k;
+}
+constexpr Kreuz kKreuz = baueKreuz();
+constexpr const Kreuz& kreuz() {
+    return kKreuz;
+}
+
+// Bits set, without a library call on machines whose baseline lacks an instruction for it.
+constexpr int bitzahl(uint32_t v) {
+    v = v - ((v >> 1) & 0x55555555u);
+    v = (v & 0x33333333u) + ((v >> 2) & 0x33333333u);
+    return static_cast<int>((((v + (v >> 4)) & 0x0F0F0F0Fu) * 0x01010101u) >> 24);
 }
 
 // Place of a fox's square among the empty cross squares.
 uint64_t leerRang(int feld, Hennenmaske hennen) {
     const int c = kreuz().nummer[feld];
     const Hennenmaske davor = c >= kKlassenfelder ? hennen : hennen & ((1u << c) - 1);
-    return static_cast<uint64_t>(c - std::popcount(davor));
+    return static_cast<uint64_t>(c - bitzahl(davor));
 }
 
 } // namespace
@@ -78,13 +89,13 @@ Hennenmaske TafelIndex::maske(const Suchbrett& b) const {
 }
 
 uint64_t TafelIndex::nummer(Hennenmaske hennen, uint64_t fuchslage, bool fuchsAmZug) const {
-    const int k = std::popcount(hennen);
+    const int k = bitzahl(hennen);
     return 2 * (anfang_[k] + rang(hennen) * fuchslagen(k) + fuchslage) + (fuchsAmZug ? 1 : 0);
 }
 
 std::optional<TafelIndex::Lage> TafelIndex::zerlege(const Suchbrett& b) const {
     const Hennenmaske m = maske(b);
-    const int k = std::popcount(m);
+    const int k = bitzahl(m);
     if (k != b.hennen || k < kZielfelder) return std::nullopt;
     const int8_t f0 = b.fuchsFeld[0], f1 = b.fuchsFeld[1];
     if (f0 < 0 || f1 < 0) return std::nullopt;
@@ -138,7 +149,7 @@ Suchbrett TafelIndex::stellung(uint64_t i) const {
     }
     Brettfeld Feld{};
     for (int s = 0; s < kQuadrate; ++s)
-        Feld[s % 7][s / 7] = linien().kreuz[s] ? leer : 0;
+        Feld[s % 7][s / 7] = kreuz().nummer[s] >= 0 ? leer : 0;
     for (int j = 0; j < felder_; ++j)
         if (m & (1u << j)) Feld[kreuz().feld[j] % 7][kreuz().feld[j] / 7] = henne;
     Feld[a % 7][a / 7] = fuchs;

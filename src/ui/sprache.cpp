@@ -130,7 +130,8 @@ QString kernText(const QString& text) {
     const Teil gleich = [](const QString& w) { return w; };
     if (auto t = nachVorlage(text, kLinkHinweis, kernText)) return *t; // a message, then the link's sentence
     if (auto t = nachVorlage(text, kSchreibfehlerMehrere, dateiliste)) return *t;
-    for (const char* vorlage : {kSchreibfehler, kPunkteText, kStaerkeStatustext})
+    for (const char* vorlage :
+         {kSchreibfehler, kPunkteText, kStaerkeStatustext, kTippHennenGewinnen, kTippFuechseGewinnen})
         if (auto t = nachVorlage(text, vorlage, gleich)) return *t;
     return text;
 }
