@@ -99,7 +99,7 @@ void Schichtloeser::erkunden(uint32_t von, uint32_t bis, Kinder& k) {
         hier.clear();
         meister::nachfolger(
             ix_.stellung(global(p)), ix_.strafregel(), zuege.data(), b, [&](const Suchbrett& kind) {
-                const auto l = ix_.zerlege(kind);
+                const auto l = ix_.zerlege(kind); // the class is closed: every successor lies in it
                 const int32_t m = kind.hennen == s_.hennen ? lokal_[TafelIndex::rang(l->hennen)] : -1;
                 if (m >= 0)
                     hier.push_back(

@@ -15,9 +15,16 @@
 
 namespace fuh::meister {
 
-inline constexpr int kKlassenzeilen = 4;  // rows 0..3; fewer rows make a smaller class that is closed too
-inline constexpr int kKlassenfelder = 20; // the cross squares of rows 0..3, the first in square order
-inline constexpr int kKreuzfelder = 33;
+inline constexpr int kKlassenzeilen = 4; // rows 0..3; fewer rows make a smaller class that is closed too
+// The cross squares below row `zeilen`: in square order they come first.
+constexpr int kreuzfelderBis(int zeilen) {
+    int n = 0;
+    for (int s = 0; s < feldNummer(0, zeilen); ++s)
+        n += aufKreuz(feldX(s), feldY(s));
+    return n;
+}
+inline constexpr int kKlassenfelder = kreuzfelderBis(kKlassenzeilen);
+inline constexpr int kKreuzfelder = kreuzfelderBis(7);
 
 // Hens of the class: bit i stands for the i-th cross square in square order.
 using Hennenmaske = uint32_t;
