@@ -39,8 +39,8 @@ void Spiel::endspieltafeln(Endspieltafeln t) {
 std::string Spiel::tippUrteil() const {
     const Endspieltafel* tafel = tafeln_.fuer(strafregelGilt());
     if (!tippMoeglich() || !tafel) return {};
-    const auto u =
-        urteil(*tafel, meister::Suchbrett::aus(z_.stellung.Feld, z_.amZug == Seite::Fuchs), z_.partie.spielzug);
+    const auto u = urteil(*tafel, meister::Suchbrett::aus(z_.stellung.Feld, z_.amZug == Seite::Fuchs),
+                          z_.partie.spielzug);
     if (!u) return {};
     if (u->ergebnis == Ergebnis::remis) return kTippRemis;
     const bool hennen = u->ergebnis == Ergebnis::hennen;

@@ -54,7 +54,8 @@ int main(int argc, char* argv[]) {
         if (!ordner) return;
         auto geladen = std::make_shared<const fuh::Endspieltafeln>(fuh::tafelnLaden(*ordner));
         QMetaObject::invokeMethod(
-            &fenster, [&fenster, geladen] { fenster.spiel().endspieltafeln(*geladen); }, Qt::QueuedConnection);
+            &fenster, [&fenster, geladen] { fenster.spiel().endspieltafeln(*geladen); },
+            Qt::QueuedConnection);
     });
     fenster.fortsetzenAnbieten(fuh::partieOrdnerStandard().value_or(std::filesystem::path()));
     if (fuh::beendenVerlangt()) return 0; // ended while asking; the window keeps the game as it goes
