@@ -6,7 +6,7 @@
 BUILD ?= build
 JOBS ?= $(shell nproc 2>/dev/null || echo 2)
 
-.PHONY: run test build deps sanitize bench soak fuzz clean format package match
+.PHONY: run test build deps sanitize bench soak fuzz clean format package match tafel
 
 deps:
 	@scripts/install-deps
@@ -42,6 +42,12 @@ bench: build
 # The Meister against strength 3 on each side: 200 games each with fixed seeds, and its time per move.
 match: build
 	$(BUILD)/src/tools/match --spiele 200
+
+# The Meister's exact endgame tables, with and without the penalty rule, into the user's cache folder
+# ($XDG_CACHE_HOME/fuchs-und-hennen, else ~/.cache/fuchs-und-hennen); the game reads them at its next start.
+tafel: build
+	$(BUILD)/src/tools/tafel
+	$(BUILD)/src/tools/tafel --ohne-strafregel
 
 # 10 000 learning games at strength 3 in one folder; checks the files and prints time and resident memory.
 soak: build

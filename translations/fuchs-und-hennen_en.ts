@@ -170,6 +170,26 @@
         <source>Die Datei „%1“ kann nicht gelesen werden.</source>
         <translation>The file “%1” cannot be read.</translation>
     </message>
+    <message>
+        <source>Die Hennen gewinnen in %1 Zügen</source>
+        <translation>The hens win in %1 moves</translation>
+    </message>
+    <message>
+        <source>Die Füchse gewinnen in %1 Zügen</source>
+        <translation>The foxes win in %1 moves</translation>
+    </message>
+    <message>
+        <source>Die Hennen gewinnen mit diesem Zug</source>
+        <translation>The hens win with this move</translation>
+    </message>
+    <message>
+        <source>Die Füchse gewinnen mit diesem Zug</source>
+        <translation>The foxes win with this move</translation>
+    </message>
+    <message>
+        <source>Remis</source>
+        <translation>Draw</translation>
+    </message>
 </context>
 <context>
     <name>datenordner</name>

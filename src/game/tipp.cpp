@@ -7,6 +7,7 @@
 
 #include "dateischicht/satzdatei.h"
 #include "game/spiel.h"
+#include "game/texte.h"
 
 namespace fuh {
 
@@ -27,6 +28,24 @@ Zugwahl Spiel::tipp() {
     Meister* sucher = meister(spieler(gegner(z_.amZug)), meisterTipp_);
     if (z_.amZug == Seite::Hennen) return hennenWahl(erinnerung, tippZufall_, sucher);
     return fuchsWahl(erinnerung, tippZufall_, sucher);
+}
+
+void Spiel::endspieltafeln(Endspieltafeln t) {
+    tafeln_ = std::move(t);
+    for (auto* m : {&meisterHennen_, &meisterFuchs_, &meisterTipp_})
+        if (*m) (*m)->endspieltafeln(tafeln_);
+}
+
+std::string Spiel::tippUrteil() const {
+    const Endspieltafel* tafel = tafeln_.fuer(strafregelGilt());
+    if (!tippMoeglich() || !tafel) return {};
+    const auto u = urteil(*tafel, meister::Suchbrett::aus(z_.stellung.Feld, z_.amZug == Seite::Fuchs),
+                          z_.partie.spielzug);
+    if (!u) return {};
+    if (u->ergebnis == Ergebnis::remis) return kTippRemis;
+    const bool hennen = u->ergebnis == Ergebnis::hennen;
+    if (u->plies == 1) return hennen ? kTippHennenGewinnenJetzt : kTippFuechseGewinnenJetzt;
+    return einsetzen(hennen ? kTippHennenGewinnen : kTippFuechseGewinnen, {std::to_string(u->plies)});
 }
 
 } // namespace fuh

@@ -28,7 +28,10 @@ void Spiel::strafeAnwenden(const Strafe& strafe) {
 Meister* Spiel::meister(const std::optional<Spieler>& seite, std::unique_ptr<Meister>& instanz) {
     // A replayed game's choices are given: no search is set up for them.
     if (vorgabe_ || !seite || !seite->meister) return nullptr;
-    if (!instanz) instanz = std::make_unique<Meister>(spielerwahl_.meisterSeed);
+    if (!instanz) {
+        instanz = std::make_unique<Meister>(spielerwahl_.meisterSeed);
+        instanz->endspieltafeln(tafeln_);
+    }
     return instanz.get();
 }
 
@@ -44,11 +47,14 @@ Zugwahl Spiel::hennenWahl(const Erinnerung& erinnerung, Zufall& zufall, Meister*
 
 Zugwahl Spiel::fuchsWahl(const Erinnerung& erinnerung, Zufall& zufall, Meister* meister) {
     if (vorgabe_) return vorgabe_->wahl(Seite::Fuchs);
-    const bool strafe = computerSpielt(Seite::Hennen) && z_.oeff.einst.Einzelzug == 0;
     if (meister)
         return meister->berechne(
-            {z_.stellung.Feld, fuchs, z_.partie.spielzug, strafe, spielerwahl_.bedenkzeit});
+            {z_.stellung.Feld, fuchs, z_.partie.spielzug, strafregelGilt(), spielerwahl_.bedenkzeit});
     return berechneFuchs(z_.stellung.Feld, erinnerung, zufall);
+}
+
+bool Spiel::strafregelGilt() const {
+    return computerSpielt(Seite::Hennen) && z_.oeff.einst.Einzelzug == 0;
 }
 
 void Spiel::hennenZiehen() {

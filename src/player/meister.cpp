@@ -61,6 +61,7 @@ Zugwahl Meister::berechne(const MeisterLage& lage) {
     a.budget = std::clamp(lage.bedenkzeit, kKuerzesteBedenkzeit, kLaengsteBedenkzeit);
     a.knotenGrenze = knotenGrenze_;
     a.tiefenGrenze = tiefenGrenze_;
+    a.tafel = tafeln_.fuer(a.strafregel);
 
     const meister::Ergebnis e = suche_->wurzel(a, zufall_);
     bericht_ = Bericht{e.tiefe, e.wert, e.knoten};

@@ -131,6 +131,10 @@ void Suche::speichere(const Suchbrett& b, const Suchzug& z, int wert, Grenze art
 }
 
 int Suche::ab(const Suchbrett& b, int tiefe, int alpha, int beta, int ply, int spielzug) {
+    if (int wert = 0; auftrag_.tafel && tafelWert(b, ply, spielzug, wert)) {
+        ++knoten_;
+        return wert;
+    }
     if (tiefe <= 0 || ply >= kPlies - 1) return ruhe(b, alpha, beta, ply, spielzug);
     ++knoten_;
     if (zeitUm()) return 0;
@@ -227,6 +231,7 @@ Ergebnis Suche::wurzel(const Auftrag& a, Zufall& zufall) {
     erg.gefunden = true;
     erg.zug = zuege_[0][0];
     if (n == 1) return erg;
+    if (auftrag_.tafel && tafelzug(n, erg)) return erg;
     for (int tiefe = 1; tiefe < kPlies - 1; ++tiefe) {
         const int wert = iteration(tiefe, n, -kUnendlich, kUnendlich);
         if (wert > -kUnendlich) {

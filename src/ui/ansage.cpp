@@ -124,9 +124,10 @@ void Ansage::abschliessen() {
     sagen(satz);
 }
 
-void Ansage::tipp(const std::vector<int>& felder) {
+void Ansage::tipp(const std::vector<int>& felder, const QString& urteil) {
     const int k = felder.empty() ? -1 : brett_.figurAuf(felder.front());
     if (k >= 0) sagen(tr("Tipp: %1").arg(zugSatz(BrettFlaeche::istFuchs(k), felder)));
+    if (k >= 0 && !urteil.isEmpty()) sagen(kernText(urteil));
 }
 
 QString Ansage::zugSatz(bool fuchs, const std::vector<int>& felder) const {

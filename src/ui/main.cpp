@@ -7,11 +7,14 @@
 #include <QFile>
 #include <QFileInfo>
 #include <filesystem>
+#include <memory>
+#include <thread>
 #include <unistd.h>
 
 #include <cerrno>
 
 #include "game/partiedatei.h"
+#include "game/spiel.h"
 #include "ui/beendigung.h"
 #include "ui/brett_fenster.h"
 #include "ui/datenordner.h"
@@ -50,6 +53,16 @@ int main(int argc, char* argv[]) {
 
     fuh::BrettFenster fenster(std::filesystem::current_path());
     fenster.show();
+    // The endgame tables (built by `tafel`) are read in the background; until then, and without them,
+    // the Meister searches. The thread is joined before the window goes.
+    std::jthread tafeln([&fenster] {
+        const auto ordner = fuh::tafelOrdner();
+        if (!ordner) return;
+        auto geladen = std::make_shared<const fuh::Endspieltafeln>(fuh::tafelnLaden(*ordner));
+        QMetaObject::invokeMethod(
+            &fenster, [&fenster, geladen] { fenster.spiel().endspieltafeln(*geladen); },
+            Qt::QueuedConnection);
+    });
     fenster.fortsetzenAnbieten(fuh::partieOrdnerStandard().value_or(std::filesystem::path()));
     if (fuh::beendenVerlangt()) return 0; // ended while asking; the window keeps the game as it goes
     if (!partie.isEmpty()) fenster.partieOeffnen(QFile::encodeName(partie).toStdString());

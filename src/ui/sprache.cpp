@@ -133,7 +133,8 @@ QString kernText(const QString& text) {
     if (auto t = nachVorlage(text, kSchreibfehlerMehrere, dateiliste)) return *t;
     for (const char* vorlage :
          {kSchreibfehler, kPunkteText, kStaerkeStatustext, kAngabeUnbekannt, kZeileUnlesbar,
-          kZeileAbgeschnitten, kAngabeFehlt, kZugVerboten, kErgebnisFalsch, kPartieUnlesbar})
+          kZeileAbgeschnitten, kAngabeFehlt, kZugVerboten, kErgebnisFalsch, kPartieUnlesbar,
+          kTippHennenGewinnen, kTippFuechseGewinnen})
         if (auto t = nachVorlage(text, vorlage, gleich)) return *t;
     return text;
 }

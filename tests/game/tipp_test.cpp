@@ -2,7 +2,9 @@
 //
 // SPDX-License-Identifier: GPL-3.0-or-later
 
+#include "leeres_kreuz.h"
 #include "player/hennenspieler.h"
+#include "player/tafel_bau.h"
 #include "spiel_fixture.h"
 
 namespace fuh {
@@ -68,6 +70,45 @@ TEST_F(SpielTest, TippIstDerZugDesComputers) {
     EXPECT_TRUE(spiel.tippMoeglich());
     einstellen(2, 0); // the computer takes both sides
     EXPECT_FALSE(spiel.tippMoeglich());
+}
+
+// In an endgame the table knows, the hint names its outcome with the move limit applied. The table is of
+// the small class of hens in the upper three rows, for the rules of a person's hens (no penalty rule).
+TEST_F(SpielTest, TippNenntImEndspielDenAusgang) {
+    ini(0);
+    spiel.programmStart(3);
+    spiel.neuesSpiel();
+    const auto tafel = std::make_shared<const Endspieltafel>(tafelBauen(false, 2, 3));
+    spiel.endspieltafeln({tafel, nullptr}); // only for the penalty rule, which does not apply here
+    Sicherung s = spiel.sicherung();
+    EXPECT_EQ(spiel.tippUrteil(), "");
+    spiel.endspieltafeln({nullptr, tafel});
+    EXPECT_EQ(spiel.tippUrteil(), ""); // the opening is outside the class
+    // Eight hens in the target, one on the left arm of row 2, the foxes far below: the hens win.
+    Stellung& st = s.stand.stellung;
+    st = test::leeresKreuz();
+    int k = 0;
+    auto setze = [&st, &k](int x, int y, int16_t code) {
+        st.Feld[x][y] = code;
+        st.figurplatz[k++] = static_cast<int16_t>(feldNummer(x, y));
+    };
+    setze(3, 5, fuchs);
+    setze(3, 6, fuchs);
+    for (const auto& [x, y] :
+         {std::pair{2, 0}, {3, 0}, {4, 0}, {2, 1}, {3, 1}, {4, 1}, {3, 2}, {4, 2}, {0, 2}})
+        setze(x, y, henne);
+    for (const auto& [spielzug, urteil] :
+         {std::pair{100, "Die Hennen gewinnen in 3 Zügen"}, {146, "Remis"}}) {
+        s.stand.partie.spielzug = static_cast<int16_t>(spielzug);
+        spiel.fortsetzen(s);
+        EXPECT_EQ(spiel.tippUrteil(), urteil) << spielzug;
+    }
+    st.Feld[0][2] = leer;
+    st.Feld[1][2] = henne;
+    st.figurplatz[k - 1] = static_cast<int16_t>(feldNummer(1, 2));
+    s.stand.partie.spielzug = 147;
+    spiel.fortsetzen(s);
+    EXPECT_EQ(spiel.tippUrteil(), "Die Hennen gewinnen mit diesem Zug");
 }
 
 } // namespace

@@ -83,6 +83,11 @@ class Spiel {
     // source, so asking never changes the game. Empty when there is nothing to advise (see tippMoeglich).
     Zugwahl tipp();
     bool tippMoeglich() const;
+    // With the hint, in an endgame the table knows: the exact outcome for the rules in force ("Die
+    // Hennen gewinnen in 7 Zügen", "Remis"). Empty otherwise.
+    std::string tippUrteil() const;
+    // The exact endgame tables the Meister looks positions up in; none until the window hands them over.
+    void endspieltafeln(Endspieltafeln t);
 
     // The settings dialog confirmed: the settings take effect at once (no new game); when the computer
     // now plays the side to move, it moves at its next turn.
@@ -200,6 +205,10 @@ class Spiel {
     std::optional<Einstellungen> festeEinstellungen_;
     Spielerwahl spielerwahl_;
     std::unique_ptr<Meister> meisterHennen_, meisterFuchs_, meisterTipp_;
+    Endspieltafeln tafeln_;
+    // The game applies the penalty rule to the foxes when the computer plays the hens, except in
+    // single-move mode.
+    bool strafregelGilt() const;
     const std::optional<Spieler>& spieler(Seite s) const {
         return s == Seite::Fuchs ? spielerwahl_.fuchs : spielerwahl_.hennen;
     }

@@ -15,6 +15,16 @@ inline constexpr const char* kFuchsGewinntOhneZug = FUH_TR_NOOP("Kern", "Der Fuc
 inline constexpr const char* kRemisZiel =
     FUH_TR_NOOP("Kern", "Remis: Die Hennen können ihr Ziel nicht erreichen.");
 
+// The hint's exact verdict in an endgame the table knows; %1 is the number of moves of both sides
+// until the game ends.
+inline constexpr const char* kTippHennenGewinnen = FUH_TR_NOOP("Kern", "Die Hennen gewinnen in %1 Zügen");
+inline constexpr const char* kTippFuechseGewinnen = FUH_TR_NOOP("Kern", "Die Füchse gewinnen in %1 Zügen");
+inline constexpr const char* kTippHennenGewinnenJetzt =
+    FUH_TR_NOOP("Kern", "Die Hennen gewinnen mit diesem Zug");
+inline constexpr const char* kTippFuechseGewinnenJetzt =
+    FUH_TR_NOOP("Kern", "Die Füchse gewinnen mit diesem Zug");
+inline constexpr const char* kTippRemis = FUH_TR_NOOP("Kern", "Remis");
+
 // Panel 3; %1 is the number of points, empty while there are none.
 inline constexpr const char* kPunkteText = FUH_TR_NOOP("Kern", "Punkte: %1");
 

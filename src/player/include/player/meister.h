@@ -12,6 +12,7 @@
 
 #include "board/stellung.h"
 #include "board/zufall.h"
+#include "player/endspieltafel.h"
 #include "player/meister_bewertung.h"
 #include "player/zugwahl.h"
 
@@ -49,6 +50,9 @@ class Meister {
     // positions in place of the time (the same move on every machine), and a depth to stop at (0: none).
     void grenzen(uint64_t knoten, int tiefe);
     void gewichte(const meister::Gewichte& g);
+    // Exact values inside the endgame class: where its table for the game's rules is given, the Meister
+    // looks positions up instead of searching them, and plays the table's best move.
+    void endspieltafeln(Endspieltafeln t) { tafeln_ = std::move(t); }
 
     struct Bericht {
         int tiefe = 0;       // the deepest search completed
@@ -63,6 +67,7 @@ class Meister {
     Bericht bericht_;
     uint64_t knotenGrenze_ = 0;
     int tiefenGrenze_ = 0;
+    Endspieltafeln tafeln_;
     std::optional<bool> letzteSeite_; // the side the table was filled for: true the foxes
 };
 

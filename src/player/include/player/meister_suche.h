@@ -10,6 +10,7 @@
 #include <cstdint>
 
 #include "board/zufall.h"
+#include "player/endspieltafel.h"
 #include "player/meister_bewertung.h"
 #include "player/meister_brett.h"
 #include "player/meister_zeit.h"
@@ -31,6 +32,7 @@ struct Auftrag {
     std::chrono::microseconds budget{0};
     uint64_t knotenGrenze = 0; // instead of the clock, when not 0
     int tiefenGrenze = 0;
+    const Endspieltafel* tafel = nullptr; // the exact values inside the endgame class, for these rules
 };
 
 struct Ergebnis {
@@ -53,6 +55,8 @@ class Suche {
     int ruhe(const Suchbrett& b, int alpha, int beta, int ply, int spielzug);
     int iteration(int tiefe, int n, int alpha, int beta);
     bool nachZug(const Suchbrett& kind, Folge folge, int spielzug, int ply, int& wert) const;
+    bool tafelWert(const Suchbrett& b, int ply, int spielzug, int& wert) const;
+    bool tafelzug(int n, Ergebnis& erg);
     int remis(bool fuchsAmZug) const { return fuchsAmZug == wurzelFuchs_ ? -kKontempt : kKontempt; }
     int statisch(const Suchbrett& b, int spielzug) const;
     void ordne(const Suchbrett& b, int ply, int n, const Eintrag* e);

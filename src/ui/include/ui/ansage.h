@@ -28,8 +28,9 @@ class Ansage : public Statustext {
     // One report of the game, at the moment it is shown. The jumps of one computer piece are collected
     // into one sentence ("Fuchs c5 nach c3 nach e3"), said when anything else is shown or all is shown.
     void ereignis(const Ereignis& e);
-    // A suggested move (origin, then each landing square), said as the computer's moves are.
-    void tipp(const std::vector<int>& felder);
+    // A suggested move (origin, then each landing square), said as the computer's moves are, and the
+    // game's exact verdict on the endgame when it knows one (German, translated here).
+    void tipp(const std::vector<int>& felder, const QString& urteil = {});
     // Said when control returns to the event loop, together with whatever else is said until then;
     // shown in the field as well unless `zeigen` is false for all of it (a text the window shows
     // elsewhere already).
