@@ -1,0 +1,61 @@
+// SPDX-FileCopyrightText: 2026 The Fuchs und Hennen authors
+//
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// The line under the board in both languages: every reason an end can have, the move counter and the
+// warning before the limit, rewritten at once when the language changes.
+#include <QTest>
+
+#include "ui/lagefeld.h"
+#include "ui/sprache.h"
+
+using namespace fuh;
+
+class LagefeldTest : public QObject {
+    Q_OBJECT
+  private slots:
+    void endeUndZaehlerInBeidenSprachen() {
+        const struct {
+            Endegrund grund;
+            bool letzterFuchs;
+            const char *deutsch, *englisch;
+        } faelle[] = {
+            {Endegrund::hennenImZiel, false, "Spielende: Die Hennen besetzen alle 9 Zielfelder.",
+             "Game over: The hens occupy all 9 target points."},
+            {Endegrund::zuWenigHennen, false,
+             "Spielende: Weniger als 9 Hennen sind übrig; sie können das Ziel nicht mehr füllen.",
+             "Game over: Fewer than 9 hens are left; they can no longer fill the target."},
+            {Endegrund::hennenOhneZug, false, "Spielende: Die Hennen können nicht mehr ziehen.",
+             "Game over: The hens cannot move any more."},
+            {Endegrund::fuchsOhneZug, false, "Spielende: Die Füchse können nicht mehr ziehen.",
+             "Game over: The foxes cannot move any more."},
+            {Endegrund::fuchsOhneZug, true,
+             "Spielende: Der letzte Fuchs auf dem Brett wäre ausgeschlossen worden.",
+             "Game over: The last fox on the board would have been taken off."},
+            {Endegrund::zugbegrenzung, false, "Spielende: Die Zugbegrenzung von 149 Zügen ist erreicht.",
+             "Game over: The move limit of 149 moves has been reached."},
+        };
+        Lagefeld lage;
+        for (const auto& f : faelle) {
+            spracheSetzen(Sprache::deutsch, false);
+            QCoreApplication::processEvents();
+            lage.ende(static_cast<uint8_t>(1U << static_cast<unsigned>(f.grund)), f.letzterFuchs);
+            QCOMPARE(lage.text(), QString::fromUtf8(f.deutsch));
+            spracheSetzen(Sprache::englisch, false);
+            QTRY_COMPARE(lage.text(), QString::fromUtf8(f.englisch));
+        }
+        // The counter and the warning ten moves before the limit, in English too.
+        Lage l;
+        l.begonnen = l.laeuft = true;
+        l.amZug = Lage::Zug::mensch;
+        l.spielzug = 139;
+        QCOMPARE(lage.setzen(l), QStringLiteral("Your move: hens. 10 moves left before the draw"));
+        QVERIFY2(lage.text().contains(QStringLiteral("Move 139 of 149")), qPrintable(lage.text()));
+        spracheSetzen(Sprache::deutsch, false);
+        QTRY_VERIFY2(lage.text().contains(QStringLiteral("Zug 139 von 149 · Noch 10 Züge bis zum Remis")),
+                     qPrintable(lage.text()));
+    }
+};
+
+QTEST_MAIN(LagefeldTest)
+#include "lagefeld_test.moc"
