@@ -13,62 +13,72 @@ bool geparkt(const Spielstand& z) {
     return z.stellung.Feld[0][0] == fuchs;
 }
 
+// What the runs reached: moves taken back, chains of jumps among them, penalties.
+struct Erreicht {
+    int zuruecknahmen = 0, ketten = 0, strafen = 0;
+};
+
+// One game of a random player against the computer; every move is taken back, redone, taken back and
+// made anew (see below).
+void partieMitZuruecknahmen(int16_t PC, int16_t Staerke, uint32_t seed, Erreicht& erreicht) {
+    TempOrdner ordner;
+    TestAnsicht ansicht;
+    Zufall zufall(seed), mensch(seed * 7);
+    Spiel spiel(ansicht, zufall, ordner.pfad());
+    spiel.einstellungenFestlegen({PC, Staerke, 1, 0});
+    spiel.neuesSpiel();
+    while (!spiel.endeGefunden()) {
+        const Spielstand vorher = spiel.zustand();
+        const std::vector<Aktion> zug = menschZieht(spiel, mensch);
+        if (zug.empty() || spiel.endeGefunden()) break;
+        spiel.computerZieht();
+        if (spiel.endeGefunden()) break;
+        const Spielstand nachher = spiel.zustand();
+        const auto bytes = dateien(ordner);
+
+        ASSERT_TRUE(spiel.zuruecknehmenMoeglich());
+        spiel.zuruecknehmen();
+        Spielstand erwartet = vorher;
+        erwartet.zurueckgenommen = true;
+        ASSERT_TRUE(spiel.zustand() == erwartet)
+            << "seed " << seed << ", position " << vorher.partie.spielzug;
+        ASSERT_EQ(dateien(ordner), bytes);
+
+        // Redo brings the move and the reply back exactly; then take them back again.
+        erwartet = nachher;
+        erwartet.zurueckgenommen = true;
+        ASSERT_TRUE(spiel.wiederholenMoeglich());
+        spiel.wiederholen();
+        ASSERT_TRUE(spiel.zustand() == erwartet);
+        ASSERT_FALSE(spiel.wiederholenMoeglich());
+        spiel.zuruecknehmen();
+
+        for (const Aktion& a : zug)
+            ausfuehren(spiel, a);
+        spiel.computerZieht();
+        ASSERT_FALSE(spiel.wiederholenMoeglich()); // a move made anew: nothing to redo
+        ASSERT_TRUE(spiel.zustand() == erwartet)
+            << "seed " << seed << ", position " << vorher.partie.spielzug;
+        ++erreicht.zuruecknahmen;
+        erreicht.ketten += zug.size() >= 2; // jumps closed by the right button
+        erreicht.strafen += geparkt(vorher) != geparkt(nachher);
+    }
+}
+
 // A random player against the computer on either side, learning at every strength: before each of its
 // moves the whole game is copied. The move (a fox's whole chain of jumps) and the computer's reply are
 // taken back, which must give that copy again and write no file; making the same move again must give
 // the same game as the first time, random draws included, and so must redoing it.
 TEST(Zuruecknahme, StelltDenGanzenStandHerUndDieselbenZuegeFolgen) {
-    int ketten = 0, strafen = 0, zuruecknahmen = 0;
+    Erreicht erreicht;
     for (int16_t PC : {0, 1})
         for (int16_t Staerke : {0, 2})
-            for (uint32_t seed : {11u, 12u, 13u, 14u}) {
-                TempOrdner ordner;
-                TestAnsicht ansicht;
-                Zufall zufall(seed), mensch(seed * 7);
-                Spiel spiel(ansicht, zufall, ordner.pfad());
-                spiel.einstellungenFestlegen({PC, Staerke, 1, 0});
-                spiel.neuesSpiel();
-                while (!spiel.endeGefunden()) {
-                    const Spielstand vorher = spiel.zustand();
-                    const std::vector<Aktion> zug = menschZieht(spiel, mensch);
-                    if (zug.empty() || spiel.endeGefunden()) break;
-                    spiel.computerZieht();
-                    if (spiel.endeGefunden()) break;
-                    const Spielstand nachher = spiel.zustand();
-                    const auto bytes = dateien(ordner);
-
-                    ASSERT_TRUE(spiel.zuruecknehmenMoeglich());
-                    spiel.zuruecknehmen();
-                    Spielstand erwartet = vorher;
-                    erwartet.zurueckgenommen = true;
-                    ASSERT_TRUE(spiel.zustand() == erwartet)
-                        << "seed " << seed << ", position " << vorher.partie.spielzug;
-                    ASSERT_EQ(dateien(ordner), bytes);
-
-                    // Redo brings the move and the reply back exactly; then take them back again.
-                    erwartet = nachher;
-                    erwartet.zurueckgenommen = true;
-                    ASSERT_TRUE(spiel.wiederholenMoeglich());
-                    spiel.wiederholen();
-                    ASSERT_TRUE(spiel.zustand() == erwartet);
-                    ASSERT_FALSE(spiel.wiederholenMoeglich());
-                    spiel.zuruecknehmen();
-
-                    for (const Aktion& a : zug)
-                        ausfuehren(spiel, a);
-                    spiel.computerZieht();
-                    ASSERT_FALSE(spiel.wiederholenMoeglich()); // a move made anew: nothing to redo
-                    ASSERT_TRUE(spiel.zustand() == erwartet)
-                        << "seed " << seed << ", position " << vorher.partie.spielzug;
-                    ++zuruecknahmen;
-                    ketten += zug.size() >= 2; // jumps closed by the right button
-                    strafen += geparkt(vorher) != geparkt(nachher);
-                }
-            }
+            for (uint32_t seed : {11u, 12u, 13u, 14u})
+                ASSERT_NO_FATAL_FAILURE(partieMitZuruecknahmen(PC, Staerke, seed, erreicht));
     // The runs reach what the test is about.
-    EXPECT_GT(zuruecknahmen, 200);
-    EXPECT_GT(ketten, 0);
-    EXPECT_GT(strafen, 2);
+    EXPECT_GT(erreicht.zuruecknahmen, 200);
+    EXPECT_GT(erreicht.ketten, 0);
+    EXPECT_GT(erreicht.strafen, 2);
 }
 
 // A chain of two jumps and the computer's reply are one move: taking it back restores the game as it

@@ -7,20 +7,13 @@
 #include <QApplication>
 #include <QMessageBox>
 #include <QPointer>
-#include <QScrollBar>
 #include <QSignalSpy>
 #include <QTest>
-#include <QTextBrowser>
 #include <QTimer>
-#include <algorithm>
 #include <vector>
 
 #include "fenster_aufbau.h"
 #include "ui/ansage.h"
-#include "ui/einst_dialog.h"
-#include "ui/highscore_fenster.h"
-#include "ui/hilfe_fenster.h"
-#include "ui/info_win.h"
 #include "ui/stat_form.h"
 #include "versetzen.h"
 
@@ -44,11 +37,30 @@ void sprungVorbereiten(Aufbau& a) {
     QCoreApplication::processEvents(); // the window shows the position it was given
 }
 
-// Visible windows of type W belonging to the main window.
-template <class W> int offene(BrettFenster& f) {
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    const auto alle = f.findChildren<W*>();
-    return static_cast<int>(std::count_if(alle.begin(), alle.end(), [](W* w) { return w->isVisible(); }));
+// Drags of the hen on 24 that the board refuses: onto the fox, onto itself, between targets, outside,
+// with the right button.
+void abgelehnteZuege(Aufbau& a) {
+    for (const QPoint ziel :
+         {a.mitte(16), a.mitte(24), a.brett()->brettRechteck().topLeft() + QPoint(100, 60),
+          QPoint(a.brett()->width() + 30, 60)})
+        a.ziehe(24, ziel);
+    QTest::mousePress(a.brett(), Qt::RightButton, Qt::NoModifier, a.mitte(24));
+    QTest::mouseMove(a.brett(), a.mitte(17));
+    QTest::mouseRelease(a.brett(), Qt::RightButton, Qt::NoModifier, a.mitte(17));
+    // Nor over a window lying on the board: the board holds the mouse, but the release is not its.
+    a.aktion("statistik");
+    QPointer<StatForm> stat = a.fenster->findChild<StatForm*>();
+    stat->move(a.brett()->mapToGlobal(a.mitte(17)) - QPoint(20, 20));
+    a.ziehe(24, 17);
+    stat->close();
+}
+
+// Piece images shown on the board itself.
+int sichtbareBilder(Aufbau& a) {
+    int sichtbar = 0;
+    for (const SvgBild* b : a.brett()->findChildren<SvgBild*>(Qt::FindDirectChildrenOnly))
+        sichtbar += b->isVisible() ? 1 : 0;
+    return sichtbar;
 }
 
 } // namespace
@@ -87,20 +99,7 @@ class BrettFensterTest : public QObject {
         QCOMPARE(a.spiel().stellung().figurplatz[gedrueckt.at(1).at(0).toInt()], 16);
 
         a.aktion("Neu");
-        // Refused by the board: onto the fox, onto itself, between targets, outside, right button.
-        for (const QPoint ziel :
-             {a.mitte(16), a.mitte(24), a.brett()->brettRechteck().topLeft() + QPoint(100, 60),
-              QPoint(a.brett()->width() + 30, 60)})
-            a.ziehe(24, ziel);
-        QTest::mousePress(a.brett(), Qt::RightButton, Qt::NoModifier, a.mitte(24));
-        QTest::mouseMove(a.brett(), a.mitte(17));
-        QTest::mouseRelease(a.brett(), Qt::RightButton, Qt::NoModifier, a.mitte(17));
-        // Nor over a window lying on the board: the board holds the mouse, but the release is not its.
-        a.aktion("statistik");
-        QPointer<StatForm> stat = a.fenster->findChild<StatForm*>();
-        stat->move(a.brett()->mapToGlobal(a.mitte(17)) - QPoint(20, 20));
-        a.ziehe(24, 17);
-        stat->close();
+        abgelehnteZuege(a);
         QCOMPARE(abgelegt.count(), 0);
         QVERIFY(a.spiel().stellung() == anfang);
         QVERIFY(!a.brett()->ziehtGerade());
@@ -116,10 +115,7 @@ class BrettFensterTest : public QObject {
         QVERIFY(a.spiel().computerAmZug() && a.spiel().amZug() == Seite::Fuchs);
         bilderPruefen(a);
         // No stray floating copy survives the drags.
-        int sichtbar = 0;
-        for (const SvgBild* b : a.brett()->findChildren<SvgBild*>(Qt::FindDirectChildrenOnly))
-            sichtbar += b->isVisible() ? 1 : 0;
-        QCOMPARE(sichtbar, kFiguren);
+        QCOMPARE(sichtbareBilder(a), kFiguren);
 
         // The fox replies on the next tick; its slide ends on its square.
         a.fenster->zugTakt();
@@ -266,70 +262,6 @@ class BrettFensterTest : public QObject {
         a.aktion("Neu");
         QCOMPARE(a.panel(2), QStringLiteral("Spielstärke 3"));
         QVERIFY(a.spiel().stellung() == start);
-    }
-
-    void fensterAusDemMenue() {
-        Aufbau a;
-        // Asking again brings the one open window forward.
-        for (const char* name :
-             {"Einstellungen", "hilfeZeigen", "info", "Einstellungen", "hilfeZeigen", "info"})
-            a.aktion(name);
-        QCOMPARE(a.fenster->findChildren<EinstDialog*>().size(), 1);
-        QCOMPARE(a.fenster->findChildren<HilfeFenster*>().size(), 1);
-        QCOMPARE(a.fenster->findChildren<InfoWin*>().size(), 1);
-        // The help opens at its first topic also when the open one was left elsewhere.
-        QTextBrowser* hilfe = a.fenster->findChild<HilfeFenster*>()->browser();
-        hilfe->setSource(QUrl(QStringLiteral("qrc:/hilfe/ratgeber.html#punkte")));
-        QVERIFY(hilfe->verticalScrollBar()->value() > 0);
-        a.aktion("hilfeZeigen");
-        QCOMPARE(hilfe->source(), QUrl(QStringLiteral("qrc:/hilfe/ratgeber.html")));
-        QCOMPARE(hilfe->verticalScrollBar()->value(), 0);
-        QVERIFY(QApplication::activeModalWidget() == nullptr); // modeless: the board stays usable
-
-        // Lists and statistics are made fresh each time; the game may open a list on its own.
-        a.aktion("statistik");
-        a.aktion("statistik");
-        a.aktion("highscoreFuchs");
-        a.aktion("highscoreHennen");
-        a.fenster->oeffnen(Fenster::highf);
-        QTRY_VERIFY(!a.fenster->beschaeftigt());
-        QCOMPARE(offene<StatForm>(*a.fenster), 1);
-        QCOMPARE(offene<HighscoreFenster>(*a.fenster), 2);
-        QCOMPARE(a.fenster->findChildren<HighscoreFenster*>().size(), 2);
-        QVERIFY(QApplication::activeModalWidget() == nullptr);
-
-        // A list whose new row still waits for its name is never replaced: not by the menu, and not
-        // by the list of the next finished game, which opens beside it.
-        Oeffentlich& o = a.spiel().oeffentlich();
-        auto spielEnde = [&](int16_t score) {
-            o.score = score;
-            o.u_is_sieger = "Ja";
-            o.sw_spielende = true;
-            a.fenster->oeffnen(Fenster::highh);
-            QTRY_VERIFY(!a.fenster->beschaeftigt());
-        };
-        auto henneListen = [&] {
-            QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-            std::vector<HighscoreFenster*> l;
-            for (auto* w : a.fenster->findChildren<HighscoreFenster*>())
-                if (w->liste().seite() == Seite::Hennen && w->isVisible()) l.push_back(w);
-            return l;
-        };
-        spielEnde(300);
-        QPointer<HighscoreFenster> erste = henneListen().at(0);
-        QCOMPARE(erste->liste().neuePos(), 0);
-        a.aktion("highscoreHennen");
-        QVERIFY(!erste.isNull() && erste->isVisible());
-        QCOMPARE(henneListen().size(), 1u);
-        spielEnde(200);
-        const auto beide = henneListen();
-        QCOMPARE(beide.size(), 2u);
-        for (HighscoreFenster* w : beide)
-            QCOMPARE(w->liste().neuePos(), 0);
-        QVERIFY(!beide[0]->frameGeometry().intersects(beide[1]->frameGeometry()));
-        a.aktion("highscoreHennen");
-        QCOMPARE(henneListen().size(), 2u);
-        QCOMPARE(offene<HighscoreFenster>(*a.fenster), 3); // the foxes' list stays as it was
     }
 };
 

@@ -47,6 +47,19 @@ using test::klick;
 using test::TempOrdner;
 using test::text;
 
+// Messages may name folders and files: shown as they are, too.
+void meldungIstKlartext() {
+    auto boxFormat = std::make_shared<Qt::TextFormat>(Qt::AutoText);
+    QTimer::singleShot(0, [boxFormat] {
+        if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
+            *boxFormat = box->textFormat();
+            box->accept();
+        }
+    });
+    meldungZeigen(nullptr, QMessageBox::Warning, QStringLiteral("<b>/tmp/x</b>"));
+    QCOMPARE(*boxFormat, Qt::PlainText);
+}
+
 } // namespace
 
 class DateianzeigeTest : public QObject {
@@ -143,16 +156,7 @@ class DateianzeigeTest : public QObject {
         QCOMPARE(format, Qt::PlainText);
         QCOMPARE(zugang, QStringLiteral("1. Punkte: 100")); // a screen reader hears row and column
 
-        // Messages may name folders and files: shown as they are, too.
-        auto boxFormat = std::make_shared<Qt::TextFormat>(Qt::AutoText);
-        QTimer::singleShot(0, [boxFormat] {
-            if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
-                *boxFormat = box->textFormat();
-                box->accept();
-            }
-        });
-        meldungZeigen(nullptr, QMessageBox::Warning, QStringLiteral("<b>/tmp/x</b>"));
-        QCOMPARE(*boxFormat, Qt::PlainText);
+        meldungIstKlartext();
     }
 
     // A status text too long for its field is shown shortened with "…"; the whole text, escaped, is its

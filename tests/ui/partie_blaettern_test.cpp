@@ -19,6 +19,24 @@ void taste(Aufbau& a, Qt::Key k, Qt::KeyboardModifiers m = Qt::NoModifier) {
     QTest::keyClick(a.fenster.get(), k, m);
     QTRY_VERIFY(!a.fenster->beschaeftigt());
 }
+
+// Through the opened game of n moves with the keys: to the start, one on, to the end, one back.
+void mitTastenBlaettern(Aufbau& a, const Stellung& ende, std::size_t n) {
+    taste(a, Qt::Key_Home);
+    Stellung anfang;
+    anfang.grundstellung();
+    QVERIFY(a.spiel().stellung() == anfang);
+    taste(a, Qt::Key_PageDown);
+    QCOMPARE(a.fenster->blaetterStand(), std::optional<std::size_t>(1));
+    QCOMPARE(a.fenster->zugliste()->liste()->currentRow(), 1);
+    QVERIFY(!(a.spiel().stellung() == anfang));
+    bilderPruefen(a);
+    taste(a, Qt::Key_End);
+    QVERIFY(a.spiel().stellung() == ende);
+    taste(a, Qt::Key_PageUp);
+    QCOMPARE(a.fenster->blaetterStand(), std::optional<std::size_t>(n - 1));
+    QVERIFY(!a.spiel().laeuft()); // nothing moves while the game is stepped through
+}
 } // namespace
 
 class PartieBlaetternTest : public QObject {
@@ -47,20 +65,8 @@ class PartieBlaetternTest : public QObject {
         QListWidget* liste = a.fenster->zugliste()->liste();
         QCOMPARE(static_cast<std::size_t>(liste->count()), n + 1);
 
-        taste(a, Qt::Key_Home);
-        Stellung anfang;
-        anfang.grundstellung();
-        QVERIFY(a.spiel().stellung() == anfang);
-        taste(a, Qt::Key_PageDown);
-        QCOMPARE(a.fenster->blaetterStand(), std::optional<std::size_t>(1));
-        QCOMPARE(liste->currentRow(), 1);
-        QVERIFY(!(a.spiel().stellung() == anfang));
-        bilderPruefen(a);
-        taste(a, Qt::Key_End);
-        QVERIFY(a.spiel().stellung() == ende);
-        taste(a, Qt::Key_PageUp);
-        QCOMPARE(a.fenster->blaetterStand(), std::optional<std::size_t>(n - 1));
-        QVERIFY(!a.spiel().laeuft()); // nothing moves while the game is stepped through
+        mitTastenBlaettern(a, ende, n);
+        if (QTest::currentTestFailed()) return;
 
         const int mitte = static_cast<int>(n / 2);
         QTest::mouseClick(liste->viewport(), Qt::LeftButton, Qt::NoModifier,

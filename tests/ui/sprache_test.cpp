@@ -52,6 +52,65 @@ void waehle(Aufbau& a, const char* sprache) {
     QCoreApplication::processEvents();
 }
 
+// The windows that stay open while the language changes.
+struct OffeneFenster {
+    EinstDialog* einst;
+    StatForm* stat;
+    HighscoreFenster* liste;
+    HilfeFenster* hilfe;
+};
+
+// A high-score file, a first move, then every window opened over the game.
+void spielenUndFensterOeffnen(Aufbau& a) {
+    const std::vector<uint8_t> zeile = test::hsSatz(44000, 100, "Hugo", "Ja");
+    std::ofstream(a.pfad() / "QZF.sco", std::ios::binary)
+        .write(reinterpret_cast<const char*>(zeile.data()), static_cast<std::streamsize>(zeile.size()));
+    a.aktion("Neu");
+    a.ziehe(24, 17);
+    QCOMPARE(a.panel(3), QStringLiteral("Punkte: 237"));
+    // Opened after the move: lying over the board, they would take the drag.
+    a.aktion("Einstellungen");
+    a.aktion("statistik");
+    a.aktion("highscoreFuchs");
+    a.aktion("hilfeZeigen");
+}
+
+// After the switch to English: the main window, the game's texts and every open window.
+void alleFensterEnglisch(Aufbau& a, const OffeneFenster& f, int breiteDeutsch) {
+    QCOMPARE(aktuelleSprache(), Sprache::englisch);
+    QCOMPARE(gespeicherteSprache(), Sprache::englisch);
+    QCOMPARE(menue(a, "spiel"), QStringLiteral("&Game"));
+    QCOMPARE(befehl(a, "Neu"), QStringLiteral("&New"));
+    // What the game wrote into the status bar and the board's prompts.
+    QCOMPARE(a.panel(3), QStringLiteral("Points: 237"));
+    QCOMPARE(a.brett()->findChild<QLabel*>(QStringLiteral("f_zug"))->text(),
+             QStringLiteral("The foxes are to move."));
+    // Every open window follows; the settings grow where English needs more room.
+    QCOMPARE(kindText(f.einst, "okKnopf"), QStringLiteral("Apply"));
+    QCOMPARE(f.einst->findChild<QComboBox*>(QStringLiteral("staerke"))->itemText(3),
+             QStringLiteral("4 Master"));
+    QVERIFY(f.einst->width() >= breiteDeutsch);
+    QCOMPARE(f.stat->windowTitle(), QStringLiteral("Statistics"));
+    QCOMPARE(f.liste->windowTitle(), QStringLiteral("High scores fox"));
+    QCOMPARE(kindText(f.liste, "sieg0"), QStringLiteral("Yes")); // the file keeps "Ja"
+    // What a screen reader hears of a number follows too.
+    QCOMPARE(f.stat->findChild<QLabel*>(QStringLiteral("wert13"))->accessibleName(),
+             QStringLiteral("Player, Total: 0"));
+    QCOMPARE(f.liste->findChild<QLabel*>(QStringLiteral("sieg0"))->accessibleName(),
+             QStringLiteral("1. Won: Yes"));
+    QCOMPARE(f.hilfe->browser()->source().fileName(), QStringLiteral("ratgeber_en.html"));
+    QCOMPARE(abbrechenKnopf(), QStringLiteral("Cancel"));
+    QCOMPARE(QLocale().language(), QLocale::English);
+}
+
+// A message of the game, and the fox's reply with its prompt, in English.
+void meldungUndAntwortEnglisch(Aufbau& a, test::Antworter& antworter) {
+    a.fenster->meldung(kHennenGewinnen);
+    a.fenster->zugTakt();
+    QTRY_COMPARE(antworter.texte.size(), std::size_t{1});
+    QCOMPARE(antworter.texte[0], QStringLiteral("The hens have won!"));
+}
+
 } // namespace
 
 class SpracheTest : public QObject {
@@ -70,55 +129,19 @@ class SpracheTest : public QObject {
 
     void umschaltenUndZurueckMitOffenenFenstern() {
         Aufbau a;
-        const std::vector<uint8_t> zeile = test::hsSatz(44000, 100, "Hugo", "Ja");
-        std::ofstream(a.pfad() / "QZF.sco", std::ios::binary)
-            .write(reinterpret_cast<const char*>(zeile.data()), static_cast<std::streamsize>(zeile.size()));
-        a.aktion("Neu");
-        a.ziehe(24, 17);
-        QCOMPARE(a.panel(3), QStringLiteral("Punkte: 237"));
-        // Opened after the move: lying over the board, they would take the drag.
-        a.aktion("Einstellungen");
-        a.aktion("statistik");
-        a.aktion("highscoreFuchs");
-        a.aktion("hilfeZeigen");
-        auto* einst = a.fenster->findChild<EinstDialog*>();
-        auto* stat = a.fenster->findChild<StatForm*>();
-        auto* liste = a.fenster->findChild<HighscoreFenster*>();
-        auto* hilfe = a.fenster->findChild<HilfeFenster*>();
-        const int breiteDeutsch = einst->width();
+        spielenUndFensterOeffnen(a);
+        if (QTest::currentTestFailed()) return;
+        const OffeneFenster f{a.fenster->findChild<EinstDialog*>(), a.fenster->findChild<StatForm*>(),
+                              a.fenster->findChild<HighscoreFenster*>(),
+                              a.fenster->findChild<HilfeFenster*>()};
+        const int breiteDeutsch = f.einst->width();
 
         waehle(a, "sprache_englisch");
-        QCOMPARE(aktuelleSprache(), Sprache::englisch);
-        QCOMPARE(gespeicherteSprache(), Sprache::englisch);
-        QCOMPARE(menue(a, "spiel"), QStringLiteral("&Game"));
-        QCOMPARE(befehl(a, "Neu"), QStringLiteral("&New"));
-        // What the game wrote into the status bar and the board's prompts.
-        QCOMPARE(a.panel(3), QStringLiteral("Points: 237"));
-        QCOMPARE(a.brett()->findChild<QLabel*>(QStringLiteral("f_zug"))->text(),
-                 QStringLiteral("The foxes are to move."));
-        // Every open window follows; the settings grow where English needs more room.
-        QCOMPARE(kindText(einst, "okKnopf"), QStringLiteral("Apply"));
-        QCOMPARE(einst->findChild<QComboBox*>(QStringLiteral("staerke"))->itemText(3),
-                 QStringLiteral("4 Master"));
-        QVERIFY(einst->width() >= breiteDeutsch);
-        QCOMPARE(stat->windowTitle(), QStringLiteral("Statistics"));
-        QCOMPARE(liste->windowTitle(), QStringLiteral("High scores fox"));
-        QCOMPARE(kindText(liste, "sieg0"), QStringLiteral("Yes")); // the file keeps "Ja"
-        // What a screen reader hears of a number follows too.
-        QCOMPARE(stat->findChild<QLabel*>(QStringLiteral("wert13"))->accessibleName(),
-                 QStringLiteral("Player, Total: 0"));
-        QCOMPARE(liste->findChild<QLabel*>(QStringLiteral("sieg0"))->accessibleName(),
-                 QStringLiteral("1. Won: Yes"));
-        QCOMPARE(hilfe->browser()->source().fileName(), QStringLiteral("ratgeber_en.html"));
-        QCOMPARE(abbrechenKnopf(), QStringLiteral("Cancel"));
-        QCOMPARE(QLocale().language(), QLocale::English);
-
-        // A message of the game, and the fox's reply with its prompt, in English.
+        alleFensterEnglisch(a, f, breiteDeutsch);
+        if (QTest::currentTestFailed()) return;
         test::Antworter antworter;
-        a.fenster->meldung(kHennenGewinnen);
-        a.fenster->zugTakt();
-        QTRY_COMPARE(antworter.texte.size(), std::size_t{1});
-        QCOMPARE(antworter.texte[0], QStringLiteral("The hens have won!"));
+        meldungUndAntwortEnglisch(a, antworter);
+        if (QTest::currentTestFailed()) return;
 
         // A window opened now is English from the start.
         a.aktion("statistik");
@@ -128,9 +151,9 @@ class SpracheTest : public QObject {
         QCOMPARE(aktuelleSprache(), Sprache::deutsch);
         QCOMPARE(gespeicherteSprache(), Sprache::deutsch);
         QCOMPARE(menue(a, "spiel"), QStringLiteral("&Spiel"));
-        QCOMPARE(einst->width(), breiteDeutsch);
-        QCOMPARE(kindText(liste, "sieg0"), QStringLiteral("Ja"));
-        QCOMPARE(hilfe->browser()->source().fileName(), QStringLiteral("ratgeber.html"));
+        QCOMPARE(f.einst->width(), breiteDeutsch);
+        QCOMPARE(kindText(f.liste, "sieg0"), QStringLiteral("Ja"));
+        QCOMPARE(f.hilfe->browser()->source().fileName(), QStringLiteral("ratgeber.html"));
         QCOMPARE(abbrechenKnopf(), QStringLiteral("Abbrechen"));
 
         // Chosen elsewhere, e.g. in another main window: the menu shows it.
