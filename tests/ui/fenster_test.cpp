@@ -20,6 +20,7 @@
 
 #include "game/spiel.h"
 #include "kinder.h"
+#include "spielende_helfer.h"
 #include "testdateien.h"
 #include "ui/brett_fenster.h"
 #include "ui/einst_dialog.h"
@@ -35,6 +36,7 @@ namespace {
 using Bytes = std::vector<uint8_t>;
 using test::kind;
 using test::klick;
+using test::spielende;
 using test::TempOrdner;
 
 // Deletes windows closed with WA_DeleteOnClose.
@@ -52,14 +54,6 @@ std::shared_ptr<QString> meldungAnnehmen() {
         }
     });
     return titel;
-}
-
-Oeffentlich spielende(int16_t score, const char* sieger = "Ja") {
-    Oeffentlich spiel;
-    spiel.score = score;
-    spiel.u_is_sieger = sieger;
-    spiel.sw_spielende = true;
-    return spiel;
 }
 
 } // namespace

@@ -16,6 +16,7 @@
 
 #include "game/spiel.h"
 #include "kinder.h"
+#include "spielende_helfer.h"
 #include "testdateien.h"
 #include "ui/highscore_fenster.h"
 
@@ -27,6 +28,7 @@ using Bytes = std::vector<uint8_t>;
 using test::hsSatz;
 using test::kind;
 using test::klick;
+using test::spielende;
 using test::TempOrdner;
 using test::text;
 
@@ -34,14 +36,6 @@ using test::text;
 void tippen(QWidget* w, const QString& text) {
     for (const QChar c : text)
         QTest::sendKeyEvent(QTest::Click, w, Qt::Key_unknown, QString(c), Qt::NoModifier);
-}
-
-Oeffentlich spielende(int16_t score, const char* sieger = "Ja") {
-    Oeffentlich spiel;
-    spiel.score = score;
-    spiel.u_is_sieger = sieger;
-    spiel.sw_spielende = true;
-    return spiel;
 }
 
 } // namespace
