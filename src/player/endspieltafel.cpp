@@ -5,6 +5,7 @@
 #include "player/endspieltafel.h"
 
 #include <fcntl.h>
+#include <sys/mman.h>
 
 #include <algorithm>
 #include <string_view>
@@ -52,12 +53,26 @@ Bytes kopf(const meister::TafelIndex& index, uint64_t summe) {
     return k;
 }
 
+// The whole file mapped read-only, released with the last table that uses it.
+std::shared_ptr<const void> abbilden(int fd, std::size_t laenge) {
+    void* p = mmap(nullptr, laenge, PROT_READ, MAP_SHARED, fd, 0);
+    if (p == MAP_FAILED) return nullptr;
+    return std::shared_ptr<const void>(p, [laenge](const void* q) { munmap(const_cast<void*>(q), laenge); });
+}
+
 } // namespace
 
 Endspieltafel::Endspieltafel(bool strafregel, std::vector<uint8_t> werte, int zeilen)
-    : index_(strafregel, zeilen), werte_(std::move(werte)) {
-    werte_.resize(index_.groesse(), tafelwert::kRemis);
+    : index_(strafregel, zeilen) {
+    werte.resize(index_.groesse(), tafelwert::kRemis);
+    auto eigen = std::make_shared<const std::vector<uint8_t>>(std::move(werte));
+    werte_ = *eigen;
+    halter_ = std::move(eigen);
 }
+
+Endspieltafel::Endspieltafel(bool strafregel, std::shared_ptr<const void> halter,
+                             std::span<const uint8_t> werte, int zeilen)
+    : index_(strafregel, zeilen), halter_(std::move(halter)), werte_(werte.first(index_.groesse())) {}
 
 std::optional<uint8_t> Endspieltafel::wert(const meister::Suchbrett& b) const {
     const auto i = index_.index(b);
@@ -100,13 +115,14 @@ std::optional<Endspieltafel> tafelLaden(const std::filesystem::path& datei, bool
     const uint64_t laenge = kKopf + index.groesse();
     // The size is checked first, so that a foreign file of any size is never read.
     if (!fd || static_cast<uint64_t>(st.st_size) != laenge) return std::nullopt;
-    Bytes b;
-    if (!datei::lesen(fd.fd(), b, laenge) || b.size() != laenge) return std::nullopt;
-    const uint64_t summe = pruefsumme(b.data() + kKopf, b.size() - kKopf);
-    const Bytes erwartet = kopf(index, summe);
-    if (!std::equal(erwartet.begin(), erwartet.end(), b.begin())) return std::nullopt;
-    b.erase(b.begin(), b.begin() + kKopf);
-    return Endspieltafel(strafregel, std::move(b), zeilen);
+    auto halter = abbilden(fd.fd(), laenge);
+    if (!halter) return std::nullopt;
+    const auto* b = static_cast<const uint8_t*>(halter.get());
+    madvise(const_cast<uint8_t*>(b), laenge, MADV_SEQUENTIAL); // the checksum reads it once, in order
+    const Bytes erwartet = kopf(index, pruefsumme(b + kKopf, laenge - kKopf));
+    if (!std::equal(erwartet.begin(), erwartet.end(), b)) return std::nullopt;
+    madvise(const_cast<uint8_t*>(b), laenge, MADV_RANDOM); // the search probes it here and there
+    return Endspieltafel(strafregel, std::move(halter), {b + kKopf, laenge - kKopf}, zeilen);
 }
 
 bool tafelSpeichern(const std::filesystem::path& datei, const Endspieltafel& t) {

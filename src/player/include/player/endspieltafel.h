@@ -11,6 +11,7 @@
 #include <filesystem>
 #include <memory>
 #include <optional>
+#include <span>
 #include <vector>
 
 #include "board/spielausgang.h"
@@ -40,19 +41,26 @@ constexpr bool genau(uint8_t w) {
 }
 } // namespace tafelwert
 
+// A table's values are never changed once it is made; copies share them. A table read from its file maps
+// the file instead of copying it, so that only the pages the search touches stay in memory, the kernel may
+// drop them again, and two windows share them.
 class Endspieltafel {
   public:
     Endspieltafel(bool strafregel, std::vector<uint8_t> werte, int zeilen = meister::kKlassenzeilen);
+    // Values held by `halter` (a mapping, say), exactly one per position of the class.
+    Endspieltafel(bool strafregel, std::shared_ptr<const void> halter, std::span<const uint8_t> werte,
+                  int zeilen);
 
     const meister::TafelIndex& index() const { return index_; }
     bool strafregel() const { return index_.strafregel(); }
-    const std::vector<uint8_t>& werte() const { return werte_; }
+    std::span<const uint8_t> werte() const { return werte_; }
     // The stored value, nullopt outside the class.
     std::optional<uint8_t> wert(const meister::Suchbrett& b) const;
 
   private:
     meister::TafelIndex index_;
-    std::vector<uint8_t> werte_;
+    std::shared_ptr<const void> halter_;
+    std::span<const uint8_t> werte_;
 };
 
 // The outcome of the position for the game at `spielzug` positions recorded: who wins and after how many
