@@ -20,6 +20,7 @@
 #include "ui/fenstergeometrie.h"
 #include "ui/klaenge.h"
 #include "ui/meldung.h"
+#include "ui/statusbreite.h"
 #include "ui/titel.h"
 #include "ui/zugliste_panel.h"
 
@@ -121,13 +122,13 @@ void BrettFenster::groesseLaden() {
             return;
         }
     }
-    // First start: a board of about three fifths of the screen's height, never below its own size.
-    int seite = BrettFlaeche::kSeite;
-    if (bildschirm) {
-        const QRect frei = bildschirm->availableGeometry();
-        seite = std::max(seite, std::min(frei.width(), frei.height()) * 3 / 5);
-    }
-    resize(seite, seite + menuBar()->sizeHint().height() + statusBar()->sizeHint().height());
+    // First start: the board's size, then as wide as the status fields' longest texts need.
+    const QRect frei = bildschirm ? bildschirm->availableGeometry() : QRect();
+    const int zusatz = menuBar()->sizeHint().height() + statusBar()->sizeHint().height();
+    resize(ersteFenstergroesse(BrettFlaeche::kSeite, zusatz, 0, frei));
+    resize(ersteFenstergroesse(BrettFlaeche::kSeite, zusatz,
+                               statusleistenBreite(*statusBar(), {panels_[0], panels_[1], panels_[2]}),
+                               frei));
 }
 
 bool BrettFenster::beschaeftigt() const {

@@ -61,4 +61,10 @@ std::optional<Fenstergeometrie> fenstergeometrie(const QByteArray& gespeichert, 
     return g;
 }
 
+QSize ersteFenstergroesse(int brettSeite, int zusatzHoehe, int statusBreite, const QRect& frei) {
+    if (!frei.isValid()) return QSize(std::max(brettSeite, statusBreite), brettSeite + zusatzHoehe);
+    const int seite = std::max(brettSeite, std::min(frei.width(), frei.height()) * 3 / 5);
+    return QSize(std::max(seite, statusBreite), seite + zusatzHoehe).boundedTo(frei.size());
+}
+
 } // namespace fuh

@@ -6,6 +6,7 @@
 // fenster.conf, a FIFO in its place, a folder link planted by another user.
 #include <QDataStream>
 #include <QScreen>
+#include <QStatusBar>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -15,6 +16,8 @@
 #include "fenster_aufbau.h"
 #include "ui/datenordner.h"
 #include "ui/fenstergeometrie.h"
+#include "ui/sprache.h"
+#include "ui/statustext.h"
 
 using namespace fuh;
 using namespace fuh::test;
@@ -57,6 +60,34 @@ class FensterKonfigTest : public QObject {
         fensterEinstellungen().setValue(QStringLiteral("geometrie"), geometrie(10, 10, -5, 300));
         a.starten();
         QVERIFY(a.fenster->width() > 0 && a.fenster->width() <= frei.width());
+    }
+
+    // The first start's window is wide enough for the whole text of every status field, in either
+    // language and with either side played, also once a move has brought the points, and with the
+    // large font of a player with low vision; and it stays on the screen.
+    void ersterStartZeigtJedesStatusfeldGanz() {
+        const QFont normal = QApplication::font();
+        QFont gross = normal;
+        gross.setPointSizeF(normal.pointSizeF() * 1.5);
+        QApplication::setFont(gross);
+        for (const Sprache sprache : {Sprache::deutsch, Sprache::englisch})
+            for (const char seite : {0, 1}) {
+                spracheSetzen(sprache, false);
+                Aufbau a(std::vector<char>{seite, 2, 1, 0});
+                const QRect frei = a.fenster->screen()->availableGeometry();
+                QVERIFY(a.fenster->width() <= frei.width() && a.fenster->height() <= frei.height());
+                a.aktion("Neu");
+                if (seite == 0) a.ziehe(24, 17);
+                a.fenster->zugTakt(); // the computer's move
+                QTRY_VERIFY(!a.fenster->beschaeftigt());
+                for (int i = 1; i <= 3; ++i) {
+                    const auto* feld = a.fenster->findChild<Statustext*>(QStringLiteral("panel%1").arg(i));
+                    QVERIFY(!feld->text().isEmpty());
+                    QCOMPARE(feld->sichtbarerText(), feld->text());
+                }
+            }
+        spracheSetzen(Sprache::deutsch, false);
+        QApplication::setFont(normal);
     }
 
     void fenstergeometrieLesen() {

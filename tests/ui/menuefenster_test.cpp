@@ -5,6 +5,7 @@
 // The windows the main window opens from its menu: which are brought forward, which are made fresh.
 #include <QAction>
 #include <QApplication>
+#include <QLabel>
 #include <QPointer>
 #include <QScrollBar>
 #include <QTest>
@@ -112,6 +113,25 @@ class MenueFensterTest : public QObject {
         a.aktion("highscoreHennen");
         QCOMPARE(hennenListen(a).size(), 2u);
         QCOMPARE(offene<HighscoreFenster>(*a.fenster), 3); // the foxes' list stays as it was
+    }
+
+    // F11 toggles full screen from the board; the about box names the version the build was made as,
+    // in either language.
+    void vollbildUndVersion() {
+        Aufbau a;
+        QVERIFY(QTest::qWaitForWindowActive(a.fenster.get()));
+        QVERIFY(!a.fenster->isFullScreen());
+        QTest::keyClick(a.brett(), Qt::Key_F11);
+        QTRY_VERIFY(a.fenster->isFullScreen());
+        QTest::keyClick(a.brett(), Qt::Key_F11);
+        QTRY_VERIFY(!a.fenster->isFullScreen());
+
+        a.aktion("info");
+        auto* version = a.fenster->findChild<InfoWin*>()->findChild<QLabel*>(QStringLiteral("version"));
+        QCOMPARE(version->text(), QStringLiteral("Version " FUH_PROJEKTVERSION));
+        a.aktion("sprache_englisch");
+        QCOMPARE(version->text(), QStringLiteral("Version " FUH_PROJEKTVERSION));
+        a.aktion("sprache_deutsch");
     }
 };
 

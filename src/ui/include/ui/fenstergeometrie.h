@@ -7,6 +7,7 @@
 // would take the whole memory to draw.
 #include <QByteArray>
 #include <QRect>
+#include <QSize>
 #include <optional>
 
 namespace fuh {
@@ -22,5 +23,10 @@ struct Fenstergeometrie {
 // null rectangle for none): a larger window is shrunk to it, one beyond its edges moved onto it. nullopt
 // when the bytes make no sense (not Qt's format, or an empty or negative size).
 std::optional<Fenstergeometrie> fenstergeometrie(const QByteArray& gespeichert, const QRect& frei);
+
+// The first start's window size: a square board of about three fifths of the screen's height, never
+// below `brettSeite`, `zusatzHoehe` for the menu and status bars; at least `statusBreite` wide, so that
+// the status fields show their whole texts; never larger than `frei` (a null rectangle for no screen).
+QSize ersteFenstergroesse(int brettSeite, int zusatzHoehe, int statusBreite, const QRect& frei);
 
 } // namespace fuh

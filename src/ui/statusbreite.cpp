@@ -1,0 +1,73 @@
+// SPDX-FileCopyrightText: 2026 The Fuchs und Hennen authors
+//
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "ui/statusbreite.h"
+
+#include <QLabel>
+#include <QLayout>
+#include <QStatusBar>
+#include <algorithm>
+#include <cmath>
+#include <string>
+#include <vector>
+
+#include "game/texte.h"
+#include "spieldaten/statustexte.h"
+#include "ui/sprache.h"
+
+namespace fuh {
+
+namespace {
+
+// Every text the game may show in each field, in German.
+std::array<std::vector<std::string>, 3> moeglicheTexte() {
+    std::array<std::vector<std::string>, 3> texte;
+    texte[0] = {kZweiSpielerFuchsAmZug, kZweiSpielerHennenAmZug};
+    texte[1] = {kMeisterStatustext};
+    for (int stufe = 0; stufe <= 2; ++stufe) {
+        if (const auto t = pcStatustext(stufe)) texte[0].push_back(*t);
+        if (const auto t = staerkeStatustext(stufe)) texte[1].push_back(*t);
+        if (const auto t = staerkeStatustextDialog(stufe)) texte[1].push_back(*t);
+    }
+    // Three digits and a sign: every score the board allows.
+    texte[2] = {einsetzen(kPunkteText, {"-888"})};
+    return texte;
+}
+
+QString laengster(const QLabel& feld, const std::vector<std::string>& texte) {
+    QString ergebnis;
+    for (const std::string& t : texte) {
+        const QString text = kernText(QString::fromStdString(t));
+        if (feld.fontMetrics().horizontalAdvance(text) > feld.fontMetrics().horizontalAdvance(ergebnis))
+            ergebnis = text;
+    }
+    return ergebnis;
+}
+
+} // namespace
+
+int statusleistenBreite(QStatusBar& leiste, const std::array<QLabel*, 3>& felder) {
+    const auto texte = moeglicheTexte();
+    std::array<QString, 3> bisher;
+    for (size_t i = 0; i < felder.size(); ++i) {
+        bisher[i] = felder[i]->text();
+        felder[i]->setText(laengster(*felder[i], texte[i]));
+    }
+    // The fields share the bar by their stretch factors, whatever their texts: laid out at the present
+    // width, the field shortest of its text says by how much the fields' share must grow.
+    leiste.window()->layout()->activate();
+    leiste.layout()->invalidate();
+    leiste.layout()->activate();
+    int felderBreite = 0; // every field with a share, the announcements' too
+    for (const QLabel* feld : leiste.findChildren<QLabel*>())
+        if (!feld->isHidden()) felderBreite += feld->width();
+    double faktor = 1.0;
+    for (const QLabel* feld : felder)
+        faktor = std::max(faktor, double(feld->sizeHint().width()) / std::max(1, feld->width()));
+    for (size_t i = 0; i < felder.size(); ++i)
+        felder[i]->setText(bisher[i]);
+    return leiste.width() + static_cast<int>(std::ceil(felderBreite * (faktor - 1.0)));
+}
+
+} // namespace fuh
