@@ -31,7 +31,7 @@ void zug(Zugumgebung& u, bool normal) {
     const int k = figur_index(s, von).value_or(0);
     const int t = feldNummer(r.nachX, r.nachY);
 
-    // A person's own pieces snap into place; the computer's slide.
+    // A person's own pieces snap into place; the computer's glide.
     const int16_t figur = Feld[r.vonX][r.vonY];
     const bool sofort = (figur == fuchs && u.menschFuchs) || (figur == henne && u.menschHennen);
     melden(u.ansicht, k, von, t, !sofort);

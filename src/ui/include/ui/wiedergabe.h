@@ -4,9 +4,9 @@
 
 #pragma once
 // Plays back what the game reported, in the order it was reported and at a pace a player can follow.
-// The game computes a computer move in an instant; here the 100 steps of each slide are spread over a
-// visible time, and whatever came after a slide (a prompt, a message, a window) is shown only when the
-// slide has ended. Everything else is shown at once when its turn comes.
+// The game computes a computer move in an instant and the window cuts it into the steps of a glide; here
+// those steps are spread over a visible time, and whatever came after a slide (a prompt, a message, a window)
+// is shown only when the slide has ended. Everything else is shown at once when its turn comes.
 #include <QElapsedTimer>
 #include <QObject>
 #include <QString>
