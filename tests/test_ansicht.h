@@ -19,8 +19,6 @@ struct TestAnsicht : Ansicht {
     std::vector<Hinweis> gezeigt; // every label that was shown, in order
     std::vector<Fenster> fenster;
 
-    void figurBewegt(int, int, int) override {}
-    void figurSichtbar(int, bool) override {}
     void figurenZiehbar(bool) override {}
     void hinweis(Hinweis h, bool s) override {
         hinweise[h] = s;

@@ -18,8 +18,6 @@ inline bool versetzen(Spiel& spiel, int von, int nach) {
     Feld[feldX(nach)][feldY(nach)] = Feld[feldX(von)][feldY(von)];
     Feld[feldX(von)][feldY(von)] = leer;
     z.stellung.figurplatz[*k] = static_cast<int16_t>(nach);
-    z.bilder.left[*k] = platzLeft(nach);
-    z.bilder.top[*k] = platzTop(nach);
     spiel.fortsetzen({z, {}});
     return true;
 }

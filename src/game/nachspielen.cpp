@@ -67,8 +67,6 @@ bool menschZieht(Spiel& spiel, const Partiezug& e, bool offen) {
 // Shows nothing: the states are what is wanted.
 class Stumm : public Ansicht {
   public:
-    void figurBewegt(int, int, int) override {}
-    void figurSichtbar(int, bool) override {}
     void figurenZiehbar(bool) override {}
     void hinweis(Hinweis, bool) override {}
     void status(Statusfeld, const std::string&) override {}

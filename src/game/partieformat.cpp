@@ -5,6 +5,7 @@
 // The saved game's bytes. One list of fields serves writing and reading, so the two cannot drift apart;
 // what was read is then checked as a whole before anyone uses it.
 #include <algorithm>
+#include <cstdint>
 #include <cstring>
 
 #include "game/partiedatei.h"
@@ -16,8 +17,9 @@ namespace {
 
 constexpr char kMagie[4] = {'F', 'u', 'H', 'P'};
 // 1: a running game, with the computer's pending reply instead of the side to move; 2: the side to move,
-// and whether the game is a finished one still to be filed; 3: the record of the moves.
-constexpr uint16_t kVersion = 3;
+// and whether the game is a finished one still to be filed; 3: the record of the moves; 4: no screen
+// positions of the pieces (where a piece stands follows from the position).
+constexpr uint16_t kVersion = 4;
 constexpr std::size_t kKopf = sizeof kMagie + 2 + 4; // magic, version, length of what follows
 constexpr std::size_t kPruefsumme = 4;
 constexpr std::size_t kHoechstVerlauf = kSituationen; // a player cannot make more moves than positions
@@ -140,6 +142,23 @@ void amZugNachtragen(Leser& a, Spielstand& z, uint16_t version, const AltesAmZug
         z.amZug = z.oeff.einst.computer() == Computer::hennen ? Seite::Fuchs : Seite::Hennen;
 }
 
+// Up to version 3 each piece's picture followed the position: its place on the old board in twips and
+// whether it was shown. They are read and checked, then dropped: the screen derives them itself now.
+void alteBilder(Schreiber&, const Spielstand&, uint16_t) {}
+
+void alteBilder(Leser& a, const Spielstand& z, uint16_t version) {
+    if (version >= 4) return;
+    for (int k = 0; k < kFiguren; ++k) {
+        int left = 0, top = 0;
+        bool sichtbar = false;
+        a.i32(left), a.i32(top), a.ja(sichtbar);
+        // A hen's picture is shown while she is on the board, a fox's always (a parked fox waits beside it).
+        const bool aufDemBrett = k < kAnzahlFuechse || z.stellung.figurplatz[k] != 0;
+        a.kaputt |= sichtbar != aufDemBrett || left < INT16_MIN || left > INT16_MAX || top < INT16_MIN ||
+                    top > INT16_MAX;
+    }
+}
+
 void teilzug(Schreiber& a, const Teilzug& t) {
     a.i16(t.vonX), a.i16(t.vonY), a.i16(t.nachX), a.i16(t.nachY);
 }
@@ -188,9 +207,8 @@ template <class A, class Z> void felder(A& a, Z& z, uint16_t version = kVersion)
     a.i16(z.zugregister.vonX), a.i16(z.zugregister.vonY), a.i16(z.zugregister.nachX),
         a.i16(z.zugregister.nachY);
     a.ja(z.sprungfolge.imSprung), a.i16(z.sprungfolge.sprungX), a.i16(z.sprungfolge.sprungY);
-    for (int k = 0; k < kFiguren; ++k)
-        a.i32(z.bilder.left[k]), a.i32(z.bilder.top[k]), a.ja(z.bilder.sichtbar[k]);
-    a.ja(z.bilder.ziehbar);
+    alteBilder(a, z, version);
+    a.ja(z.ziehbar);
     for (auto& s : z.partie.sits) {
         a.roh(s.code.data(), s.code.size());
         a.i16(s.fuchswert), a.i16(s.hennenwert), a.i16(s.sprung);

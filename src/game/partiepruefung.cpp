@@ -6,7 +6,6 @@
 
 #include <algorithm>
 #include <bitset>
-#include <cstdlib>
 
 #include "memory/positionscode.h"
 
@@ -65,23 +64,8 @@ bool aufgezeichnet(const Code& c) {
     return std::any_of(c.begin(), c.end(), [](uint8_t v) { return v != 0; });
 }
 
-// Every piece's picture shows where the board has it: a hen's only while it is on the board, a fox's
-// always (a parked fox waits beside the cross). A computer piece glides there in a hundred rounded steps,
-// so its picture may stand up to 50 twips off its place.
-bool bilderPassen(const Spielstand& z) {
-    for (int k = 0; k < kFiguren; ++k) {
-        const int p = z.stellung.figurplatz[k];
-        const bool sichtbar = k < 2 || p != 0;
-        if (z.bilder.sichtbar[k] != sichtbar) return false;
-        if (sichtbar &&
-            (std::abs(z.bilder.left[k] - platzLeft(p)) > 50 || std::abs(z.bilder.top[k] - platzTop(p)) > 50))
-            return false;
-    }
-    return true;
-}
-
 // What the game itself can have reached: the positions recorded up to the move counter, the last of them
-// the board; every picture where its piece stands; the flags telling one story.
+// the board; the flags telling one story.
 bool erreichbar(const Spielstand& z, bool laufend) {
     const int16_t zug = z.partie.spielzug;
     if (zug > kZugbegrenzung || (laufend && zug == kZugbegrenzung)) return false;
@@ -89,7 +73,6 @@ bool erreichbar(const Spielstand& z, bool laufend) {
         if (!aufgezeichnet(z.partie.sits[static_cast<std::size_t>(i)].code)) return false;
     if (zug > 0 && z.partie.sits[static_cast<std::size_t>(zug - 1)].code != positionscode(z.stellung.Feld))
         return false;
-    if (!bilderPassen(z)) return false;
     if (!imBereich(z.oeff.einst.PC, 0, 2)) return false;
     const Sprungfolge& sprung = z.sprungfolge;
     // A chain of jumps is a person's fox's, open on the foxes' turn, with that fox standing where it landed.
@@ -105,7 +88,7 @@ bool erreichbar(const Spielstand& z, bool laufend) {
                 imZiel += imZielfeld(x, y);
             }
     // Running: no end is due and nothing of an end is set; whoever plays the side to move moves.
-    return z.bilder.ziehbar && !z.endeGefunden && !z.oeff.sw_spielende && !z.oeff.fuchs_null &&
+    return z.ziehbar && !z.endeGefunden && !z.oeff.sw_spielende && !z.oeff.fuchs_null &&
            z.oeff.u_is_sieger == "    " && hennen >= 9 && imZiel < 9;
 }
 
@@ -144,10 +127,6 @@ bool gueltig(const Spielstand& z) {
     if (!stellungGueltig(z.stellung) || !aufGitter(r.vonX, r.vonY) || !aufGitter(r.nachX, r.nachY) ||
         !aufGitter(z.sprungfolge.sprungX, z.sprungfolge.sprungY))
         return false;
-    for (int k = 0; k < kFiguren; ++k)
-        if (!imBereich(z.bilder.left[k], INT16_MIN, INT16_MAX) ||
-            !imBereich(z.bilder.top[k], INT16_MIN, INT16_MAX))
-            return false;
     if (!imBereich(z.partie.spielzug, 0, kSituationen)) return false;
     for (const Situation& s : z.partie.sits)
         if (!codeGueltig(s.code) || !imBereich(s.sprung, 0, 1)) return false;

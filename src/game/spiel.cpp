@@ -16,7 +16,6 @@ namespace fuh {
 Spiel::Spiel(Ansicht& ansicht, Zufall& zufall, std::filesystem::path ordner)
     : ansicht_(ansicht), zufall_(zufall), ordner_(std::move(ordner)), lerndatei_(ordner_) {
     z_.stellung.grundstellung();
-    z_.bilder.aufstellen(z_.stellung);
 }
 
 Spiel::~Spiel() = default;
@@ -87,11 +86,7 @@ void Spiel::neuesSpiel() {
         gezaehlt = ohneDateien_ || spielGestartet(ordner_);
     }
     if (!gezaehlt) meldeSchreibfehler({kStatistikdatei});
-    z_.bilder.aufstellen(z_.stellung);
-    for (int k = 0; k < kFiguren; ++k) {
-        ansicht_.figurBewegt(k, z_.bilder.left[k], z_.bilder.top[k]);
-        ansicht_.figurSichtbar(k, true);
-    }
+    ansicht_.aufgestellt(z_.stellung);
     sperren(true);
     z_.endeGefunden = false;
     z_.letztesErgebnis = Ergebnis::offen;
@@ -101,7 +96,7 @@ void Spiel::neuesSpiel() {
 }
 
 void Spiel::sperren(bool ziehbar) {
-    z_.bilder.ziehbar = ziehbar;
+    z_.ziehbar = ziehbar;
     ansicht_.figurenZiehbar(ziehbar);
 }
 
@@ -171,7 +166,6 @@ void Spiel::zug(bool normal) {
     Zugumgebung u{z_.stellung,
                   z_.zugregister,
                   z_.sprungfolge,
-                  z_.bilder,
                   ansicht_,
                   z_.partie,
                   menschSpielt(Seite::Fuchs),

@@ -6,27 +6,21 @@
 
 #include <cstdlib>
 
-#include "board/zahlen.h"
-
 namespace fuh {
 
 namespace {
-constexpr int kGleitschritte = 100;
+
+// Tells the view where piece k went: a fox to or from the parking square is parked or brought back.
+void melden(Ansicht& ansicht, int k, int von, int nach, bool gleitet) {
+    if (nach == kParkfeld)
+        ansicht.fuchsGeparkt(k, von, gleitet);
+    else if (von == kParkfeld)
+        ansicht.fuchsZurueck(k, nach, gleitet);
+    else
+        ansicht.figurGezogen(k, von, nach, gleitet);
 }
 
-void gleiten(Figurbilder& bilder, Ansicht& ansicht, int k, int zielLeft, int zielTop) {
-    int16_t L0 = wrap16(bilder.left[k]);
-    int16_t T0 = wrap16(bilder.top[k]);
-    const int16_t dL = wrap16(rundeGerade(wrap16(zielLeft) - L0, kGleitschritte));
-    const int16_t dT = wrap16(rundeGerade(wrap16(zielTop) - T0, kGleitschritte));
-    for (int i = 1; i <= kGleitschritte; ++i) {
-        L0 = wrap16(L0 + dL);
-        T0 = wrap16(T0 + dT);
-        bilder.left[k] = L0;
-        bilder.top[k] = T0;
-        ansicht.figurGleitet(k, L0, T0);
-    }
-}
+} // namespace
 
 void zug(Zugumgebung& u, bool normal) {
     Stellung& s = u.stellung;
@@ -37,16 +31,10 @@ void zug(Zugumgebung& u, bool normal) {
     const int k = figur_index(s, von).value_or(0);
     const int t = feldNummer(r.nachX, r.nachY);
 
-    // A person's own pieces snap into place; the computer's slide.
+    // A person's own pieces snap into place; the computer's glide.
     const int16_t figur = Feld[r.vonX][r.vonY];
     const bool sofort = (figur == fuchs && u.menschFuchs) || (figur == henne && u.menschHennen);
-    if (sofort) {
-        u.bilder.left[k] = platzLeft(t);
-        u.bilder.top[k] = platzTop(t);
-        u.ansicht.figurBewegt(k, u.bilder.left[k], u.bilder.top[k]);
-    } else {
-        gleiten(u.bilder, u.ansicht, k, platzLeft(t), platzTop(t));
-    }
+    melden(u.ansicht, k, von, t, !sofort);
     s.figurplatz[k] = static_cast<int16_t>(t);
     Feld[r.nachX][r.nachY] = figur;
     Feld[r.vonX][r.vonY] = leer;
@@ -69,9 +57,8 @@ void zug(Zugumgebung& u, bool normal) {
     const int my = r.vonY + dy / 2;
     Feld[mx][my] = leer;
     if (const auto h = figur_index(s, feldNummer(mx, my))) {
-        u.bilder.sichtbar[*h] = false;
-        u.ansicht.figurSichtbar(*h, false);
         s.figurplatz[*h] = 0;
+        u.ansicht.henneGeschlagen(*h, feldNummer(mx, my));
     }
     u.partie.sanktion(-1, 1, 0);
 }

@@ -58,11 +58,8 @@ void Spiel::zustandSetzen(const Spielstand& z) {
     z_ = z;
     zufall_.setzen(z.zufall);
     tippZufall_.setzen(z.tippZufall);
-    for (int k = 0; k < kFiguren; ++k) {
-        ansicht_.figurBewegt(k, z_.bilder.left[k], z_.bilder.top[k]);
-        ansicht_.figurSichtbar(k, z_.bilder.sichtbar[k]);
-    }
-    ansicht_.figurenZiehbar(z_.bilder.ziehbar);
+    ansicht_.aufgestellt(z_.stellung);
+    ansicht_.figurenZiehbar(z_.ziehbar);
     // Between moves only an open jump sequence keeps a prompt on the board.
     for (Hinweis h : {Hinweis::f_zug, Hinweis::h_zug, Hinweis::speichern_msg})
         ansicht_.hinweis(h, false);

@@ -19,10 +19,10 @@ void BrettFenster::zeigen(const Ereignis& e) {
     klaenge_->ereignis(e);
     switch (e.art) {
     case Ereignis::Art::bewegt:
-        brett_->figurSetzen(e.a, e.b, e.c);
+        brett_->figurSetzen(e.a, e.b);
         break;
     case Ereignis::Art::gleitet:
-        brett_->figurGleiten(e.a, e.b, e.c);
+        brett_->figurGleiten(e.a, e.b, e.c, e.schritt, Ereignis::kSchritte);
         break;
     case Ereignis::Art::sichtbar:
         brett_->figurZeigen(e.a, e.ja);
@@ -62,18 +62,36 @@ void BrettFenster::zeigen(const Ereignis& e) {
     }
 }
 
-void BrettFenster::figurBewegt(int k, int left, int top) {
-    zuletztGeglitten_ = false;
-    wiedergabe_.anhaengen(Ereignis::Art::bewegt, k, left, top);
+void BrettFenster::bewegen(int k, int von, int nach, bool gleitet) {
+    zuletztGeglitten_ = gleitet;
+    if (!gleitet) return wiedergabe_.anhaengen(Ereignis::Art::bewegt, k, nach);
+    // The playback spreads the steps over the time the pace allows.
+    for (int i = 1; i <= Ereignis::kSchritte; ++i)
+        wiedergabe_.anhaengen(Ereignis{Ereignis::Art::gleitet, k, von, nach, false, {}, i});
 }
 
-void BrettFenster::figurGleitet(int k, int left, int top) {
-    zuletztGeglitten_ = true;
-    wiedergabe_.anhaengen(Ereignis::Art::gleitet, k, left, top);
+void BrettFenster::figurGezogen(int k, int von, int nach, bool gleitet) {
+    bewegen(k, von, nach, gleitet);
 }
 
-void BrettFenster::figurSichtbar(int k, bool sichtbar) {
-    wiedergabe_.anhaengen(Ereignis::Art::sichtbar, k, 0, 0, sichtbar);
+void BrettFenster::fuchsGeparkt(int k, int von, bool gleitet) {
+    bewegen(k, von, kParkfeld, gleitet);
+}
+
+void BrettFenster::fuchsZurueck(int k, int nach, bool gleitet) {
+    bewegen(k, kParkfeld, nach, gleitet);
+}
+
+void BrettFenster::henneGeschlagen(int k, int /*feld*/) {
+    wiedergabe_.anhaengen(Ereignis::Art::sichtbar, k, 0, 0, false);
+}
+
+void BrettFenster::aufgestellt(const Stellung& s) {
+    for (int k = 0; k < kFiguren; ++k) {
+        const int feld = s.figurplatz[static_cast<std::size_t>(k)];
+        wiedergabe_.anhaengen(Ereignis::Art::bewegt, k, feld);
+        wiedergabe_.anhaengen(Ereignis::Art::sichtbar, k, 0, 0, BrettFlaeche::istFuchs(k) || feld != 0);
+    }
 }
 
 void BrettFenster::figurenZiehbar(bool ziehbar) {

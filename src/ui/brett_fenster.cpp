@@ -70,7 +70,7 @@ BrettFenster::BrettFenster(std::filesystem::path ordner, uint32_t startzeit, QWi
     spielerAnwenden();
     // Start-up moves nothing that could be paced: its reports are shown at once.
     wiedergabe_.abbrechen([](const Ereignis&) { return true; });
-    bilderSetzen();
+    brett_->aufstellen(spiel_->stellung());
     befehleAbgleichen();
 
     zugUhr_.start();
@@ -90,14 +90,6 @@ void BrettFenster::verbinden() {
     connect(&naechsterZug_, &QTimer::timeout, this, &BrettFenster::selbstspielSchritt);
     zugUhr_.setInterval(500);
     connect(&zugUhr_, &QTimer::timeout, this, &BrettFenster::zugTakt);
-}
-
-void BrettFenster::bilderSetzen() {
-    const Figurbilder& bilder = spiel_->bilder();
-    for (int k = 0; k < kFiguren; ++k) {
-        brett_->figurSetzen(k, bilder.left[k], bilder.top[k]);
-        brett_->figurZeigen(k, bilder.sichtbar[k]);
-    }
 }
 
 BrettFenster::~BrettFenster() {

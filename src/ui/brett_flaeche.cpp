@@ -8,15 +8,11 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <cmath>
-#include <cstdlib>
 #include <utility>
 
-#include "board/bildlage.h"
 #include "ui/brett_zugang.h"
 
 namespace fuh {
-
-namespace {} // namespace
 
 BrettFlaeche::BrettFlaeche(std::function<bool()> ziehbar, QWidget* parent)
     : QWidget(parent), ziehbar_(std::move(ziehbar)) {
@@ -31,7 +27,8 @@ BrettFlaeche::BrettFlaeche(std::function<bool()> ziehbar, QWidget* parent)
 
     // The prompts lie over empty corners of the board; the pieces are created later and so stay on top.
     hinweiseAnlegen();
-    const QSize bild(kBildgroesse / kTwipsProPixel, kBildgroesse / kTwipsProPixel);
+    const QSize bild(figurseite() / kTwipsProPixel, figurseite() / kTwipsProPixel);
+    stand_.fill(-1);
     for (int k = 0; k < kFiguren; ++k) {
         auto* figur = new SvgBild(istFuchs(k) ? thema_.fuchs : thema_.henne, bild, this);
         figur->setObjectName(QStringLiteral("figur%1").arg(k));
@@ -43,8 +40,12 @@ BrettFlaeche::BrettFlaeche(std::function<bool()> ziehbar, QWidget* parent)
 void BrettFlaeche::themaSetzen(const Thema& thema) {
     thema_ = thema;
     brett_ = QPixmap();
-    for (int k = 0; k < kFiguren; ++k)
+    for (int k = 0; k < kFiguren; ++k) {
         figuren_[k]->setDatei(istFuchs(k) ? thema_.fuchs : thema_.henne);
+        // The theme may put the points elsewhere; a gliding piece follows with its next step.
+        if (stand_[k] >= 0) lagen_[k] = ecke(stand_[k]);
+        figuren_[k]->setGeometry(figurRechteck(k));
+    }
     if (schwebend_ && gezogen_ >= 0) schwebend_->setDatei(figuren_[gezogen_]->datei());
     hinweiseAnordnen();
     update();
@@ -56,13 +57,24 @@ QPointF BrettFlaeche::abbild(double left, double top) const {
     return QPointF(ursprung_) + QPointF(left * seite_ / kTwipsProSeite, top * seite_ / kTwipsProSeite);
 }
 
+QPoint BrettFlaeche::ecke(int feld) const {
+    // Rounded in twips, so that a point given to a third of a unit lands on the same whole twip each time.
+    const QPointF mitte = thema_.punkte[static_cast<std::size_t>(feld)] * kTwipsProPixel;
+    return QPoint(static_cast<int>(std::lround(mitte.x())), static_cast<int>(std::lround(mitte.y()))) -
+           QPoint(figurseite() / 2, figurseite() / 2);
+}
+
+int BrettFlaeche::figurseite() const {
+    return static_cast<int>(std::lround(thema_.figur * kTwipsProPixel));
+}
+
 QRect BrettFlaeche::figurRechteck(int k) const {
     return bildRechteck(lagen_[k]);
 }
 
 QRect BrettFlaeche::bildRechteck(QPoint twips) const {
     const QPointF p = abbild(twips.x(), twips.y());
-    const int groesse = static_cast<int>(std::lround(kBildgroesse * skala() / kTwipsProPixel));
+    const int groesse = static_cast<int>(std::lround(figurseite() * skala() / kTwipsProPixel));
     return {static_cast<int>(std::floor(p.x())), static_cast<int>(std::floor(p.y())), groesse, groesse};
 }
 
@@ -99,7 +111,8 @@ void BrettFlaeche::paintEvent(QPaintEvent*) {
     const double strich = thema_.strich * s;
     const double radius = 19.5 * s;
     auto mitteVon = [this](int feld) {
-        return abbild(platzLeft(feld) + kBildgroesse / 2.0, platzTop(feld) + kBildgroesse / 2.0);
+        const QPoint e = ecke(feld);
+        return abbild(e.x() + figurseite() / 2.0, e.y() + figurseite() / 2.0);
     };
     // The hint: a light green path from the piece over each landing square, with rings at its ends.
     if (!tipp_.empty()) {
@@ -121,15 +134,26 @@ void BrettFlaeche::paintEvent(QPaintEvent*) {
     }
 }
 
-void BrettFlaeche::figurSetzen(int k, int left, int top) {
-    figurGleiten(k, left, top);
+void BrettFlaeche::figurSetzen(int k, int feld) {
+    figurGleiten(k, feld, feld, 1, 1);
     inhaltAbgleichen();
 }
 
-void BrettFlaeche::figurGleiten(int k, int left, int top) {
-    lagen_[k] = QPoint(left, top);
+void BrettFlaeche::figurGleiten(int k, int von, int nach, int schritt, int schritte) {
+    const QPoint a = ecke(von);
+    lagen_[k] = a + (ecke(nach) - a) * schritt / schritte;
+    stand_[k] = schritt == schritte ? nach : -1;
     figuren_[k]->setGeometry(figurRechteck(k));
-    emit figurVersetzt(k, left, top);
+    emit figurVersetzt(k, lagen_[k].x(), lagen_[k].y());
+}
+
+void BrettFlaeche::aufstellen(const Stellung& s) {
+    for (int k = 0; k < kFiguren; ++k) {
+        const int feld = s.figurplatz[static_cast<std::size_t>(k)];
+        const bool aufDemBrett = istFuchs(k) || feld != 0; // a parked fox waits beside the cross
+        figurSetzen(k, aufDemBrett && feld >= 0 && feld < kFelder ? feld : kParkfeld);
+        figurZeigen(k, aufDemBrett);
+    }
 }
 
 void BrettFlaeche::figurZeigen(int k, bool sichtbar) {
@@ -178,17 +202,13 @@ int BrettFlaeche::platzAn(QPoint p) const {
     const double s = kTwipsProPixel / skala();
     const QPointF t = (QPointF(p) - QPointF(ursprung_)) * s;
     for (int f = 0; f < kFelder; ++f)
-        if (QRectF(platzLeft(f), platzTop(f), kBildgroesse, kBildgroesse).contains(t)) return f;
+        if (QRectF(ecke(f), QSizeF(figurseite(), figurseite())).contains(t)) return f;
     return -1;
 }
 
 int BrettFlaeche::figurAuf(int feld) const {
-    // A slide's steps are rounded, so a computer piece may come to rest a little beside its target.
-    constexpr int kSpiel = kBildgroesse / 8;
     for (int k = 0; k < kFiguren; ++k)
-        if (!figuren_[k]->isHidden() && std::abs(lagen_[k].x() - platzLeft(feld)) <= kSpiel &&
-            std::abs(lagen_[k].y() - platzTop(feld)) <= kSpiel)
-            return k;
+        if (!figuren_[k]->isHidden() && stand_[k] == feld) return k;
     return -1;
 }
 

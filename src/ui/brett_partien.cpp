@@ -12,7 +12,6 @@
 #include "dateischicht/satzdatei.h"
 #include "game/nachspielen.h"
 #include "game/spiel.h"
-#include "game/zug.h"
 #include "ui/ansage.h"
 #include "ui/brett_fenster.h"
 #include "ui/brett_flaeche.h"
@@ -141,13 +140,14 @@ void BrettFenster::blaetternUm(int schritte) {
 void BrettFenster::blaettern(std::size_t n) {
     if (beschaeftigt() || !blaetternVorbereiten() || n >= blaetterStaende_.size()) return;
     Spielstand ziel = blaetterStaende_[n];
-    Figurbilder bilder = spiel_->bilder();
+    const auto& jetzt = spiel_->stellung().figurplatz;
+    const auto& dann = ziel.stellung.figurplatz;
+    // A hen taken on the way just goes; a piece that stands on the board before and after glides.
     for (int k = 0; k < kFiguren; ++k)
-        if (bilder.sichtbar[k] && ziel.bilder.sichtbar[k] &&
-            (bilder.left[k] != ziel.bilder.left[k] || bilder.top[k] != ziel.bilder.top[k]))
-            gleiten(bilder, *this, k, ziel.bilder.left[k], ziel.bilder.top[k]);
+        if (jetzt[k] != dann[k] && (BrettFlaeche::istFuchs(k) || (jetzt[k] != 0 && dann[k] != 0)))
+            bewegen(k, jetzt[k], dann[k], true);
     blaetterStand_ = n;
-    ziel.bilder.ziehbar = false;
+    ziel.ziehbar = false;
     ziel.zufall = spiel_->zustand().zufall;
     ziel.tippZufall = spiel_->zustand().tippZufall;
     brett_->tippLoeschen();

@@ -10,7 +10,6 @@
 #include <algorithm>
 #include <utility>
 
-#include "board/bildlage.h"
 #include "ui/brett_flaeche.h"
 #include "ui/brett_zugang.h"
 
@@ -28,7 +27,7 @@ int naechsterPunkt(int feld, int dx, int dy) {
 } // namespace
 
 QRect BrettFlaeche::feldRechteck(int feld) const {
-    return bildRechteck(QPoint(platzLeft(feld), platzTop(feld)));
+    return bildRechteck(ecke(feld));
 }
 
 QPoint BrettFlaeche::mitte(int feld) const {

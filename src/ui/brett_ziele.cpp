@@ -7,7 +7,6 @@
 #include <algorithm>
 #include <utility>
 
-#include "board/bildlage.h"
 #include "ui/brett_flaeche.h"
 #include "ui/brett_zugang.h"
 

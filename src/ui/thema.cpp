@@ -30,6 +30,39 @@ QString bild(const QSettings& ini, const QDir& ordner, const char* schluessel) {
     return QFileInfo(pfad).isFile() ? pfad : QString();
 }
 
+// Numbers separated by blanks, each within [0, kBrettseite]; none unless there are exactly `anzahl`.
+std::optional<std::vector<double>> zahlen(const QSettings& ini, const QString& schluessel, int anzahl) {
+    std::vector<double> werte;
+    for (const QString& teil : ini.value(schluessel).toString().split(QLatin1Char(' '), Qt::SkipEmptyParts)) {
+        bool ok = false;
+        const double v = teil.toDouble(&ok);
+        if (!ok || !(v >= 0 && v <= kBrettseite)) return std::nullopt;
+        werte.push_back(v);
+    }
+    if (static_cast<int>(werte.size()) != anzahl) return std::nullopt;
+    return werte;
+}
+
+// The group [Punkte]: Y the rows' centres from the top, X0 to X6 each row's column centres from the left,
+// Figur a piece's side. A theme that gives them only in part keeps `t`'s points: no half-moved board.
+void punkteLesen(QSettings& ini, Thema& t) {
+    ini.beginGroup(QStringLiteral("Punkte"));
+    const auto y = zahlen(ini, QStringLiteral("Y"), 7);
+    const auto figur = zahlen(ini, QStringLiteral("Figur"), 1);
+    std::array<QPointF, kFelder> punkte{};
+    bool vollstaendig = y && figur && figur->front() >= 8 && figur->front() <= kBrettseite / 7.0;
+    for (int zeile = 0; zeile < 7 && vollstaendig; ++zeile) {
+        const auto x = zahlen(ini, QStringLiteral("X%1").arg(zeile), 7);
+        vollstaendig = x.has_value();
+        for (int spalte = 0; x && spalte < 7; ++spalte)
+            punkte[feldNummer(spalte, zeile)] = QPointF((*x)[spalte], (*y)[zeile]);
+    }
+    ini.endGroup();
+    if (!vollstaendig) return;
+    t.punkte = punkte;
+    t.figur = figur->front();
+}
+
 // The theme in `ordner`; what it leaves out is taken from `basis`. None unless it has all three
 // pictures and every colour.
 std::optional<Thema> lesen(const QDir& ordner, const Thema& basis) {
@@ -61,6 +94,8 @@ std::optional<Thema> lesen(const QDir& ordner, const Thema& basis) {
     }
     if (!vollstaendig) return std::nullopt;
     t.strich = std::clamp(ini.value(QStringLiteral("Strich"), basis.strich).toDouble(), 0.5, 3.0);
+    ini.endGroup();
+    punkteLesen(ini, t);
     return t;
 }
 
@@ -72,6 +107,14 @@ Thema klassisch(const QDir& wurzel) {
 }
 
 } // namespace
+
+std::array<QPointF, kFelder> Thema::gleichmaessigePunkte() {
+    std::array<QPointF, kFelder> p{};
+    const double siebtel = kBrettseite / 7.0;
+    for (int f = 0; f < kFelder; ++f)
+        p[f] = QPointF((feldX(f) + 0.5) * siebtel, (feldY(f) + 0.5) * siebtel);
+    return p;
+}
 
 QString Thema::anzeigename() const {
     return aktuelleSprache() == Sprache::englisch ? nameEn : name;

@@ -26,7 +26,11 @@ Wiedergabe::Wiedergabe(std::function<void(const Ereignis&)> zeigen, QObject* par
 }
 
 void Wiedergabe::anhaengen(Ereignis::Art art, int a, int b, int c, bool ja, QString text) {
-    schlange_.push_back(Ereignis{art, a, b, c, ja, std::move(text)});
+    anhaengen(Ereignis{art, a, b, c, ja, std::move(text)});
+}
+
+void Wiedergabe::anhaengen(Ereignis e) {
+    schlange_.push_back(std::move(e));
     if (!aktiv_ && !takt_.isActive() && !pause_.isActive()) anstoss_.start();
 }
 

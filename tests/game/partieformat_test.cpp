@@ -33,31 +33,82 @@ TEST_F(PartieTest, BeschaedigteBytesWerdenAbgelehnt) {
     }
 }
 
-// A game saved before the game kept its moves (version 2) still continues: the same game without a record.
-// Made from today's bytes of such a game: each state's empty record (a count, a flag and a reason) taken
-// out, the version, length and checksum set back.
-TEST_F(PartieTest, AeltereFassungWirdGelesen) {
-    Sicherung s = mitten();
-    s.stand.mitschrift = {};
-    s.verlauf.clear();
+// The bytes an older program wrote for a game without take-back states: today's bytes with each piece's
+// picture put back (its place in twips and whether it was shown) and, for version 2, without the record
+// of the moves. `bild` gives piece k's picture.
+struct AltesBild {
+    int left, top;
+    bool sichtbar;
+};
+Bytes alteFassung(const Sicherung& s, uint16_t version, const std::function<AltesBild(int)>& bild) {
     const Bytes neu = partieKodieren(s);
-    constexpr std::size_t kKopf = 10, kLeereMitschrift = 5, kVerlaufszahl = 2, kSumme = 4;
-    Bytes alt(neu.begin(), neu.end() - static_cast<long>(kSumme + kVerlaufszahl + kLeereMitschrift));
-    alt.insert(alt.end(), {0, 0}); // no take-back states
-    alt[4] = 2, alt[5] = 0;
-    const uint32_t laenge = static_cast<uint32_t>(alt.size() - kKopf);
+    constexpr std::size_t kKopf = 10, kVorBildern = 1 + 98 + 44 + 8 + 5, kLeereMitschrift = 5, kSumme = 4;
+    Bytes inhalt(neu.begin() + kKopf, neu.end() - kSumme);
+    Bytes bilder;
+    for (int k = 0; k < kFiguren; ++k) {
+        const AltesBild b = bild(k);
+        for (const int v : {b.left, b.top})
+            for (int i = 0; i < 4; ++i)
+                bilder.push_back(static_cast<uint8_t>(static_cast<uint32_t>(v) >> (8 * i)));
+        bilder.push_back(b.sichtbar ? 1 : 0);
+    }
+    inhalt.insert(inhalt.begin() + kVorBildern, bilder.begin(), bilder.end());
+    if (version == 2) inhalt.erase(inhalt.end() - 2 - kLeereMitschrift, inhalt.end() - 2);
+    Bytes alt(neu.begin(), neu.begin() + kKopf);
+    alt[4] = static_cast<uint8_t>(version), alt[5] = 0;
     for (int i = 0; i < 4; ++i)
-        alt[6 + static_cast<std::size_t>(i)] = static_cast<uint8_t>(laenge >> (8 * i));
+        alt[6 + static_cast<std::size_t>(i)] = static_cast<uint8_t>(inhalt.size() >> (8 * i));
+    alt.insert(alt.end(), inhalt.begin(), inhalt.end());
     uint32_t h = 2166136261u;
-    for (std::size_t i = kKopf; i < alt.size(); ++i)
-        h = (h ^ alt[i]) * 16777619u;
+    for (const uint8_t c : inhalt)
+        h = (h ^ c) * 16777619u;
     for (int i = 0; i < 4; ++i)
         alt.push_back(static_cast<uint8_t>(h >> (8 * i)));
-    const auto gelesen = partieDekodieren(alt);
-    ASSERT_TRUE(gelesen.has_value());
-    EXPECT_TRUE(*gelesen == s);
-    alt[4] = 4; // a version yet to come is not guessed at
-    EXPECT_FALSE(partieDekodieren(alt).has_value());
+    return alt;
+}
+
+// Games saved by earlier versions still continue, their pictures read, checked and dropped: version 3
+// with its record, version 2 without one. A picture that contradicts the board still refuses the file.
+TEST_F(PartieTest, AeltereFassungenWerdenGelesen) {
+    Sicherung s = mitten();
+    s.verlauf.clear();
+    const auto& platz = s.stand.stellung.figurplatz;
+    const auto wieGezeigt = [&](int k) {
+        return AltesBild{165 + 7 * k, 240 + 840 * (k % 7), k < 2 || platz[k] != 0};
+    };
+    int geschlagen = 2;
+    while (geschlagen < kFiguren && platz[geschlagen] != 0)
+        ++geschlagen;
+    ASSERT_LT(geschlagen, kFiguren) << "the game should have taken a hen";
+
+    const auto v3 = partieDekodieren(alteFassung(s, 3, wieGezeigt));
+    ASSERT_TRUE(v3.has_value());
+    EXPECT_TRUE(*v3 == s);
+    s.stand.mitschrift = {};
+    const auto v2 = partieDekodieren(alteFassung(s, 2, wieGezeigt));
+    ASSERT_TRUE(v2.has_value());
+    EXPECT_TRUE(*v2 == s);
+
+    const std::vector<std::pair<const char*, std::function<AltesBild(int)>>> falsch = {
+        {"a taken hen shown",
+         [&](int k) {
+             return AltesBild{0, 0, k != geschlagen ? wieGezeigt(k).sichtbar : true};
+         }},
+        {"a fox hidden",
+         [&](int k) {
+             return AltesBild{0, 0, k != 1 && wieGezeigt(k).sichtbar};
+         }},
+        {"a picture past 16 bits",
+         [&](int k) {
+             return AltesBild{k == 5 ? 40000 : 0, 0, wieGezeigt(k).sichtbar};
+         }},
+    };
+    for (const auto& [name, bild] : falsch)
+        for (const uint16_t version : {2, 3})
+            EXPECT_FALSE(partieDekodieren(alteFassung(s, version, bild))) << name << ", version " << version;
+    Bytes zukunft = partieKodieren(s);
+    zukunft[4] = 5; // a version yet to come is not guessed at
+    EXPECT_FALSE(partieDekodieren(zukunft).has_value());
 }
 
 // Well-formed files whose values no running game can have: never trusted, whatever the checksum says.
@@ -73,7 +124,6 @@ TEST_F(PartieTest, WerteAusserhalbWerdenAbgelehnt) {
         {"hen on a fox's square", [](Spielstand& z) { z.stellung.figurplatz[7] = z.stellung.figurplatz[0]; }},
         {"register off the grid", [](Spielstand& z) { z.zugregister.nachX = 7; }},
         {"jump sequence off the grid", [](Spielstand& z) { z.sprungfolge.sprungY = -2; }},
-        {"image far away", [](Spielstand& z) { z.bilder.left[2] = 40000; }},
         {"positions past the table", [](Spielstand& z) { z.partie.spielzug = kSituationen + 1; }},
         {"position code", [](Spielstand& z) { z.partie.sits[0].code[8] = 64 + 7; }},
         {"jump flag", [](Spielstand& z) { z.partie.sits[1].sprung = 2; }},
@@ -114,15 +164,7 @@ std::vector<Fall> unerreichbareFaelle() {
         {"move limit reached, still running", [](Spielstand& z) { z.partie.spielzug = kZugbegrenzung; }},
         {"counter past the positions recorded", [](Spielstand& z) { z.partie.spielzug += 1; }},
         {"counter short of the board", [](Spielstand& z) { z.partie.spielzug -= 1; }},
-        {"no hens, twenty pictures", hennenWeg},
-        {"no hens, no pictures",
-         [=](Spielstand& z) {
-             hennenWeg(z);
-             for (int k = 2; k < kFiguren; ++k)
-                 z.bilder.sichtbar[k] = false;
-         }},
-        {"a hen's picture hidden", [](Spielstand& z) { z.bilder.sichtbar[20] = !z.bilder.sichtbar[20]; }},
-        {"a picture off its square", [](Spielstand& z) { z.bilder.top[0] += 400; }},
+        {"no hens", hennenWeg},
         {"side setting 3", [](Spielstand& z) { z.oeff.einst.PC = 3; }},
         {"jump chain on the hens' turn",
          [=](Spielstand& z) { sprungAuf(z, z.stellung.figurplatz[0]), z.amZug = Seite::Hennen; }},
@@ -134,7 +176,7 @@ std::vector<Fall> unerreichbareFaelle() {
              sprungAuf(z, p), z.amZug = Seite::Fuchs;
          }},
         {"running but the end announced", [](Spielstand& z) { z.endeGefunden = true; }},
-        {"running but pieces locked", [](Spielstand& z) { z.bilder.ziehbar = false; }},
+        {"running but pieces locked", [](Spielstand& z) { z.ziehbar = false; }},
         {"running with a winner", [](Spielstand& z) { z.oeff.u_is_sieger = "Ja"; }},
     };
 }

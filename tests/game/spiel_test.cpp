@@ -37,7 +37,7 @@ TEST_F(FuchsSpieltTest, NeuNachFangUndStrafeStelltAllesAuf) {
     erwartet.Feld[3][2] = henne;
     EXPECT_EQ(spiel.stellung().Feld, erwartet.Feld);
     for (int k = 0; k < kFiguren; ++k)
-        EXPECT_TRUE(spiel.bilder().sichtbar[k]) << k;
+        EXPECT_NE(spiel.stellung().figurplatz[k], kParkfeld) << k;
     EXPECT_EQ(spiel.spielzug(), 1);
     EXPECT_EQ(statistik(14), 2);
 }

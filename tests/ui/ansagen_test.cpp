@@ -58,7 +58,7 @@ class AnsagenTest : public QObject {
         QCOMPARE(name(d4), QStringLiteral("d4: leer"));
         QCOMPARE(name(brett->focusChild()), QStringLiteral("d5: Henne"));
         const int k = a.brett()->figurAuf(feldNummer(3, 2));
-        a.brett()->figurGleiten(k, platzLeft(feldNummer(3, 3)), platzTop(feldNummer(3, 3)));
+        a.brett()->figurGleiten(k, feldNummer(3, 2), feldNummer(3, 3), 100, 100);
         QCOMPARE(name(d4), QStringLiteral("d4: leer"));
 
         // A fox taken off the board is still found, on its own place beside the cross.
@@ -102,7 +102,7 @@ class AnsagenTest : public QObject {
         QSignalSpy gesagt(&ansage, &Ansage::angesagt);
         // As the window shows a move: the piece's image lands first, then the move is reported.
         auto zug = [&](int k, int von, int nach) {
-            brett.figurSetzen(k, platzLeft(nach), platzTop(nach));
+            brett.figurSetzen(k, nach);
             ansage.ereignis({Ereignis::Art::zug, von, nach, 0, true, {}});
         };
         zug(1, feldNummer(2, 2), feldNummer(2, 4));

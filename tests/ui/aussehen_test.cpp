@@ -58,23 +58,45 @@ class AussehenTest : public QObject {
     }
 
     // A theme of one's own is a folder: what it leaves out comes from the classic board, and a folder
-    // without its pictures is no theme.
+    // without its pictures is no theme. Points given in part or out of the picture are not taken; a
+    // theme's own points move the pieces and targets there at once.
     void einOrdnerIstEinThema() {
         QTemporaryDir wurzel;
-        QDir(wurzel.path()).mkpath(QStringLiteral("rot"));
-        QDir(wurzel.path()).mkpath(QStringLiteral("halb"));
+        for (const char* name : {"rot", "halb", "weit"})
+            QDir(wurzel.path()).mkpath(QLatin1String(name));
         QFile::copy(QStringLiteral(":/themen/klassisch/brett.svg"),
                     wurzel.filePath(QStringLiteral("rot/b.svg")));
+        const QByteArray bilder = "[Thema]\nBrett=../rot/b.svg\nFuchs=../rot/b.svg\nHenne=../rot/b.svg\n";
         schreibe(wurzel.filePath(QStringLiteral("rot/thema.ini")),
-                 "[Thema]\nName=Rot\nBrett=b.svg\nFuchs=b.svg\nHenne=b.svg\nRand=#ff0000\nStrich=99\n");
+                 bilder + "Name=Rot\nRand=#ff0000\nStrich=99\n[Punkte]\nY=10 20 30 40 50 60 401\n"
+                          "X0=1 2 3 4 5 6 7\nFigur=20\n");
         schreibe(wurzel.filePath(QStringLiteral("halb/thema.ini")), "[Thema]\nBrett=fehlt.svg\n");
+        QByteArray weit = bilder + "[Punkte]\nY=20 80 140 200 260 320 380\nFigur=40\n";
+        for (int zeile = 0; zeile < 7; ++zeile)
+            weit += "X" + QByteArray::number(zeile) + "=20 80 140 200 260 320 380\n";
+        schreibe(wurzel.filePath(QStringLiteral("weit/thema.ini")), weit);
         const std::vector<Thema> liste = themen(wurzel.path());
-        QCOMPARE(liste.size(), 2u); // the game's own classic board, and "rot"
-        const Thema& rot = liste.back();
+        QCOMPARE(liste.size(), 3u); // the game's own classic board, "rot" and "weit"
+        const Thema& rot = liste[1];
         QCOMPARE(rot.name, QStringLiteral("Rot"));
         QCOMPARE(rot.rand, QColor(Qt::red));
         QCOMPARE(rot.zugNach, liste.front().zugNach);
         QCOMPARE(rot.strich, 3.0);
+        QVERIFY(rot.punkte == liste.front().punkte && rot.figur == liste.front().figur);
+
+        BrettFlaeche brett([] { return true; });
+        brett.resize(BrettFlaeche::kSeite, BrettFlaeche::kSeite);
+        Stellung s;
+        s.grundstellung();
+        brett.aufstellen(s);
+        const int mitte = feldNummer(3, 3);
+        QCOMPARE(brett.figur(figur_index(s, mitte).value_or(0))->geometry(), brett.feldRechteck(mitte));
+        brett.themaSetzen(liste[2]);
+        QCOMPARE(brett.feldRechteck(mitte), QRect(180, 180, 40, 40));
+        for (int k = 0; k < kFiguren; ++k)
+            QCOMPARE(brett.figur(k)->geometry(), brett.feldRechteck(s.figurplatz[k]));
+        QCOMPARE(brett.platzAn(QPoint(221, 200)), -1);
+        QCOMPARE(brett.platzAn(QPoint(219, 200)), mitte);
     }
 
     void themaGiltSofortUndBleibt() {

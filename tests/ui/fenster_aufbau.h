@@ -18,7 +18,6 @@
 #include <optional>
 #include <vector>
 
-#include "board/bildlage.h"
 #include "game/spiel.h"
 #include "ui/brett_fenster.h"
 #include "ui/brett_flaeche.h"
@@ -26,7 +25,6 @@
 namespace fuh::test {
 
 inline constexpr uint32_t kStartzeit = 36000; // fixed seed: every run plays the same game
-inline constexpr int kTwipsProSeite = BrettFlaeche::kSeite * kTwipsProPixel; // the board's side in twips
 
 // Accepts every message box that opens and remembers its text and icon.
 class Antworter {
@@ -96,11 +94,7 @@ struct Aufbau {
     }
 
     // The centre of square `s` on the board as it is drawn now.
-    QPoint mitte(int s) {
-        const QRect r = brett()->brettRechteck();
-        return r.topLeft() + QPoint((platzLeft(s) + kBildgroesse / 2) * r.width() / kTwipsProSeite,
-                                    (platzTop(s) + kBildgroesse / 2) * r.width() / kTwipsProSeite);
-    }
+    QPoint mitte(int s) { return brett()->feldRechteck(s).center(); }
     // A left-button drag from `von` to `ziel` (board coordinates).
     void ziehe(QPoint von, QPoint ziel) {
         QTest::mousePress(brett(), Qt::LeftButton, Qt::NoModifier, von);
@@ -112,16 +106,15 @@ struct Aufbau {
     void ziehe(int von, int nach) { ziehe(mitte(von), mitte(nach)); }
 };
 
-// Every piece image stands where the game says, at the board's scale, and shows or hides as it says.
+// Every piece image stands on the point where the game has the piece, at the board's scale; a hen the
+// game has taken is hidden, a parked fox waits beside the cross.
 inline void bilderPruefen(Aufbau& a) {
-    const Figurbilder& b = a.spiel().bilder();
-    const QRect r = a.brett()->brettRechteck();
+    const auto& platz = a.spiel().stellung().figurplatz;
     for (int k = 0; k < kFiguren; ++k) {
         const SvgBild* figur = a.brett()->figur(k);
-        const QPoint erwartet = r.topLeft() + QPoint(b.left[k] * r.width() / kTwipsProSeite,
-                                                     b.top[k] * r.width() / kTwipsProSeite);
-        QCOMPARE(figur->pos(), erwartet);
-        QCOMPARE(!figur->isHidden(), b.sichtbar[k]);
+        const bool aufDemBrett = BrettFlaeche::istFuchs(k) || platz[k] != kParkfeld;
+        QCOMPARE(!figur->isHidden(), aufDemBrett);
+        if (aufDemBrett) QCOMPARE(figur->geometry(), a.brett()->feldRechteck(platz[k]));
     }
 }
 

@@ -19,16 +19,4 @@ constexpr int16_t sat16(int v) {
     return static_cast<int16_t>(std::clamp(v, -32768, 32767));
 }
 
-// Rounds num / den (den > 0) to the nearest integer, halves to the even neighbour.
-constexpr int rundeGerade(int num, int den) {
-    int q = num / den;
-    int r = num % den;
-    if (r < 0) {
-        r += den;
-        --q;
-    }
-    if (2 * r > den || (2 * r == den && (q % 2 != 0))) ++q;
-    return q;
-}
-
 } // namespace fuh

@@ -7,6 +7,7 @@
 #include <string>
 
 #include "board/spielausgang.h"
+#include "board/stellung.h"
 
 namespace fuh {
 
@@ -25,11 +26,16 @@ enum class Maustaste { links = 1, rechts = 2 };
 class Ansicht {
   public:
     virtual ~Ansicht() = default;
-    // A piece image moved; the screen repaints it at once (slides show every step).
-    virtual void figurBewegt(int k, int left, int top) = 0;
-    // One of the 100 steps of a computer piece's slide; a screen may pause briefly so the slide is seen.
-    virtual void figurGleitet(int k, int left, int top) { figurBewegt(k, left, top); }
-    virtual void figurSichtbar(int k, bool sichtbar) = 0;
+    // What happens to the pieces, once each, in the game's squares. `gleitet`: the computer moved it, so a
+    // screen lets it glide; a person's own piece is set down at once.
+    virtual void figurGezogen(int /*k*/, int /*von*/, int /*nach*/, bool /*gleitet*/) {}
+    // A jump took hen k off square `feld`; she has no square any more.
+    virtual void henneGeschlagen(int /*k*/, int /*feld*/) {}
+    // The penalty rule parked fox k beside the cross (on kParkfeld), or brought it back onto `nach`.
+    virtual void fuchsGeparkt(int /*k*/, int /*von*/, bool /*gleitet*/) {}
+    virtual void fuchsZurueck(int /*k*/, int /*nach*/, bool /*gleitet*/) {}
+    // Every piece stands anew where `s` has it (a new game, a take-back, a game continued or opened).
+    virtual void aufgestellt(const Stellung& /*s*/) {}
     // All pieces draggable (automatic drag mode) or locked.
     virtual void figurenZiehbar(bool ziehbar) = 0;
     // Shows or hides a prompt label and repaints it at once.
@@ -48,7 +54,7 @@ class Ansicht {
     // again and again while it waits, then once with `fertig`. A screen keeps painting meanwhile and
     // shows that it is busy; nothing may call into the game until the wait is over.
     virtual void wartetAufDateien(bool /*fertig*/) {}
-    // Every executed move, for logs; the screen has already been told through figurBewegt.
+    // Every executed move, for logs; the screen has already been told through figurGezogen.
     virtual void zugAusgefuehrt(int /*vonX*/, int /*vonY*/, int /*nachX*/, int /*nachY*/, bool /*normal*/) {}
 };
 

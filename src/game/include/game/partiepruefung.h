@@ -9,8 +9,8 @@
 
 namespace fuh {
 
-// Every value in range; the positions recorded up to the move counter, the last of them the board; every
-// picture where its piece stands; the flags telling one story; a running game (or, with `abzulegen`, a
+// Every value in range; the positions recorded up to the move counter, the last of them the board; the
+// flags telling one story; a running game (or, with `abzulegen`, a
 // finished one) whose take-back states are earlier states of the same game.
 bool sicherungGueltig(const Sicherung& s);
 

@@ -12,7 +12,6 @@
 #include <string>
 #include <vector>
 
-#include "board/bildlage.h"
 #include "board/regeln.h"
 #include "board/stellung.h"
 #include "board/teilzug.h"
@@ -103,8 +102,7 @@ class Spiel {
     const Stellung& stellung() const { return z_.stellung; }
     const Sprungfolge& sprungfolge() const { return z_.sprungfolge; }
     const Teilzug& zugregister() const { return z_.zugregister; } // the last move made
-    const Figurbilder& bilder() const { return z_.bilder; }
-    bool ziehbar() const { return z_.bilder.ziehbar; }
+    bool ziehbar() const { return z_.ziehbar; }
     Oeffentlich& oeffentlich() { return z_.oeff; }
     const Oeffentlich& oeffentlich() const { return z_.oeff; }
     const std::filesystem::path& ordner() const { return ordner_; }
@@ -136,7 +134,7 @@ class Spiel {
     bool zurueckgenommen() const { return z_.zurueckgenommen; }
 
     // A game is running: started, and not yet ended.
-    bool laeuft() const { return z_.bilder.ziehbar && !z_.endeGefunden; }
+    bool laeuft() const { return z_.ziehbar && !z_.endeGefunden; }
     // The whole running game, random sources included, and going on from such a copy: the view is told
     // the restored pieces, prompts and status texts. Continuing counts no new game.
     Spielstand zustand() const;

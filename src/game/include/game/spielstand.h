@@ -9,7 +9,6 @@
 #include <string>
 #include <vector>
 
-#include "board/bildlage.h"
 #include "board/regeln.h"
 #include "board/spielausgang.h"
 #include "board/stellung.h"
@@ -24,7 +23,7 @@ struct Spielstand {
     Stellung stellung;
     Teilzug zugregister;     // vonX, vonY, nachX, nachY: the move being made
     Sprungfolge sprungfolge; // a person's fox's open jump sequence
-    Figurbilder bilder;
+    bool ziehbar = false;    // the pieces may be dragged (automatic drag mode) or are locked
     Partie partie;
     Oeffentlich oeff;
     Seite amZug = Seite::Hennen; // the side to move

@@ -4,7 +4,6 @@
 
 #pragma once
 // The one procedure that changes the real board.
-#include "board/bildlage.h"
 #include "board/regeln.h"
 #include "board/stellung.h"
 #include "board/teilzug.h"
@@ -13,21 +12,17 @@
 
 namespace fuh {
 
-// What a move changes: the position, the open jump sequence, the images, and the credits it earns.
+// What a move changes: the position, the open jump sequence, and the credits it earns; the view hears of it.
 struct Zugumgebung {
     Stellung& stellung;
     const Teilzug& zugregister;
     Sprungfolge& sprungfolge;
-    Figurbilder& bilder;
     Ansicht& ansicht;
     Partie& partie;
-    bool menschFuchs, menschHennen; // a person's pieces snap into place, the computer's slide
+    bool menschFuchs, menschHennen; // a person's pieces snap into place, the computer's glide
 };
 
 // Executes the move in the move register. `normal` false: a penalty move, without jump handling.
 void zug(Zugumgebung& u, bool normal);
-
-// One slide in 100 equal steps, each reported to the view; ends where the rounding puts it.
-void gleiten(Figurbilder& bilder, Ansicht& ansicht, int k, int zielLeft, int zielTop);
 
 } // namespace fuh

@@ -22,8 +22,6 @@ class ProtokollAnsicht : public Ansicht {
     ProtokollAnsicht(const Oeffentlich*& spiel, std::ostream* aus, Speicherfehler beiSpeicherfehler = {})
         : spiel_(spiel), aus_(aus), beiSpeicherfehler_(std::move(beiSpeicherfehler)) {}
 
-    void figurBewegt(int, int, int) override {}
-    void figurSichtbar(int, bool) override {}
     void figurenZiehbar(bool) override {}
     void hinweis(Hinweis, bool) override {}
     void status(Statusfeld, const std::string&) override {}

@@ -106,9 +106,11 @@ class BrettFenster : public QMainWindow, public Ansicht {
     bool beendenDarf();
 
     // Ansicht: every report is queued and shown in order by the playback.
-    void figurBewegt(int k, int left, int top) override;
-    void figurGleitet(int k, int left, int top) override;
-    void figurSichtbar(int k, bool sichtbar) override;
+    void figurGezogen(int k, int von, int nach, bool gleitet) override;
+    void henneGeschlagen(int k, int feld) override;
+    void fuchsGeparkt(int k, int von, bool gleitet) override;
+    void fuchsZurueck(int k, int nach, bool gleitet) override;
+    void aufgestellt(const Stellung& s) override;
     void figurenZiehbar(bool ziehbar) override;
     void hinweis(Hinweis h, bool sichtbar) override;
     void status(Statusfeld feld, const std::string& text) override;
@@ -152,8 +154,8 @@ class BrettFenster : public QMainWindow, public Ansicht {
     void endeZeigen(const Ereignis& e);
     // A message that is only noted (status and screen reader), not shown in a box that halts the game.
     bool nurNotiz(const QString& text) const;
-    // The pieces where the game keeps them, before the window is first shown.
-    void bilderSetzen();
+    // Piece k goes from square `von` to `nach`: a computer's glides there in steps, a person's is set down.
+    void bewegen(int k, int von, int nach, bool gleitet);
 
     // Menu and the other windows (brett_menue.cpp).
     void menueAnlegen();
@@ -203,7 +205,7 @@ class BrettFenster : public QMainWindow, public Ansicht {
     Wiedergabe wiedergabe_;
     QTimer naechsterZug_; // the rest between two moves of a game the computer plays itself
     bool selbstspielSchleife_ = false;
-    bool zuletztGeglitten_ = false;         // the last piece image moved was a computer piece's slide
+    bool zuletztGeglitten_ = false;         // the last piece moved was a computer piece's glide
     bool wartetAufDateien_ = false;         // the game waits for the data folder's lock
     std::vector<QAction*> wartendeBefehle_; // disabled while busy
     std::array<QAction*, 3> tempoAktionen_{};

@@ -6,8 +6,9 @@
 // The board area: the board picture, the 49 drop targets, the 22 piece images and the four prompts.
 // It turns mouse presses and drags, and the same gestures made with the keyboard cursor, into two
 // signals; whether a move is legal is the game's business.
-// The game places everything in twips on a board of 400 x 400 pixels; this widget shows that board as
-// the largest square that fits, centred, and scales pieces, targets and prompts with it.
+// The theme says where each point lies on its board picture of 400 x 400; this widget places pieces and
+// targets there in twips (1/15 of a picture unit, so that every point is a whole number), shows the
+// board as the largest square that fits, centred, and scales pieces, targets and prompts with it.
 #include <QLabel>
 #include <QPixmap>
 #include <QPoint>
@@ -26,7 +27,7 @@ namespace fuh {
 class BrettFlaeche : public QWidget {
     Q_OBJECT
   public:
-    static constexpr int kSeite = 400;                      // the board picture at scale 1, logical pixels
+    static constexpr int kSeite = kBrettseite;              // the board picture at scale 1, logical pixels
     static constexpr bool istFuchs(int k) { return k < 2; } // pieces 0 and 1 are the foxes
 
     // `ziehbar` tells whether a left press may start a drag now.
@@ -46,11 +47,14 @@ class BrettFlaeche : public QWidget {
     // Where the target of a square is drawn now.
     QRect feldRechteck(int feld) const;
 
-    // Positions in twips. A step of a slide leaves the points' names as they were until the move is
-    // marked (zugMarkieren, markierungLoeschen) or another piece is set.
-    void figurSetzen(int k, int left, int top);
-    void figurGleiten(int k, int left, int top);
+    // Piece k stands on square `feld`. A step of a glide from `von` to `nach` (step `schritt` of
+    // `schritte`) leaves the points' names as they were until the move is marked (zugMarkieren,
+    // markierungLoeschen) or another piece is set.
+    void figurSetzen(int k, int feld);
+    void figurGleiten(int k, int von, int nach, int schritt, int schritte);
     void figurZeigen(int k, bool sichtbar);
+    // Every piece where `s` has it, a hen without a square hidden.
+    void aufstellen(const Stellung& s);
     void hinweisZeigen(Hinweis h, bool sichtbar);
 
     // The last computer move: its first origin and its last destination (squares) stay marked.
@@ -114,6 +118,10 @@ class BrettFlaeche : public QWidget {
     void focusOutEvent(QFocusEvent* event) override;
 
   private:
+    static constexpr int kTwipsProPixel = 15;
+    // The top left corner of the image of a piece standing on `feld`, in twips; a piece's side in twips.
+    QPoint ecke(int feld) const;
+    int figurseite() const;
     QRect figurRechteck(int k) const;
     QRect bildRechteck(QPoint twips) const; // an image whose top left corner stands there
     QRect getragenRechteck() const;         // a piece carried by the keyboard, lifted off the cursor
@@ -140,6 +148,7 @@ class BrettFlaeche : public QWidget {
     Thema thema_ = fuh::thema(QLatin1String(kThemaStandard));
     std::array<SvgBild*, kFiguren> figuren_{};
     std::array<QPoint, kFiguren> lagen_{}; // the images' positions in twips
+    std::array<int, kFiguren> stand_{};    // the square each piece stands on, -1 while it glides
     std::array<QLabel*, 4> hinweise_{};
     int seite_ = kSeite;
     QPoint ursprung_;

@@ -4,13 +4,20 @@
 
 #pragma once
 // How the board looks: a theme is a folder of pictures (the board, a fox, a hen) and a small file
-// thema.ini that names them and gives the colours of the frame, the marks and the prompts. Every folder
-// under the themes' root is a theme, so a further theme needs no code.
+// thema.ini that names them and gives the colours of the frame, the marks and the prompts, and where on
+// the board picture the points lie. Every folder under the themes' root is a theme, so a further theme
+// needs no code.
 #include <QColor>
+#include <QPointF>
 #include <QString>
+#include <array>
 #include <vector>
 
+#include "board/stellung.h"
+
 namespace fuh {
+
+inline constexpr int kBrettseite = 400; // the board picture's side in its own units
 
 struct Thema {
     QString id;                  // the folder's name, as kept in the window settings
@@ -23,9 +30,15 @@ struct Thema {
     QColor cursorAussen, cursorInnen;
     QColor hinweisSchrift, hinweisGrund; // the prompts over the board's corners
     double strich = 1.0;                 // line widths of every mark, relative to the classic board
+    // In the board picture's units: the centre of each square of the 7 x 7 grid (the points of the cross,
+    // and the parking square where a penalised fox waits), and the side of a piece.
+    std::array<QPointF, kFelder> punkte = gleichmaessigePunkte();
+    double figur = 32;
 
     // The name in the language spoken now.
     QString anzeigename() const;
+    // Every square in the middle of its seventh of the picture: for a theme that names no points.
+    static std::array<QPointF, kFelder> gleichmaessigePunkte();
 };
 
 inline constexpr const char* kThemaStandard = "klassisch";

@@ -4,9 +4,9 @@
 
 #pragma once
 // Plays back what the game reported, in the order it was reported and at a pace a player can follow.
-// The game computes a computer move in an instant; here the 100 steps of each slide are spread over a
-// visible time, and whatever came after a slide (a prompt, a message, a window) is shown only when the
-// slide has ended. Everything else is shown at once when its turn comes.
+// The game computes a computer move in an instant and the window cuts it into the steps of a glide; here
+// those steps are spread over a visible time, and whatever came after a slide (a prompt, a message, a window)
+// is shown only when the slide has ended. Everything else is shown at once when its turn comes.
 #include <QElapsedTimer>
 #include <QObject>
 #include <QString>
@@ -19,8 +19,8 @@ namespace fuh {
 // One report of the game to its view.
 struct Ereignis {
     enum class Art {
-        bewegt,         // a: piece, b: left, c: top (twips)
-        gleitet,        // one slide step, as bewegt
+        bewegt,         // a: piece, b: the square it now stands on
+        gleitet,        // one step of a glide: a: piece, b: from square, c: to square, schritt: 1..kSchritte
         sichtbar,       // a: piece, ja: shown
         ziehbar,        // ja: pieces unlocked
         hinweis,        // a: prompt, ja: shown
@@ -36,6 +36,9 @@ struct Ereignis {
     int a = 0, b = 0, c = 0;
     bool ja = false;
     QString text;
+    int schritt = 0;
+
+    static constexpr int kSchritte = 100; // a glide is shown in this many steps at most
 };
 
 enum class Tempo { sofort, schnell, normal, langsam };
@@ -53,6 +56,7 @@ class Wiedergabe : public QObject {
 
     // Queues a report. A report made outside a call into the game is shown from the event loop.
     void anhaengen(Ereignis::Art art, int a = 0, int b = 0, int c = 0, bool ja = false, QString text = {});
+    void anhaengen(Ereignis e);
     // Shows what is due now; a slide that has to wait goes on by the timer. With Tempo::sofort
     // everything queued is shown before this returns.
     void abspielen();
