@@ -10,7 +10,6 @@
 #include <QTest>
 
 #include "fenster_aufbau.h"
-#include "game/texte.h"
 #include "ui/klaenge.h"
 #include "ui/thema.h"
 
@@ -114,11 +113,11 @@ class AussehenTest : public QObject {
             {zug(feldNummer(2, 2), feldNummer(4, 4)), Seite::Hennen, K::fang},
             {zug(feldNummer(3, 2), kParkfeld), Seite::Hennen, K::geparkt},
             {zug(kParkfeld, feldNummer(3, 0)), Seite::Hennen, K::abgesetzt},
-            {meldung(kHennenGewinnen), Seite::Hennen, K::sieg},
-            {meldung(kHennenGewinnen), Seite::Fuchs, K::niederlage},
-            {meldung(kFuchsGewinntOhneZug), Seite::Hennen, K::niederlage},
-            {meldung(kFuchsGewinnt), std::nullopt, K::sieg},
-            {meldung(kRemisZiel), Seite::Fuchs, K::remis},
+            {meldung(Vorlage::hennenGewinnen), Seite::Hennen, K::sieg},
+            {meldung(Vorlage::hennenGewinnen), Seite::Fuchs, K::niederlage},
+            {meldung(Vorlage::fuchsGewinntOhneZug), Seite::Hennen, K::niederlage},
+            {meldung(Vorlage::fuchsGewinnt), std::nullopt, K::sieg},
+            {meldung(Vorlage::remisZiel), Seite::Fuchs, K::remis},
             {Ereignis{A::zugbegrenzung, 0, 0, 0, false, {}}, Seite::Fuchs, K::remis},
             {meldung("Irgendeine Meldung"), Seite::Fuchs, std::nullopt},
             {Ereignis{A::status, 1, 0, 0, false, {}}, Seite::Fuchs, std::nullopt},
