@@ -100,9 +100,7 @@ class AussehenTest : public QObject {
         using A = Ereignis::Art;
         using K = Klaenge::Klang;
         const auto zug = [](int von, int nach) { return Ereignis{A::zug, von, nach, 0, false, {}}; };
-        const auto meldung = [](const char* t) {
-            return Ereignis{A::meldung, 0, 0, 0, false, QString::fromUtf8(t)};
-        };
+        const auto meldung = [](Text t) { return Ereignis{A::meldung, 0, 0, 0, false, std::move(t)}; };
         const struct {
             Ereignis e;
             std::optional<Seite> mensch;
@@ -119,7 +117,7 @@ class AussehenTest : public QObject {
             {meldung(Vorlage::fuchsGewinnt), std::nullopt, K::sieg},
             {meldung(Vorlage::remisZiel), Seite::Fuchs, K::remis},
             {Ereignis{A::zugbegrenzung, 0, 0, 0, false, {}}, Seite::Fuchs, K::remis},
-            {meldung("Irgendeine Meldung"), Seite::Fuchs, std::nullopt},
+            {meldung(Vorlage::fuchsEingesetzt), Seite::Fuchs, std::nullopt},
             {Ereignis{A::status, 1, 0, 0, false, {}}, Seite::Fuchs, std::nullopt},
         };
         for (const auto& f : faelle) {

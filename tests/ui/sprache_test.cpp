@@ -174,8 +174,9 @@ class SpracheTest : public QObject {
             QVERIFY2(u.load(uebersetzungsdatei(s)), s.code);
             for (std::size_t i = 0; i < kVorlagen; ++i) {
                 const char* v = vorlage(static_cast<Vorlage>(i));
-                QVERIFY2(!u.translate("Kern", v).isEmpty(),
-                         (QLatin1String(s.code) + u": " + QString::fromUtf8(v)).toUtf8());
+                QVERIFY2(
+                    !u.translate("Kern", v).isEmpty(),
+                    (QString::fromLatin1(s.code) + QStringLiteral(": ") + QString::fromUtf8(v)).toUtf8());
             }
         }
     }
