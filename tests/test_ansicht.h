@@ -24,8 +24,11 @@ struct TestAnsicht : Ansicht {
         hinweise[h] = s;
         if (s) gezeigt.push_back(h);
     }
-    void status(Statusfeld feld, const std::string& text) override { panels[static_cast<int>(feld)] = text; }
-    void meldung(const std::string& text) override { meldungen.push_back(text); }
+    // Kept in German, as the logs and files have them.
+    void status(Statusfeld feld, const Text& text) override {
+        panels[static_cast<int>(feld)] = deutsch(text);
+    }
+    void meldung(const Text& text) override { meldungen.push_back(deutsch(text)); }
     int zugbegrenzungen = 0;
     void zugbegrenzungErreicht() override { ++zugbegrenzungen; }
     void oeffnen(Fenster f) override { fenster.push_back(f); }

@@ -336,14 +336,6 @@
         <translation>&amp;Language</translation>
     </message>
     <message>
-        <source>&amp;Deutsch</source>
-        <translation>&amp;Deutsch</translation>
-    </message>
-    <message>
-        <source>&amp;English</source>
-        <translation>&amp;English</translation>
-    </message>
-    <message>
         <source>Die letzte Partie fortsetzen?</source>
         <translation>Continue the last game?</translation>
     </message>

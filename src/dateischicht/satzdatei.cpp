@@ -79,8 +79,8 @@ void setzeLe16(Bytes& b, std::size_t pos, int16_t wert) {
     setzeBytes(b, pos, daten, 2);
 }
 
-std::string schreibfehler(const std::string& name) {
-    return einsetzen(kSchreibfehler, {name});
+Text schreibfehler(const std::string& name) {
+    return Text(Vorlage::schreibfehler, {Text::wort(name)});
 }
 
 std::optional<std::string> verweigerterLink(const fs::path& ordner, const std::string& name) {
@@ -89,9 +89,9 @@ std::optional<std::string> verweigerterLink(const fs::path& ordner, const std::s
     return pfad.filename().string();
 }
 
-std::string mitLinkHinweis(const std::string& meldung, const fs::path& ordner, const std::string& name) {
+Text mitLinkHinweis(const Text& meldung, const fs::path& ordner, const std::string& name) {
     const auto link = verweigerterLink(ordner, name);
-    return link ? einsetzen(kLinkHinweis, {meldung, *link}) : meldung;
+    return link ? Text(Vorlage::linkHinweis, {meldung, Text::wort(*link)}) : meldung;
 }
 
 } // namespace fuh

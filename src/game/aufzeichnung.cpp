@@ -72,14 +72,16 @@ std::string aufzeichnungText(const Aufzeichnung& a) {
 }
 
 Gelesen aufzeichnungLaden(const std::filesystem::path& pfad) {
-    const Gelesen unlesbar{std::nullopt, einsetzen(kPartieUnlesbar, {pfad.filename().string()})};
+    const Gelesen unlesbar{std::nullopt,
+                           Text(Vorlage::partieUnlesbar, {Text::wort(pfad.filename().string())})};
     struct stat st {};
     const datei::Deskriptor fd = datei::regulaerOeffnen(pfad.c_str(), O_RDONLY, false, st);
     if (!fd) return unlesbar;
-    if (static_cast<std::size_t>(st.st_size) > kHoechstePartiegroesse) return {std::nullopt, kPartieZuGross};
+    if (static_cast<std::size_t>(st.st_size) > kHoechstePartiegroesse)
+        return {std::nullopt, Vorlage::partieZuGross};
     Bytes b;
     if (!datei::lesen(fd.fd(), b, kHoechstePartiegroesse + 1)) return unlesbar;
-    if (b.size() > kHoechstePartiegroesse) return {std::nullopt, kPartieZuGross};
+    if (b.size() > kHoechstePartiegroesse) return {std::nullopt, Vorlage::partieZuGross};
     return aufzeichnungLesen(std::string_view(reinterpret_cast<const char*>(b.data()), b.size()));
 }
 

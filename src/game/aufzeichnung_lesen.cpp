@@ -18,8 +18,8 @@ using namespace aufzeichnungsnamen;
 constexpr std::size_t kLaengsteAngabe = 40; // an unknown header's name is quoted only up to this length
 constexpr uint64_t kHoechsteNummer = 1'000'000'000'000'000;
 
-Gelesen fehler(const char* vorlage, int zeile) {
-    return {std::nullopt, einsetzen(vorlage, {std::to_string(zeile)})};
+Gelesen fehler(Vorlage vorlage, int zeile) {
+    return {std::nullopt, Text(vorlage, {Text::zahl(zeile)})};
 }
 
 // Valid UTF-8 (no overlong forms, surrogates or values past U+10FFFF) and no control character.
@@ -122,50 +122,52 @@ std::optional<Gelesen> Leser::kopfLesen(std::size_t& i) {
         const std::string_view name = zeile.text.substr(0, trenner);
         const auto s = trenner == std::string_view::npos ? std::nullopt : stelle(kAngaben, name);
         if (!s && trenner != std::string_view::npos && name.size() <= kLaengsteAngabe)
-            return Gelesen{std::nullopt, einsetzen(kAngabeUnbekannt, {std::to_string(zeile.nummer), name})};
+            return Gelesen{std::nullopt, Text(Vorlage::angabeUnbekannt,
+                                              {Text::zahl(zeile.nummer), Text::wort(std::string(name))})};
         if (!s || angaben_[static_cast<std::size_t>(*s)].nummer != 0)
-            return fehler(kZeileUnlesbar, zeile.nummer);
+            return fehler(Vorlage::zeileUnlesbar, zeile.nummer);
         angaben_[static_cast<std::size_t>(*s)] = {zeile.text.substr(trenner + 2), zeile.nummer};
     }
     for (std::size_t k = 0; k < kAngaben.size(); ++k)
-        if (angaben_[k].nummer == 0) return Gelesen{std::nullopt, einsetzen(kAngabeFehlt, {kAngaben[k]})};
+        if (angaben_[k].nummer == 0)
+            return Gelesen{std::nullopt, Text(Vorlage::angabeFehlt, {Text::wort(std::string(kAngaben[k]))})};
     return std::nullopt;
 }
 
 std::optional<Gelesen> Leser::spielerDeuten() {
     bool menschFuchs = false, menschHennen = false;
     if (!spielerLesen(wert(kFuechse), a_.spieler.fuchs, menschFuchs))
-        return fehler(kZeileUnlesbar, zeileVon(kFuechse));
+        return fehler(Vorlage::zeileUnlesbar, zeileVon(kFuechse));
     if (!spielerLesen(wert(kHennen), a_.spieler.hennen, menschHennen))
-        return fehler(kZeileUnlesbar, zeileVon(kHennen));
+        return fehler(Vorlage::zeileUnlesbar, zeileVon(kHennen));
     a_.spieler.zweiSpieler = menschFuchs && menschHennen;
     // The players must be the ones the settings name.
     for (const auto& [seite, name] : {std::pair{Seite::Fuchs, kFuechse}, std::pair{Seite::Hennen, kHennen}})
-        if (spielerText(a_, seite) != wert(name)) return fehler(kZeileUnlesbar, zeileVon(name));
+        if (spielerText(a_, seite) != wert(name)) return fehler(Vorlage::zeileUnlesbar, zeileVon(name));
     return std::nullopt;
 }
 
 std::optional<Gelesen> Leser::kopfDeuten() {
     a_.datum = std::string(wert(kDatum));
     const auto nummer = zahl(wert(kSpiel), kHoechsteNummer);
-    if (!nummer || *nummer == 0) return fehler(kZeileUnlesbar, zeileVon(kSpiel));
+    if (!nummer || *nummer == 0) return fehler(Vorlage::zeileUnlesbar, zeileVon(kSpiel));
     a_.nummer = *nummer;
     const auto einst = einstellungenLesen(wert(kEinstellungen));
-    if (!einst) return fehler(kZeileUnlesbar, zeileVon(kEinstellungen));
+    if (!einst) return fehler(Vorlage::zeileUnlesbar, zeileVon(kEinstellungen));
     a_.einst = *einst;
     if (auto f = spielerDeuten()) return f;
     const std::string_view zurueck = wert(kZurueckgenommen);
-    if (zurueck != kJa && zurueck != kNein) return fehler(kZeileUnlesbar, zeileVon(kZurueckgenommen));
+    if (zurueck != kJa && zurueck != kNein) return fehler(Vorlage::zeileUnlesbar, zeileVon(kZurueckgenommen));
     a_.zurueckgenommen = zurueck == kJa;
     const auto ergebnis = stelle(kErgebnisse, wert(kErgebnis));
-    if (!ergebnis) return fehler(kZeileUnlesbar, zeileVon(kErgebnis));
+    if (!ergebnis) return fehler(Vorlage::zeileUnlesbar, zeileVon(kErgebnis));
     a_.ergebnis = static_cast<Ergebnis>(*ergebnis);
     a_.ergebnisZeile = zeileVon(kErgebnis);
     const auto ende = stelle(kEndegruende, wert(kEnde));
     if (ende) a_.ende = static_cast<Endegrund>(*ende);
     // An end has a reason, and only an end has one.
     if ((!ende && wert(kEnde) != kKeinEnde) || ende.has_value() == (a_.ergebnis == Ergebnis::offen))
-        return fehler(kZeileUnlesbar, zeileVon(kEnde));
+        return fehler(Vorlage::zeileUnlesbar, zeileVon(kEnde));
     return std::nullopt;
 }
 
@@ -174,12 +176,13 @@ std::optional<Gelesen> Leser::zeileLesen(const Zeile& zeile) {
     const std::string_view t = zeile.text;
     const std::string nummer = std::to_string(a_.zuege.size() + 1) + ". ";
     if (a_.offen || !t.starts_with(nummer) || t.size() < nummer.size() + 3 || t[nummer.size() + 1] != ' ')
-        return fehler(kZeileUnlesbar, zeile.nummer);
+        return fehler(Vorlage::zeileUnlesbar, zeile.nummer);
     const char seite = t[nummer.size()];
-    if (seite != kFuchsZeichen && seite != kHennenZeichen) return fehler(kZeileUnlesbar, zeile.nummer);
+    if (seite != kFuchsZeichen && seite != kHennenZeichen)
+        return fehler(Vorlage::zeileUnlesbar, zeile.nummer);
     const auto e =
         zugLesen(seite == kFuchsZeichen ? Seite::Fuchs : Seite::Hennen, t.substr(nummer.size() + 2));
-    if (!e) return fehler(kZeileUnlesbar, zeile.nummer);
+    if (!e) return fehler(Vorlage::zeileUnlesbar, zeile.nummer);
     a_.zuege.push_back(e->zug);
     a_.zeilen.push_back(zeile.nummer);
     a_.offen = e->offen;
@@ -187,7 +190,7 @@ std::optional<Gelesen> Leser::zeileLesen(const Zeile& zeile) {
 }
 
 Gelesen Leser::lesen() {
-    if (z_.empty() || z_.front().text != kKennung) return {std::nullopt, kKeinePartie};
+    if (z_.empty() || z_.front().text != kKennung) return {std::nullopt, Vorlage::keinePartie};
     std::size_t i = 1;
     if (auto f = kopfLesen(i)) return *f;
     if (auto f = kopfDeuten()) return *f;
@@ -205,11 +208,12 @@ Gelesen aufzeichnungLesen(std::string_view text) {
         ++nummer;
         const std::size_t ende = text.find('\n');
         // A file cut short ends in the middle of a line.
-        if (ende == std::string_view::npos) return fehler(kZeileAbgeschnitten, nummer);
+        if (ende == std::string_view::npos) return fehler(Vorlage::zeileAbgeschnitten, nummer);
         std::string_view zeile = text.substr(0, ende);
         if (zeile.ends_with('\r')) zeile.remove_suffix(1); // written on another system
         if (!lesbar(zeile))
-            return nummer == 1 ? Gelesen{std::nullopt, kKeinePartie} : fehler(kZeileUnlesbar, nummer);
+            return nummer == 1 ? Gelesen{std::nullopt, Vorlage::keinePartie}
+                               : fehler(Vorlage::zeileUnlesbar, nummer);
         zeilen.push_back({zeile, nummer});
         text.remove_prefix(ende + 1);
     }

@@ -69,8 +69,8 @@ class Stumm : public Ansicht {
   public:
     void figurenZiehbar(bool) override {}
     void hinweis(Hinweis, bool) override {}
-    void status(Statusfeld, const std::string&) override {}
-    void meldung(const std::string&) override {}
+    void status(Statusfeld, const Text&) override {}
+    void meldung(const Text&) override {}
     void oeffnen(Fenster) override {}
 };
 
@@ -81,8 +81,7 @@ bool ergebnisPasst(const Spiel& spiel, const Aufzeichnung& a) {
 }
 } // namespace
 
-std::string nachspielen(Spiel& spiel, const Aufzeichnung& a,
-                        const std::function<void(std::size_t)>& nachZug) {
+Text nachspielen(Spiel& spiel, const Aufzeichnung& a, const std::function<void(std::size_t)>& nachZug) {
     Vorgabe vorgabe(spiel);
     spiel.einstellungenFestlegen(a.einst);
     spiel.spielerFestlegen(a.spieler);
@@ -92,9 +91,9 @@ std::string nachspielen(Spiel& spiel, const Aufzeichnung& a,
     spiel.neuesSpiel(); // the computer's opening move, too, is made below
     if (a.zurueckgenommen) spiel.keineBestenliste();
     if (nachZug) nachZug(0);
-    const auto zeile = [&](std::size_t i) { return std::to_string(i < a.zeilen.size() ? a.zeilen[i] : 0); };
-    std::string fehler;
-    for (std::size_t i = 0; i < a.zuege.size() && fehler.empty(); ++i) {
+    const auto zeile = [&](std::size_t i) { return Text::zahl(i < a.zeilen.size() ? a.zeilen[i] : 0); };
+    Text fehler;
+    for (std::size_t i = 0; i < a.zuege.size() && fehler.leer(); ++i) {
         const Partiezug& e = a.zuege[i];
         bool gemacht = !spiel.endeGefunden() && e.seite == spiel.amZug();
         if (gemacht && spiel.computerAmZug()) {
@@ -105,13 +104,13 @@ std::string nachspielen(Spiel& spiel, const Aufzeichnung& a,
         }
         const auto& zuege = spiel.mitschrift().zuege;
         if (!gemacht || zuege.size() != i + 1 || !(zuege.back() == e))
-            fehler = einsetzen(kZugVerboten, {zeile(i)});
+            fehler = Text(Vorlage::zugVerboten, {zeile(i)});
         else if (nachZug)
             nachZug(i + 1);
     }
     spiel.vorgeben(nullptr);
-    if (fehler.empty() && !ergebnisPasst(spiel, a))
-        fehler = einsetzen(kErgebnisFalsch, {std::to_string(a.ergebnisZeile)});
+    if (fehler.leer() && !ergebnisPasst(spiel, a))
+        fehler = Text(Vorlage::ergebnisFalsch, {Text::zahl(a.ergebnisZeile)});
     return fehler;
 }
 
@@ -120,13 +119,13 @@ std::string nachspielen(Spiel& spiel, const Aufzeichnung& a,
 namespace fuh {
 
 std::vector<Spielstand> nachspielStaende(const Aufzeichnung& a, const std::filesystem::path& ordner,
-                                         std::string& fehler) {
+                                         Text& fehler) {
     Stumm stumm;
     Zufall zufall;
     Spiel spiel(stumm, zufall, ordner);
     std::vector<Spielstand> staende;
     fehler = nachspielen(spiel, a, [&](std::size_t) { staende.push_back(spiel.zustand()); });
-    if (!fehler.empty()) staende.clear();
+    if (!fehler.leer()) staende.clear();
     return staende;
 }
 

@@ -5,6 +5,7 @@
 // The saved game's bytes. One list of fields serves writing and reading, so the two cannot drift apart;
 // what was read is then checked as a whole before anyone uses it.
 #include <algorithm>
+#include <charconv>
 #include <cstdint>
 #include <cstring>
 
@@ -47,7 +48,22 @@ class Schreiber {
         u8(static_cast<uint8_t>(n));
         roh(reinterpret_cast<const uint8_t*>(s.data()), n);
     }
+    // The file keeps the panel's German text.
+    void punkte(const Punktestand& p) { text(deutsch(punkteText(p))); }
 };
+
+// The points panel from its German text, as the game writes it; nothing for any other text.
+std::optional<Punktestand> punkteLesen(const std::string& s) {
+    if (s.empty()) return Punktestand{};
+    const std::string kopf = deutsch(Text(Vorlage::punkte, {Text::wort("")}));
+    if (s.compare(0, kopf.size(), kopf) != 0) return std::nullopt;
+    if (s.size() == kopf.size()) return Punktestand{true, std::nullopt};
+    int16_t zahl = 0;
+    const char* ende = s.data() + s.size();
+    const auto [bis, fehler] = std::from_chars(s.data() + kopf.size(), ende, zahl);
+    if (fehler != std::errc() || bis != ende) return std::nullopt;
+    return Punktestand{true, zahl};
+}
 
 // Reads until the data end; after that everything reads as zero and `kaputt` stays set.
 class Leser {
@@ -95,6 +111,13 @@ class Leser {
         u8(n);
         s.assign(n, ' ');
         roh(reinterpret_cast<uint8_t*>(s.data()), n);
+    }
+    void punkte(Punktestand& p) {
+        std::string s;
+        text(s);
+        const auto gelesen = punkteLesen(s);
+        kaputt |= !gelesen;
+        if (gelesen) p = *gelesen;
     }
 
   private:
@@ -222,7 +245,7 @@ template <class A, class Z> void felder(A& a, Z& z, uint16_t version = kVersion)
     a.art(z.ergebnis), a.i16(z.neueZuege), a.ja(z.endeGefunden), a.art(z.letztesErgebnis);
     amZugNachtragen(a, z, version, alt);
     a.u32(z.zufall), a.u32(z.tippZufall);
-    a.text(z.punkte), a.ja(z.zurueckgenommen);
+    a.punkte(z.punkte), a.ja(z.zurueckgenommen);
     if (version >= 3) mitschrift(a, z.mitschrift);
 }
 

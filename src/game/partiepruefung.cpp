@@ -8,6 +8,7 @@
 #include <bitset>
 
 #include "memory/positionscode.h"
+#include "spieldaten/bestenliste.h"
 
 namespace fuh {
 
@@ -131,10 +132,7 @@ bool gueltig(const Spielstand& z) {
     for (const Situation& s : z.partie.sits)
         if (!codeGueltig(s.code) || !imBereich(s.sprung, 0, 1)) return false;
     const std::string& sieger = z.oeff.u_is_sieger;
-    if (sieger != "Ja" && sieger != "Nein" && sieger != "    ") return false;
-    if (z.punkte.size() > 32 ||
-        !std::all_of(z.punkte.begin(), z.punkte.end(), [](char c) { return c >= ' ' && c <= '~'; }))
-        return false;
+    if (sieger != siegFeld(true) && sieger != siegFeld(false) && sieger != "    ") return false;
     return (z.amZug == Seite::Fuchs || z.amZug == Seite::Hennen) &&
            imBereich(static_cast<int>(z.ergebnis), 0, 3) &&
            imBereich(static_cast<int>(z.letztesErgebnis), 0, 3) && z.zufall < (1u << 24) &&

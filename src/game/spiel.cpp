@@ -5,7 +5,6 @@
 #include "game/spiel.h"
 
 #include "dateischicht/satzdatei.h"
-#include "game/texte.h"
 #include "game/zug.h"
 #include "spieldaten/einstellungsdatei.h"
 #include "spieldaten/statistikdatei.h"
@@ -55,27 +54,27 @@ void Spiel::init() {
     verlauf_.clear();
     wiederholbar_.clear();
     offeneAblage_.reset();
-    if (z_.zurueckgenommen) ansicht_.status(Statusfeld::zuruecknahme, "");
+    if (z_.zurueckgenommen) ansicht_.status(Statusfeld::zuruecknahme, {});
     z_.zurueckgenommen = false;
     statusTexte();
 }
 
 void Spiel::statusTexte() {
     if (spielerwahl_.zweiSpieler)
-        ansicht_.status(Statusfeld::seite,
-                        z_.amZug == Seite::Fuchs ? kZweiSpielerFuchsAmZug : kZweiSpielerHennenAmZug);
+        ansicht_.status(Statusfeld::seite, z_.amZug == Seite::Fuchs ? Vorlage::zweiSpielerFuchsAmZug
+                                                                    : Vorlage::zweiSpielerHennenAmZug);
     else if (const auto text = pcStatustext(z_.oeff.einst.PC))
         ansicht_.status(Statusfeld::seite, *text);
     const auto meister = [](const std::optional<Spieler>& s) { return s && s->meister; };
     if (meister(spielerwahl_.fuchs) || meister(spielerwahl_.hennen))
-        ansicht_.status(Statusfeld::staerke, kMeisterStatustext);
+        ansicht_.status(Statusfeld::staerke, Vorlage::meister);
     else if (const auto text = staerkeStatustext(z_.oeff.einst.Staerke))
         ansicht_.status(Statusfeld::staerke, *text);
 }
 
-void Spiel::punkteZeigen(std::string text) {
-    z_.punkte = std::move(text);
-    ansicht_.status(Statusfeld::punkte, z_.punkte);
+void Spiel::punkteZeigen(std::optional<int16_t> zahl) {
+    z_.punkte = {true, zahl};
+    ansicht_.status(Statusfeld::punkte, punkteText(z_.punkte));
 }
 
 void Spiel::neuesSpiel() {
@@ -143,15 +142,16 @@ void Spiel::einstellungenFestlegen(const Einstellungen& e) {
 
 void Spiel::meldeSchreibfehler(const std::vector<std::string>& dateien) {
     if (dateien.empty()) return;
-    std::string text;
+    Text text;
     if (dateien.size() == 1) {
         text = schreibfehler(dateien.front());
     } else {
-        std::string namen = einsetzen(kDateiname, {dateien.front()});
+        const auto name = [](const std::string& d) { return Text(Vorlage::dateiname, {Text::wort(d)}); };
+        Text namen = name(dateien.front());
         for (std::size_t i = 1; i < dateien.size(); ++i)
-            namen = einsetzen(i + 1 == dateien.size() ? kAufzaehlungEnde : kAufzaehlung,
-                              {namen, einsetzen(kDateiname, {dateien[i]})});
-        text = einsetzen(kSchreibfehlerMehrere, {namen});
+            namen = Text(i + 1 == dateien.size() ? Vorlage::aufzaehlungEnde : Vorlage::aufzaehlung,
+                         {namen, name(dateien[i])});
+        text = Text(Vorlage::schreibfehlerMehrere, {namen});
     }
     for (const std::string& name : dateien)
         text = mitLinkHinweis(text, ordner_, name);

@@ -6,7 +6,7 @@
 #include "board/gewichte.h"
 #include "board/zahlen.h"
 #include "game/spiel.h"
-#include "game/texte.h"
+#include "spieldaten/bestenliste.h"
 
 namespace fuh {
 
@@ -14,18 +14,18 @@ namespace {
 constexpr int kHoechstpunkte = 640; // the foxes' points are this minus the hens' worth
 
 // The message of each end; the move limit ends the game without one.
-const char* meldung(Endegrund g) {
+std::optional<Vorlage> meldung(Endegrund g) {
     switch (g) {
     case Endegrund::hennenImZiel:
-        return kHennenGewinnen;
+        return Vorlage::hennenGewinnen;
     case Endegrund::zuWenigHennen:
-        return kFuchsGewinnt;
+        return Vorlage::fuchsGewinnt;
     case Endegrund::hennenOhneZug:
-        return kFuchsGewinntOhneZug;
+        return Vorlage::fuchsGewinntOhneZug;
     case Endegrund::fuchsOhneZug:
-        return kRemisZiel;
+        return Vorlage::remisZiel;
     default:
-        return nullptr;
+        return std::nullopt;
     }
 }
 } // namespace
@@ -50,8 +50,7 @@ bool Spiel::endecheck(int16_t figur) {
             ansicht_.hinweis(Hinweis::spr_msg, false);
         }
     }
-    const auto p = punkte();
-    punkteZeigen(einsetzen(kPunkteText, {p ? std::to_string(*p) : std::string()}));
+    punkteZeigen(punkte());
     if (z_.oeff.sw_spielende) beende();
     return ergebnis;
 }
@@ -65,16 +64,16 @@ Spielausgang Spiel::spielende(int16_t figur) {
     const std::optional<Seite> mensch = menschenseite();
     z_.ergebnis = Ergebnis::offen;
     for (const Endegrund g : ausgang) {
-        const char* text = meldung(g);
+        const auto text = meldung(g);
         if (!text) continue;
         const Ergebnis e = ergebnisVon(g);
         z_.ergebnis = e;
         z_.mitschrift.ende = g;
-        ansicht_.meldung(text);
+        ansicht_.meldung(*text);
         sperren(false);
         const bool menschGewinnt = (e == Ergebnis::hennen && mensch == Seite::Hennen) ||
                                    (e == Ergebnis::fuchs && mensch == Seite::Fuchs);
-        z_.oeff.u_is_sieger = menschGewinnt ? kSiegJa : kSiegNein;
+        z_.oeff.u_is_sieger = siegFeld(menschGewinnt);
     }
     return ausgang;
 }

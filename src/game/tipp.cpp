@@ -7,7 +7,6 @@
 
 #include "dateischicht/satzdatei.h"
 #include "game/spiel.h"
-#include "game/texte.h"
 
 namespace fuh {
 
@@ -36,16 +35,16 @@ void Spiel::endspieltafeln(Endspieltafeln t) {
         if (*m) (*m)->endspieltafeln(tafeln_);
 }
 
-std::string Spiel::tippUrteil() const {
+Text Spiel::tippUrteil() const {
     const Endspieltafel* tafel = tafeln_.fuer(strafregelGilt());
     if (!tippMoeglich() || !tafel) return {};
     const auto u = urteil(*tafel, meister::Suchbrett::aus(z_.stellung.Feld, z_.amZug == Seite::Fuchs),
                           z_.partie.spielzug);
     if (!u) return {};
-    if (u->ergebnis == Ergebnis::remis) return kTippRemis;
+    if (u->ergebnis == Ergebnis::remis) return Vorlage::tippRemis;
     const bool hennen = u->ergebnis == Ergebnis::hennen;
-    if (u->plies == 1) return hennen ? kTippHennenGewinnenJetzt : kTippFuechseGewinnenJetzt;
-    return einsetzen(hennen ? kTippHennenGewinnen : kTippFuechseGewinnen, {std::to_string(u->plies)});
+    if (u->plies == 1) return hennen ? Vorlage::tippHennenGewinnenJetzt : Vorlage::tippFuechseGewinnenJetzt;
+    return Text(hennen ? Vorlage::tippHennenGewinnen : Vorlage::tippFuechseGewinnen, {Text::zahl(u->plies)});
 }
 
 } // namespace fuh

@@ -15,7 +15,8 @@ void Spiel::strafeAnwenden(const Strafe& strafe) {
     z_.mitschrift.zuege.back().strafe = strafe.art;
     z_.mitschrift.zuege.back().strafzug = strafe.zug;
     z_.zugregister = strafe.zug;
-    ansicht_.meldung(strafe.art == Strafe::Art::einsetzen ? kFuchsEingesetzt : kFuchsAusgeschlossen);
+    ansicht_.meldung(strafe.art == Strafe::Art::einsetzen ? Vorlage::fuchsEingesetzt
+                                                          : Vorlage::fuchsAusgeschlossen);
     if (strafe.art != Strafe::Art::letzterFuchs) {
         zug(false);
         return;

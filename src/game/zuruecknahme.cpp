@@ -9,10 +9,6 @@
 
 namespace fuh {
 
-namespace {
-constexpr const char* kZurueckgenommen = FUH_TR_NOOP("Kern", "Zurückgenommen: keine Bestenliste");
-}
-
 Spielstand Spiel::zustand() const {
     Spielstand z = z_;
     z.zufall = zufall_.zustand();
@@ -44,7 +40,7 @@ void Spiel::wiederholen() {
 
 void Spiel::keineBestenliste() {
     z_.zurueckgenommen = true;
-    ansicht_.status(Statusfeld::zuruecknahme, kZurueckgenommen);
+    ansicht_.status(Statusfeld::zuruecknahme, Vorlage::zurueckgenommen);
 }
 
 void Spiel::fortsetzen(const Sicherung& s) {
@@ -65,8 +61,8 @@ void Spiel::zustandSetzen(const Spielstand& z) {
         ansicht_.hinweis(h, false);
     ansicht_.hinweis(Hinweis::spr_msg, z_.sprungfolge.imSprung);
     statusTexte();
-    ansicht_.status(Statusfeld::punkte, z_.punkte);
-    ansicht_.status(Statusfeld::zuruecknahme, z_.zurueckgenommen ? kZurueckgenommen : "");
+    ansicht_.status(Statusfeld::punkte, punkteText(z_.punkte));
+    ansicht_.status(Statusfeld::zuruecknahme, z_.zurueckgenommen ? Text(Vorlage::zurueckgenommen) : Text());
 }
 
 } // namespace fuh

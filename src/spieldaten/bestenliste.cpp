@@ -120,6 +120,16 @@ std::string nachWindows1252(const std::string& utf8) {
     return aus;
 }
 
+std::string siegFeld(bool gewonnen) {
+    return deutsch(gewonnen ? Vorlage::siegJa : Vorlage::siegNein);
+}
+
+Text siegText(const std::string& feld) {
+    for (const Vorlage v : {Vorlage::siegJa, Vorlage::siegNein})
+        if (feld == vorlage(v)) return v;
+    return Text::wort(feld);
+}
+
 std::string vonWindows1252(const std::string& bytes) {
     std::string aus;
     for (const char ch : bytes) {

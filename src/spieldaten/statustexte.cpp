@@ -6,27 +6,27 @@
 
 namespace fuh {
 
-std::optional<std::string> pcStatustext(int PC) {
+std::optional<Text> pcStatustext(int PC) {
     switch (PC) {
     case 0:
-        return FUH_TR_NOOP("Kern", "PC spielt Fuchs");
+        return Vorlage::pcFuchs;
     case 1:
-        return FUH_TR_NOOP("Kern", "PC spielt Hennen");
+        return Vorlage::pcHennen;
     case 2:
-        return FUH_TR_NOOP("Kern", "PC spielt Fuchs und Hennen");
+        return Vorlage::pcBeide;
     default:
         return std::nullopt;
     }
 }
 
-std::optional<std::string> staerkeStatustext(int Staerke) {
+std::optional<Text> staerkeStatustext(int Staerke) {
     if (Staerke < 0 || Staerke > 2) return std::nullopt;
-    return einsetzen(kStaerkeStatustext, {std::to_string(Staerke + 1)});
+    return Text(Vorlage::staerke, {Text::zahl(Staerke + 1)});
 }
 
-std::optional<std::string> staerkeStatustextDialog(int Staerke) {
+std::optional<Text> staerkeStatustextDialog(int Staerke) {
     // The dialog has always written this one with a capital P; players know the status bar that way.
-    if (Staerke == 2) return FUH_TR_NOOP("Kern", "SPielstärke 3");
+    if (Staerke == 2) return Vorlage::staerkeDialog;
     return staerkeStatustext(Staerke);
 }
 

@@ -33,7 +33,7 @@ bool partieNachspielen(const std::filesystem::path& datei, const std::filesystem
                        std::ostream& aus, std::ostream& fehler) {
     const Gelesen g = aufzeichnungLaden(datei);
     if (!g.aufzeichnung) {
-        fehler << datei.string() << ": " << g.fehler << '\n';
+        fehler << datei.string() << ": " << deutsch(g.fehler) << '\n';
         return false;
     }
     const Oeffentlich* oeffentlich = nullptr;
@@ -42,7 +42,7 @@ bool partieNachspielen(const std::filesystem::path& datei, const std::filesystem
     Spiel spiel(ansicht, zufall, ordner);
     oeffentlich = &spiel.oeffentlich();
     aus << "spiel " << g.aufzeichnung->nummer << '\n';
-    if (const std::string f = nachspielen(spiel, *g.aufzeichnung); !f.empty()) {
+    if (const std::string f = deutsch(nachspielen(spiel, *g.aufzeichnung)); !f.empty()) {
         fehler << datei.string() << ": " << f << '\n';
         return false;
     }

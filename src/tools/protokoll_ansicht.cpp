@@ -12,13 +12,13 @@ const char* flagge(bool b) {
 }
 } // namespace
 
-void ProtokollAnsicht::meldung(const std::string& text) {
-    if (aus_) *aus_ << "meldung " << text << '\n';
+void ProtokollAnsicht::meldung(const Text& text) {
+    if (aus_) *aus_ << "meldung " << deutsch(text) << '\n';
 }
 
-void ProtokollAnsicht::speicherfehler(const std::string& text) {
+void ProtokollAnsicht::speicherfehler(const Text& text) {
     meldung(text);
-    if (beiSpeicherfehler_) beiSpeicherfehler_(text);
+    if (beiSpeicherfehler_) beiSpeicherfehler_(deutsch(text));
 }
 
 void ProtokollAnsicht::oeffnen(Fenster f) {

@@ -145,7 +145,7 @@ Summe selbstspiel(const Optionen& o, uint32_t seed, const std::filesystem::path&
         if (o.partien)
             if (const auto name = partieAblegen(*o.partien, lauf.spiel(), n)) {
                 ++summe.nichtGespeichert;
-                if (beobachter) beobachter->nichtGespeichert(schreibfehler(*name));
+                if (beobachter) beobachter->nichtGespeichert(deutsch(schreibfehler(*name)));
             }
         ++summe.spiele;
         ++summe.nachErgebnis[ergebnis >= 0 && ergebnis <= 3 ? ergebnis : 0];

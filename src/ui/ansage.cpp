@@ -95,15 +95,15 @@ void Ansage::ereignis(const Ereignis& e) {
         return;
     }
     case Ereignis::Art::status: {
-        QString& alt = status_.at(static_cast<size_t>(e.a - 1));
+        Text& alt = status_.at(static_cast<size_t>(e.a - 1));
         // Said, but not shown a second time beside its own field.
-        if (e.text != alt) sagen(kernText(e.text), false);
+        if (e.text != alt) sagen(uebersetzt(e.text), false);
         alt = e.text;
         return;
     }
     case Ereignis::Art::meldung:
     case Ereignis::Art::speicherfehler:
-        return sagen(kernText(e.text));
+        return sagen(uebersetzt(e.text));
     default:
         return;
     }
@@ -124,10 +124,10 @@ void Ansage::abschliessen() {
     sagen(satz);
 }
 
-void Ansage::tipp(const std::vector<int>& felder, const QString& urteil) {
+void Ansage::tipp(const std::vector<int>& felder, const Text& urteil) {
     const int k = felder.empty() ? -1 : brett_.figurAuf(felder.front());
     if (k >= 0) sagen(tr("Tipp: %1").arg(zugSatz(BrettFlaeche::istFuchs(k), felder)));
-    if (k >= 0 && !urteil.isEmpty()) sagen(kernText(urteil));
+    if (k >= 0 && !urteil.leer()) sagen(uebersetzt(urteil));
 }
 
 QString Ansage::zugSatz(bool fuchs, const std::vector<int>& felder) const {

@@ -35,7 +35,7 @@ void BrettFenster::zeigen(const Ereignis& e) {
         break;
     case Ereignis::Art::status:
         panelSetzen(static_cast<Statusfeld>(e.a), e.text);
-        if (e.a == static_cast<int>(Statusfeld::zuruecknahme)) panel(e.a)->setVisible(!e.text.isEmpty());
+        if (e.a == static_cast<int>(Statusfeld::zuruecknahme)) panel(e.a)->setVisible(!e.text.leer());
         break;
     case Ereignis::Art::zugbegrenzung:
         zugbegrenzungZeigen();
@@ -48,10 +48,10 @@ void BrettFenster::zeigen(const Ereignis& e) {
             brett_->markierungLoeschen();
         break;
     case Ereignis::Art::meldung:
-        if (!nurNotiz(e.text)) meldungZeigen(this, QMessageBox::NoIcon, kernText(e.text));
+        if (!nurNotiz(e.text)) meldungZeigen(this, QMessageBox::NoIcon, uebersetzt(e.text));
         break;
     case Ereignis::Art::speicherfehler:
-        meldungZeigen(this, QMessageBox::Warning, kernText(e.text));
+        meldungZeigen(this, QMessageBox::Warning, uebersetzt(e.text));
         break;
     case Ereignis::Art::ende:
         endeZeigen(e);
@@ -102,17 +102,16 @@ void BrettFenster::hinweis(Hinweis h, bool sichtbar) {
     wiedergabe_.anhaengen(Ereignis::Art::hinweis, static_cast<int>(h), 0, 0, sichtbar);
 }
 
-void BrettFenster::status(Statusfeld feld, const std::string& text) {
-    wiedergabe_.anhaengen(Ereignis::Art::status, static_cast<int>(feld), 0, 0, false,
-                          QString::fromStdString(text));
+void BrettFenster::status(Statusfeld feld, const Text& text) {
+    wiedergabe_.anhaengen(Ereignis::Art::status, static_cast<int>(feld), 0, 0, false, text);
 }
 
-void BrettFenster::meldung(const std::string& text) {
-    wiedergabe_.anhaengen(Ereignis::Art::meldung, 0, 0, 0, false, QString::fromStdString(text));
+void BrettFenster::meldung(const Text& text) {
+    wiedergabe_.anhaengen(Ereignis::Art::meldung, 0, 0, 0, false, text);
 }
 
-void BrettFenster::speicherfehler(const std::string& text) {
-    wiedergabe_.anhaengen(Ereignis::Art::speicherfehler, 0, 0, 0, false, QString::fromStdString(text));
+void BrettFenster::speicherfehler(const Text& text) {
+    wiedergabe_.anhaengen(Ereignis::Art::speicherfehler, 0, 0, 0, false, text);
 }
 
 void BrettFenster::zugbegrenzungErreicht() {

@@ -148,7 +148,7 @@ void BrettFenster::neu() {
     ansage_->verwerfen();
     statusBar()->clearMessage();
     blaetternBeenden();
-    panelSetzen(Statusfeld::punkte, QString()); // the last game's points go; the new game shows its own
+    panelSetzen(Statusfeld::punkte, {}); // the last game's points go; the new game shows its own
     spiel_->neuesSpiel();
     spielWeiter();
 }

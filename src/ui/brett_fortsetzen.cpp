@@ -60,8 +60,7 @@ void startMelden(QWidget* eltern, const datei::Ordner& o, int beschaedigt) {
                           "Der Ordner für die gespeicherte Partie ist nicht nutzbar: %1. Das Spiel liest und "
                           "schreibt dort nichts; eine laufende Partie wird beim Beenden nicht gespeichert.")
                           .arg(ordnerGrund(o)));
-    if (beschaedigt > 0)
-        meldungZeigen(eltern, QMessageBox::Warning, kernText(QString::fromUtf8(kPartieBeschaedigt)));
+    if (beschaedigt > 0) meldungZeigen(eltern, QMessageBox::Warning, uebersetzt(Vorlage::partieBeschaedigt));
 }
 
 // "Die letzte Partie fortsetzen?": true for "Ja", false for "Nein" (or Escape), nullopt when no answer came

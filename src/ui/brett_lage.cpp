@@ -8,7 +8,6 @@
 #include <QVBoxLayout>
 
 #include "game/spiel.h"
-#include "player/strafregel.h"
 #include "ui/ansage.h"
 #include "ui/brett_fenster.h"
 #include "ui/brett_flaeche.h"
@@ -85,11 +84,10 @@ void BrettFenster::spielEndet(const Spielausgang& ausgang) {
     wiedergabe_.anhaengen(Ereignis::Art::ende, gruende, spiel_->oeffentlich().fuchs_null ? 1 : 0);
 }
 
-bool BrettFenster::nurNotiz(const QString& text) const {
+bool BrettFenster::nurNotiz(const Text& text) const {
     // Watching the computer play itself, nobody is there to close a box: the penalty rule's word is
     // said and stays in the status bar instead.
-    const bool strafe =
-        text == QString::fromUtf8(kFuchsAusgeschlossen) || text == QString::fromUtf8(kFuchsEingesetzt);
+    const bool strafe = text == Text(Vorlage::fuchsAusgeschlossen) || text == Text(Vorlage::fuchsEingesetzt);
     return strafe && spiel_->computerSpielt(Seite::Fuchs) && spiel_->computerSpielt(Seite::Hennen);
 }
 

@@ -220,9 +220,7 @@ void BrettFenster::einstellungenZeigen() {
     einmalZeigen(einst_, [this] {
         return new EinstDialog(
             spiel_->oeffentlich().einst, auswahl_, spiel_->ordner(),
-            [this](Statusfeld feld, const std::string& text) {
-                panelSetzen(feld, QString::fromStdString(text));
-            },
+            [this](Statusfeld feld, const Text& text) { panelSetzen(feld, text); },
             [this](const Einstellungen& e, const Spielerauswahl& auswahl) {
                 spiel_->einstellungenUebernehmen(e);
                 spielerSetzen(auswahl);

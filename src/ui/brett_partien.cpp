@@ -96,8 +96,7 @@ bool BrettFenster::partieSpeichern(const std::filesystem::path& pfad) {
         statusBar()->showMessage(tr("Partie gespeichert."), 5000);
         return true;
     }
-    meldungZeigen(this, QMessageBox::Warning,
-                  kernText(QString::fromStdString(schreibfehler(pfad.filename().string()))));
+    meldungZeigen(this, QMessageBox::Warning, uebersetzt(schreibfehler(pfad.filename().string())));
     return false;
 }
 
@@ -107,7 +106,7 @@ bool BrettFenster::partieOeffnen(const std::filesystem::path& pfad) {
     std::vector<Spielstand> staende;
     if (g.aufzeichnung) staende = nachspielStaende(*g.aufzeichnung, spiel_->ordner(), g.fehler);
     if (staende.empty()) {
-        meldungZeigen(this, QMessageBox::Warning, kernText(QString::fromStdString(g.fehler)));
+        meldungZeigen(this, QMessageBox::Warning, uebersetzt(g.fehler));
         return false;
     }
     blaetterPartie_ = std::move(g.aufzeichnung);
@@ -120,7 +119,7 @@ bool BrettFenster::blaetternVorbereiten() {
     if (!blaetterStaende_.empty()) return true;
     // A running game is not stepped through: taking back serves there.
     if (spiel_->laeuft() || spiel_->mitschrift().zuege.empty()) return false;
-    std::string fehler;
+    Text fehler;
     Aufzeichnung a = aufzeichnen(*spiel_, QDate::currentDate().toString(Qt::ISODate).toStdString());
     blaetterStaende_ = nachspielStaende(a, spiel_->ordner(), fehler);
     if (blaetterStaende_.empty()) return false;

@@ -37,20 +37,15 @@ void BrettFenster::spracheMenue(QMenu* menue) {
     texte_.text(sprache->menuAction(), QT_TR_NOOP("S&prache"));
     sprache->setObjectName(QStringLiteral("sprache"));
     sprachen_ = new QActionGroup(sprache);
-    // Each language is named in itself, so that a player who cannot read the other one finds it.
-    const std::array<std::pair<Sprache, const char*>, 2> sprachen = {
-        {{Sprache::deutsch, "deutsch"}, {Sprache::englisch, "englisch"}}};
-    const std::array<const char*, 2> namen = {QT_TR_NOOP("&Deutsch"), QT_TR_NOOP("&English")};
-    for (size_t i = 0; i < sprachen.size(); ++i) {
-        const auto [s, name] = sprachen[i];
-        QAction* a = sprache->addAction(QString());
-        texte_.text(a, namen[i]);
-        a->setObjectName(QStringLiteral("sprache_") + QString::fromLatin1(name));
+    for (const Sprache& s : sprachen()) {
+        // Named in itself in every language, so it is not translated.
+        QAction* a = sprache->addAction(QString::fromUtf8(s.name));
+        a->setObjectName(QStringLiteral("sprache_") + QLatin1String(s.code));
         a->setCheckable(true);
-        a->setChecked(s == aktuelleSprache());
-        a->setData(static_cast<int>(s));
+        a->setChecked(&s == &aktuelleSprache());
+        a->setData(QLatin1String(s.code));
         sprachen_->addAction(a);
-        connect(a, &QAction::triggered, this, [s] { spracheSetzen(s); });
+        connect(a, &QAction::triggered, this, [&s] { spracheSetzen(s); });
     }
 }
 
@@ -69,17 +64,17 @@ void BrettFenster::texteSetzen() {
     aussehenTexteSetzen();
     // The language may also have been chosen elsewhere, e.g. in another main window.
     for (QAction* a : sprachen_->actions())
-        a->setChecked(a->data().toInt() == static_cast<int>(aktuelleSprache()));
+        a->setChecked(a->data().toString() == QLatin1String(aktuelleSprache().code));
     for (size_t i = 0; i < panels_.size(); ++i)
-        panels_[i]->setText(kernText(panelTexte_[i]));
+        panels_[i]->setText(uebersetzt(panelTexte_[i]));
     // The only message the status bar shows.
     if (!statusBar()->currentMessage().isEmpty()) zugbegrenzungZeigen();
 }
 
-void BrettFenster::panelSetzen(Statusfeld feld, const QString& deutsch) {
+void BrettFenster::panelSetzen(Statusfeld feld, const Text& text) {
     const auto i = static_cast<size_t>(feld) - 1;
-    panelTexte_.at(i) = deutsch;
-    panels_.at(i)->setText(kernText(deutsch));
+    panelTexte_.at(i) = text;
+    panels_.at(i)->setText(uebersetzt(text));
 }
 
 void BrettFenster::zugbegrenzungZeigen() {

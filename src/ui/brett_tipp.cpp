@@ -40,7 +40,7 @@ void BrettFenster::tippZeigen() {
     std::vector<int> felder{feldNummer(wahl.begin()->vonX, wahl.begin()->vonY)};
     for (const Teilzug& z : wahl)
         felder.push_back(feldNummer(z.nachX, z.nachY));
-    ansage_->tipp(felder, QString::fromStdString(spiel_->tippUrteil()));
+    ansage_->tipp(felder, spiel_->tippUrteil());
     brett_->tippZeigen(std::move(felder));
     tippUhr_.start(kTippDauer);
 }

@@ -48,7 +48,7 @@ QCheckBox* haken(const QString& name, QWidget* eltern) {
 } // namespace
 
 EinstDialog::EinstDialog(const Einstellungen& einst, Spielerauswahl wahl, std::filesystem::path ordner,
-                         std::function<void(Statusfeld feld, const std::string& text)> statusSetzen,
+                         std::function<void(Statusfeld feld, const Text& text)> statusSetzen,
                          std::function<void(const Einstellungen&, const Spielerauswahl&)> uebernehmen,
                          QWidget* parent)
     : QDialog(parent), ordner_(std::move(ordner)), statusSetzen_(std::move(statusSetzen)),
@@ -168,8 +168,8 @@ void EinstDialog::bestaetigen() {
     if (statusSetzen_) {
         // Two people: the game itself says there whose turn it is.
         if (const auto t = pcStatustext(e.PC); t && !wahl.zweiSpieler) statusSetzen_(Statusfeld::seite, *t);
-        if (const auto t = wahl.meister ? std::optional<std::string>(kMeisterStatustext)
-                                        : staerkeStatustextDialog(e.Staerke))
+        if (const auto t =
+                wahl.meister ? std::optional<Text>(Vorlage::meister) : staerkeStatustextDialog(e.Staerke))
             statusSetzen_(Statusfeld::staerke, *t);
     }
     close();

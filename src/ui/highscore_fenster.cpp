@@ -162,7 +162,7 @@ void HighscoreFenster::zeilenSetzen() {
         const Eintrag& e = liste_.eintraege()[static_cast<std::size_t>(i)];
         findChild<QLabel*>(zellenname(0, i))->setText(datumText(e.datum));
         // The file keeps the German flag; it is shown in the player's language.
-        findChild<QLabel*>(zellenname(3, i))->setText(kernText(feldText(e.sieg)));
+        findChild<QLabel*>(zellenname(3, i))->setText(uebersetzt(siegText(feldText(e.sieg).toStdString())));
         // A screen reader hears row and column with each cell: "1. Punkte: 44000".
         for (std::size_t c = 0; c < kSpalten.size(); ++c) {
             auto* l = findChild<QLabel*>(zellenname(static_cast<int>(c), i));

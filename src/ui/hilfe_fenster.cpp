@@ -25,8 +25,7 @@ constexpr int kRahmen = 40; // room for a window frame and title bar, which the 
 
 // The guide in the language spoken now.
 QUrl startseite() {
-    return QUrl(aktuelleSprache() == Sprache::englisch ? QStringLiteral("qrc:/hilfe/ratgeber_en.html")
-                                                       : QStringLiteral("qrc:/hilfe/ratgeber.html"));
+    return QUrl(QString::fromLatin1(aktuelleSprache().hilfe));
 }
 
 } // namespace

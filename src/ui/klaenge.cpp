@@ -9,7 +9,6 @@
 #include <cstdlib>
 
 #include "board/stellung.h"
-#include "game/texte.h"
 
 namespace fuh {
 
@@ -40,13 +39,19 @@ void Klaenge::ereignis(const Ereignis& e) {
         return spielen(e.a != kParkfeld && sprung(e.a, e.b) ? Klang::fang : Klang::abgesetzt);
     case Ereignis::Art::zugbegrenzung:
         return spielen(Klang::remis);
-    case Ereignis::Art::meldung: {
-        const QByteArray text = e.text.toUtf8();
-        if (text == kHennenGewinnen) return ende(Seite::Hennen);
-        if (text == kFuchsGewinnt || text == kFuchsGewinntOhneZug) return ende(Seite::Fuchs);
-        if (text == kRemisZiel) return spielen(Klang::remis);
-        return;
-    }
+    case Ereignis::Art::meldung:
+        if (!e.text.vorlage()) return;
+        switch (*e.text.vorlage()) {
+        case Vorlage::hennenGewinnen:
+            return ende(Seite::Hennen);
+        case Vorlage::fuchsGewinnt:
+        case Vorlage::fuchsGewinntOhneZug:
+            return ende(Seite::Fuchs);
+        case Vorlage::remisZiel:
+            return spielen(Klang::remis);
+        default:
+            return;
+        }
     default:
         return;
     }

@@ -9,10 +9,9 @@
 #include <QStatusBar>
 #include <algorithm>
 #include <cmath>
-#include <string>
 #include <vector>
 
-#include "game/texte.h"
+#include "board/text.h"
 #include "spieldaten/statustexte.h"
 #include "ui/sprache.h"
 
@@ -20,25 +19,25 @@ namespace fuh {
 
 namespace {
 
-// Every text the game may show in each field, in German.
-std::array<std::vector<std::string>, 3> moeglicheTexte() {
-    std::array<std::vector<std::string>, 3> texte;
-    texte[0] = {kZweiSpielerFuchsAmZug, kZweiSpielerHennenAmZug};
-    texte[1] = {kMeisterStatustext};
+// Every text the game may show in each field.
+std::array<std::vector<Text>, 3> moeglicheTexte() {
+    std::array<std::vector<Text>, 3> texte;
+    texte[0] = {Vorlage::zweiSpielerFuchsAmZug, Vorlage::zweiSpielerHennenAmZug};
+    texte[1] = {Vorlage::meister};
     for (int stufe = 0; stufe <= 2; ++stufe) {
         if (const auto t = pcStatustext(stufe)) texte[0].push_back(*t);
         if (const auto t = staerkeStatustext(stufe)) texte[1].push_back(*t);
         if (const auto t = staerkeStatustextDialog(stufe)) texte[1].push_back(*t);
     }
     // Three digits and a sign: every score the board allows.
-    texte[2] = {einsetzen(kPunkteText, {"-888"})};
+    texte[2] = {Text(Vorlage::punkte, {Text::zahl(-888)})};
     return texte;
 }
 
-QString laengster(const QLabel& feld, const std::vector<std::string>& texte) {
+QString laengster(const QLabel& feld, const std::vector<Text>& texte) {
     QString ergebnis;
-    for (const std::string& t : texte) {
-        const QString text = kernText(QString::fromStdString(t));
+    for (const Text& t : texte) {
+        const QString text = uebersetzt(t);
         if (feld.fontMetrics().horizontalAdvance(text) > feld.fontMetrics().horizontalAdvance(ergebnis))
             ergebnis = text;
     }

@@ -73,7 +73,14 @@ std::optional<Thema> lesen(const QDir& ordner, const Thema& basis) {
     Thema t = basis;
     t.id = ordner.dirName();
     t.name = ini.value(QStringLiteral("Name"), t.id).toString();
-    t.nameEn = ini.value(QStringLiteral("NameEn"), t.name).toString();
+    t.namen.clear();
+    for (const Sprache& s : sprachen()) {
+        // "NameEn" for English: the key ends in the language's code.
+        QString code = QLatin1String(s.code);
+        code[0] = code[0].toUpper();
+        const QString name = ini.value(QStringLiteral("Name") + code).toString();
+        if (!name.isEmpty()) t.namen.insert(QLatin1String(s.code), name);
+    }
     for (const auto& [schluessel, ziel] :
          {std::pair{"Brett", &t.brett}, {"Fuchs", &t.fuchs}, {"Henne", &t.henne}}) {
         *ziel = bild(ini, ordner, schluessel);
@@ -117,7 +124,7 @@ std::array<QPointF, kFelder> Thema::gleichmaessigePunkte() {
 }
 
 QString Thema::anzeigename() const {
-    return aktuelleSprache() == Sprache::englisch ? nameEn : name;
+    return namen.value(QLatin1String(aktuelleSprache().code), name);
 }
 
 std::vector<Thema> themen(const QString& wurzel) {

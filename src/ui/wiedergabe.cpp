@@ -25,7 +25,7 @@ Wiedergabe::Wiedergabe(std::function<void(const Ereignis&)> zeigen, QObject* par
     connect(&anstoss_, &QTimer::timeout, this, &Wiedergabe::abspielen);
 }
 
-void Wiedergabe::anhaengen(Ereignis::Art art, int a, int b, int c, bool ja, QString text) {
+void Wiedergabe::anhaengen(Ereignis::Art art, int a, int b, int c, bool ja, Text text) {
     anhaengen(Ereignis{art, a, b, c, ja, std::move(text)});
 }
 

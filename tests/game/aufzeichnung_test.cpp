@@ -67,11 +67,11 @@ TEST(Aufzeichnung, JedesSpielGehtDurchDieDateiUndZurueck) {
 
                 const std::string text = aufzeichnungText(aufzeichnen(original.spiel, "2026-11-26", seed));
                 const Gelesen g = aufzeichnungLesen(text);
-                ASSERT_TRUE(g.aufzeichnung) << g.fehler << "\n" << text;
+                ASSERT_TRUE(g.aufzeichnung) << deutsch(g.fehler) << "\n" << text;
                 ASSERT_EQ(aufzeichnungText(*g.aufzeichnung), text);
                 Gespielt nach(leer, 1);
-                ASSERT_EQ(nachspielen(nach.spiel, *g.aufzeichnung), "") << text;
-                std::string fehler;
+                ASSERT_EQ(deutsch(nachspielen(nach.spiel, *g.aufzeichnung)), "") << text;
+                Text fehler;
                 const auto staende = nachspielStaende(*g.aufzeichnung, leer.pfad(), fehler);
                 ASSERT_EQ(staende.size(), g.aufzeichnung->zuege.size() + 1);
                 EXPECT_TRUE(ohneZufall(staende.back()) == ohneZufall(nach.spiel.zustand()));
@@ -144,7 +144,7 @@ TEST(Aufzeichnung, FehlerhafteDateienWerdenMitDerZeileAbgelehnt) {
             Gespielt nach(ordner, 1);
             gelesen.fehler = nachspielen(nach.spiel, *gelesen.aufzeichnung);
         }
-        EXPECT_EQ(gelesen.fehler, meldung);
+        EXPECT_EQ(deutsch(gelesen.fehler), meldung);
     }
 }
 
@@ -152,14 +152,15 @@ TEST(Aufzeichnung, FehlerhafteDateienWerdenMitDerZeileAbgelehnt) {
 TEST(Aufzeichnung, DateiZuGrossOderKeineDatei) {
     TempOrdner ordner;
     ordner.schreibe("gross.fuh", std::vector<unsigned char>(kHoechstePartiegroesse + 1, '\n'));
-    EXPECT_EQ(aufzeichnungLaden(ordner / "gross.fuh").fehler, kPartieZuGross);
+    EXPECT_EQ(deutsch(aufzeichnungLaden(ordner / "gross.fuh").fehler),
+              "Die Datei ist zu groß für eine Partie.");
     std::filesystem::create_directory(ordner / "ordner.fuh");
-    EXPECT_EQ(aufzeichnungLaden(ordner / "ordner.fuh").fehler,
+    EXPECT_EQ(deutsch(aufzeichnungLaden(ordner / "ordner.fuh").fehler),
               "Die Datei „ordner.fuh“ kann nicht gelesen werden.");
     Aufzeichnung a;
     ASSERT_TRUE(aufzeichnungSpeichern(ordner / "leer.fuh", a));
     const Gelesen g = aufzeichnungLaden(ordner / "leer.fuh");
-    ASSERT_TRUE(g.aufzeichnung) << g.fehler;
+    ASSERT_TRUE(g.aufzeichnung) << deutsch(g.fehler);
     EXPECT_TRUE(g.aufzeichnung->zuege.empty());
 }
 

@@ -50,7 +50,7 @@ TEST_F(PartieTest, GespeichertUndGelesenIstEsDasselbeSpiel) {
     Spiel weiter(andereAnsicht, andererZufall, ordner.pfad());
     weiter.fortsetzen(*a.sicherung);
     EXPECT_TRUE(weiter.sicherung() == s);
-    EXPECT_EQ(andereAnsicht.panels[3], s.stand.punkte);
+    EXPECT_EQ(andereAnsicht.panels[3], deutsch(punkteText(s.stand.punkte)));
     EXPECT_EQ(andereAnsicht.panels[4], "Zurückgenommen: keine Bestenliste");
     EXPECT_TRUE(weiter.zuruecknehmenMoeglich());
 }

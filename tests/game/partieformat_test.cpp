@@ -17,6 +17,20 @@
 namespace fuh::test {
 namespace {
 
+constexpr std::size_t kKopf = 10, kSumme = 4; // magic, version and length; the checksum
+
+// Sets the length and the checksum of a game's bytes after they were changed.
+void versiegeln(Bytes& b) {
+    const uint32_t laenge = static_cast<uint32_t>(b.size() - kKopf - kSumme);
+    uint32_t h = 2166136261u;
+    for (std::size_t i = 0; i < 4; ++i)
+        b[6 + i] = static_cast<uint8_t>(laenge >> (8 * i));
+    for (std::size_t i = kKopf; i < b.size() - kSumme; ++i)
+        h = (h ^ b[i]) * 16777619u;
+    for (std::size_t i = 0; i < 4; ++i)
+        b[b.size() - kSumme + i] = static_cast<uint8_t>(h >> (8 * i));
+}
+
 TEST_F(PartieTest, BeschaedigteBytesWerdenAbgelehnt) {
     const Bytes gut = partieKodieren(mitten());
     ASSERT_TRUE(partieDekodieren(gut).has_value());
@@ -42,7 +56,7 @@ struct AltesBild {
 };
 Bytes alteFassung(const Sicherung& s, uint16_t version, const std::function<AltesBild(int)>& bild) {
     const Bytes neu = partieKodieren(s);
-    constexpr std::size_t kKopf = 10, kVorBildern = 1 + 98 + 44 + 8 + 5, kLeereMitschrift = 5, kSumme = 4;
+    constexpr std::size_t kVorBildern = 1 + 98 + 44 + 8 + 5, kLeereMitschrift = 5;
     Bytes inhalt(neu.begin() + kKopf, neu.end() - kSumme);
     Bytes bilder;
     for (int k = 0; k < kFiguren; ++k) {
@@ -56,14 +70,9 @@ Bytes alteFassung(const Sicherung& s, uint16_t version, const std::function<Alte
     if (version == 2) inhalt.erase(inhalt.end() - 2 - kLeereMitschrift, inhalt.end() - 2);
     Bytes alt(neu.begin(), neu.begin() + kKopf);
     alt[4] = static_cast<uint8_t>(version), alt[5] = 0;
-    for (int i = 0; i < 4; ++i)
-        alt[6 + static_cast<std::size_t>(i)] = static_cast<uint8_t>(inhalt.size() >> (8 * i));
     alt.insert(alt.end(), inhalt.begin(), inhalt.end());
-    uint32_t h = 2166136261u;
-    for (const uint8_t c : inhalt)
-        h = (h ^ c) * 16777619u;
-    for (int i = 0; i < 4; ++i)
-        alt.push_back(static_cast<uint8_t>(h >> (8 * i)));
+    alt.resize(alt.size() + kSumme);
+    versiegeln(alt);
     return alt;
 }
 
@@ -131,7 +140,6 @@ TEST_F(PartieTest, WerteAusserhalbWerdenAbgelehnt) {
         {"side to move", [](Spielstand& z) { z.amZug = static_cast<Seite>(3); }},
         {"result", [](Spielstand& z) { z.ergebnis = static_cast<Ergebnis>(-1); }},
         {"random source", [](Spielstand& z) { z.zufall = 1u << 24; }},
-        {"points text", [](Spielstand& z) { z.punkte = "Punkte: \x1b[2J"; }},
     };
     for (const auto& [name, aendern] : faelle) {
         Sicherung s = gut;
@@ -140,6 +148,28 @@ TEST_F(PartieTest, WerteAusserhalbWerdenAbgelehnt) {
         s = gut;
         aendern(s.verlauf.front());
         EXPECT_FALSE(partieDekodieren(partieKodieren(s))) << name << " in a take-back state";
+    }
+}
+
+// The points panel is kept as the German text the game showed, and read back to its number; any other
+// text in its place is refused.
+TEST_F(PartieTest, PunkteAlsAngezeigterText) {
+    Sicherung s = mitten();
+    s.verlauf.clear();
+    const std::pair<Punktestand, std::string> faelle[] = {
+        {{true, 237}, "Punkte: 237"}, {{true, -12}, "Punkte: -12"}, {{true, std::nullopt}, "Punkte: "}};
+    for (const auto& [punkte, text] : faelle) {
+        s.stand.punkte = punkte;
+        Bytes b = partieKodieren(s);
+        const auto stelle = std::search(b.begin(), b.end(), text.begin(), text.end());
+        ASSERT_NE(stelle, b.end()) << text;
+        ASSERT_EQ(*(stelle - 1), text.size()) << text; // its length before it, nothing after it
+        const auto gelesen = partieDekodieren(b);
+        ASSERT_TRUE(gelesen.has_value()) << text;
+        EXPECT_EQ(gelesen->stand.punkte, punkte) << text;
+        *(stelle + static_cast<long>(text.size()) - 1) = 0x1b; // a control character in its place
+        versiegeln(b);
+        EXPECT_FALSE(partieDekodieren(b).has_value()) << text;
     }
 }
 

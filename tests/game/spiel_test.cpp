@@ -24,7 +24,7 @@ struct FuchsSpieltTest : SpielTest {
 TEST_F(FuchsSpieltTest, NeuNachFangUndStrafeStelltAllesAuf) {
     ziehe(4, 2, 4, 1); // a step although both foxes could jump
     spiel.computerZieht();
-    ASSERT_EQ(ansicht.meldungen, std::vector<std::string>{kFuchsAusgeschlossen});
+    ASSERT_EQ(ansicht.meldungen, std::vector<std::string>{deutsch(Vorlage::fuchsAusgeschlossen)});
     ASSERT_TRUE(figur_index(spiel.stellung(), kParkfeld).has_value());
     ziehe(2, 2, 2, 4); // the remaining fox captures
     ASSERT_EQ(spiel.stellung().Feld[2][3], leer);

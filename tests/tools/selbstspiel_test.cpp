@@ -198,17 +198,17 @@ TEST(Selbstspiel, NichtGespeichertGibtStatusEins) {
     EXPECT_EQ(lauf(gut, "--spiele 3 --seed 7", fehler), "0\nsumme 3 0 3 0 0\n");
     EXPECT_EQ(fehler, "");
     EXPECT_EQ(lauf(schlecht, "--spiele 3 --seed 7", fehler), "1\nsumme 3 0 3 0 0\n");
-    EXPECT_EQ(fehler, "selbstspiel: " + schreibfehler("QZ.sta") + "\n");
+    EXPECT_EQ(fehler, "selbstspiel: " + deutsch(schreibfehler("QZ.sta")) + "\n");
     EXPECT_TRUE(fs::is_directory(schlecht / "QZ.sta"));
     // The log keeps the message where the window would show it.
     const std::string log = lauf(schlecht, "--spiele 1 --seed 7 --protokoll", fehler);
-    EXPECT_NE(log.find("\nmeldung " + schreibfehler("QZ.sta") + "\n"), std::string::npos);
+    EXPECT_NE(log.find("\nmeldung " + deutsch(schreibfehler("QZ.sta")) + "\n"), std::string::npos);
     EXPECT_EQ(log.substr(0, 2), "1\n");
     // A game file that cannot be written is named once, and the run goes on.
     const std::string partien = (gut / "fehlt").string();
     EXPECT_EQ(lauf(gut, "--spiele 2 --seed 7 --partien " + partien, fehler), "1\nsumme 2 0 2 0 0\n");
-    EXPECT_EQ(fehler, "selbstspiel: " + schreibfehler(partien + "/spiel-1.fuh") + "\n" +
-                          "selbstspiel: " + schreibfehler(partien + "/spiel-2.fuh") + "\n");
+    EXPECT_EQ(fehler, "selbstspiel: " + deutsch(schreibfehler(partien + "/spiel-1.fuh")) + "\n" +
+                          "selbstspiel: " + deutsch(schreibfehler(partien + "/spiel-2.fuh")) + "\n");
 }
 
 } // namespace

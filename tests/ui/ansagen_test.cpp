@@ -119,8 +119,9 @@ class AnsagenTest : public QObject {
         QTRY_COMPARE(gesagt.count(), 2); // said again, heard again
         QCOMPARE(ansage.text(), hinweis);
         // A status text is said when it changes, and not shown again beside its own field.
-        for (const char* punkte : {"Punkte: 237", "Punkte: 237", "Punkte: 240"})
-            ansage.ereignis({Ereignis::Art::status, 3, 0, 0, false, QString::fromLatin1(punkte)});
+        for (const int punkte : {237, 237, 240})
+            ansage.ereignis(
+                {Ereignis::Art::status, 3, 0, 0, false, Text(Vorlage::punkte, {Text::zahl(punkte)})});
         QTRY_COMPARE(gesagt.count(), 3);
         QCOMPARE(ansage.gesprochen(), QStringLiteral("Punkte: 237. Punkte: 240."));
         QCOMPARE(ansage.text(), hinweis);

@@ -10,7 +10,6 @@
 #include <QTest>
 
 #include "fenster_aufbau.h"
-#include "game/texte.h"
 #include "ui/klaenge.h"
 #include "ui/thema.h"
 
@@ -123,9 +122,7 @@ class AussehenTest : public QObject {
         using A = Ereignis::Art;
         using K = Klaenge::Klang;
         const auto zug = [](int von, int nach) { return Ereignis{A::zug, von, nach, 0, false, {}}; };
-        const auto meldung = [](const char* t) {
-            return Ereignis{A::meldung, 0, 0, 0, false, QString::fromUtf8(t)};
-        };
+        const auto meldung = [](Text t) { return Ereignis{A::meldung, 0, 0, 0, false, std::move(t)}; };
         const struct {
             Ereignis e;
             std::optional<Seite> mensch;
@@ -136,13 +133,13 @@ class AussehenTest : public QObject {
             {zug(feldNummer(2, 2), feldNummer(4, 4)), Seite::Hennen, K::fang},
             {zug(feldNummer(3, 2), kParkfeld), Seite::Hennen, K::geparkt},
             {zug(kParkfeld, feldNummer(3, 0)), Seite::Hennen, K::abgesetzt},
-            {meldung(kHennenGewinnen), Seite::Hennen, K::sieg},
-            {meldung(kHennenGewinnen), Seite::Fuchs, K::niederlage},
-            {meldung(kFuchsGewinntOhneZug), Seite::Hennen, K::niederlage},
-            {meldung(kFuchsGewinnt), std::nullopt, K::sieg},
-            {meldung(kRemisZiel), Seite::Fuchs, K::remis},
+            {meldung(Vorlage::hennenGewinnen), Seite::Hennen, K::sieg},
+            {meldung(Vorlage::hennenGewinnen), Seite::Fuchs, K::niederlage},
+            {meldung(Vorlage::fuchsGewinntOhneZug), Seite::Hennen, K::niederlage},
+            {meldung(Vorlage::fuchsGewinnt), std::nullopt, K::sieg},
+            {meldung(Vorlage::remisZiel), Seite::Fuchs, K::remis},
             {Ereignis{A::zugbegrenzung, 0, 0, 0, false, {}}, Seite::Fuchs, K::remis},
-            {meldung("Irgendeine Meldung"), Seite::Fuchs, std::nullopt},
+            {meldung(Vorlage::fuchsEingesetzt), Seite::Fuchs, std::nullopt},
             {Ereignis{A::status, 1, 0, 0, false, {}}, Seite::Fuchs, std::nullopt},
         };
         for (const auto& f : faelle) {

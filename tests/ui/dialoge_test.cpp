@@ -108,7 +108,7 @@ class DialogeTest : public QObject {
   private slots:
     void cleanup() {
         QApplication::setFont(QFont());
-        spracheSetzen(Sprache::deutsch, false);
+        spracheSetzen(sprache(QStringLiteral("de")), false);
     }
 
     void textePassen_data() {
@@ -124,7 +124,7 @@ class DialogeTest : public QObject {
     void textePassen() {
         QFETCH(bool, englisch);
         QFETCH(int, punkte);
-        spracheSetzen(englisch ? Sprache::englisch : Sprache::deutsch, false);
+        spracheSetzen(englisch ? sprache(QStringLiteral("en")) : sprache(QStringLiteral("de")), false);
         QFont schrift = QApplication::font();
         const bool gross = punkte > schrift.pointSize();
         schrift.setPointSize(punkte);
@@ -147,12 +147,12 @@ class DialogeTest : public QObject {
         for (const Art art : kArten) {
             Offen o(art);
             QVERIFY(QTest::qWaitForWindowExposed(o.d));
-            spracheSetzen(Sprache::englisch, false);
+            spracheSetzen(sprache(QStringLiteral("en")), false);
             QCoreApplication::processEvents();
             QCoreApplication::processEvents();
             for (QWidget* w : o.d->findChildren<QWidget*>())
                 if (w->isVisibleTo(o.d)) QVERIFY2(passt(w), qPrintable(name(w)));
-            spracheSetzen(Sprache::deutsch, false);
+            spracheSetzen(sprache(QStringLiteral("de")), false);
             QCoreApplication::processEvents();
         }
     }

@@ -73,8 +73,8 @@ class FensterTest : public QObject {
             spiel.einst = e;
             d = new EinstDialog(
                 spiel.einst, Spielerauswahl{mitMeister, false}, ordner,
-                [this](Statusfeld feld, const std::string& t) {
-                    status.append({static_cast<int>(feld), QString::fromStdString(t)});
+                [this](Statusfeld feld, const Text& t) {
+                    status.append({static_cast<int>(feld), QString::fromStdString(deutsch(t))});
                 },
                 [this](const Einstellungen& neu, const Spielerauswahl& wahl) {
                     ++uebernommen;

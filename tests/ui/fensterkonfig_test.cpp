@@ -70,7 +70,7 @@ class FensterKonfigTest : public QObject {
         QFont gross = normal;
         gross.setPointSizeF(normal.pointSizeF() * 1.5);
         QApplication::setFont(gross);
-        for (const Sprache sprache : {Sprache::deutsch, Sprache::englisch})
+        for (const Sprache& sprache : sprachen())
             for (const char seite : {0, 1}) {
                 spracheSetzen(sprache, false);
                 Aufbau a(std::vector<char>{seite, 2, 1, 0});
@@ -86,7 +86,7 @@ class FensterKonfigTest : public QObject {
                     QCOMPARE(feld->sichtbarerText(), feld->text());
                 }
             }
-        spracheSetzen(Sprache::deutsch, false);
+        spracheSetzen(sprachen().front(), false);
         QApplication::setFont(normal);
     }
 

@@ -129,9 +129,9 @@ class MenueFensterTest : public QObject {
         a.aktion("info");
         auto* version = a.fenster->findChild<InfoWin*>()->findChild<QLabel*>(QStringLiteral("version"));
         QCOMPARE(version->text(), QStringLiteral("Version " FUH_PROJEKTVERSION));
-        a.aktion("sprache_englisch");
+        a.aktion("sprache_en");
         QCOMPARE(version->text(), QStringLiteral("Version " FUH_PROJEKTVERSION));
-        a.aktion("sprache_deutsch");
+        a.aktion("sprache_de");
     }
 };
 

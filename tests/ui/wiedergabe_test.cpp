@@ -222,9 +222,9 @@ class WiedergabeTest : public QObject {
         Antworter antworter;
         a.aktion("Neu");
         QVERIFY(a.spiel().selbstspielLaeuft() && a.fenster->beschaeftigt());
-        a.fenster->meldung(kFuchsAusgeschlossen);
+        a.fenster->meldung(Vorlage::fuchsAusgeschlossen);
         const QLabel* ansage = a.fenster->findChild<Ansage*>();
-        QTRY_VERIFY(ansage->text().contains(QString::fromUtf8(kFuchsAusgeschlossen)));
+        QTRY_VERIFY(ansage->text().contains(QString::fromUtf8(vorlage(Vorlage::fuchsAusgeschlossen))));
         QVERIFY(antworter.texte.empty());
 
         QAction* einstellungen = a.fenster->findChild<QAction*>(QStringLiteral("Einstellungen"));
@@ -237,7 +237,7 @@ class WiedergabeTest : public QObject {
         QVERIFY(!a.spiel().selbstspielLaeuft());
         QTRY_VERIFY(!a.fenster->beschaeftigt());
         QVERIFY(a.spiel().laeuft() && (a.spiel().menschAmZug() || a.spiel().computerAmZug()));
-        a.fenster->meldung(kFuchsAusgeschlossen);
+        a.fenster->meldung(Vorlage::fuchsAusgeschlossen);
         QTRY_COMPARE(antworter.texte.size(), size_t{1});
     }
 
@@ -264,11 +264,11 @@ class WiedergabeTest : public QObject {
         // The reason of the end, in the language the player switches to.
         QVERIFY(lage->text().startsWith(
             QStringLiteral("Spielende: Die Zugbegrenzung von 149 Zügen ist erreicht.")));
-        spracheSetzen(Sprache::englisch);
+        spracheSetzen(sprache(QStringLiteral("en")));
         QTRY_VERIFY2(lage->text().startsWith(
                          QStringLiteral("Game over: The move limit of 149 moves has been reached.")),
                      qPrintable(lage->text()));
-        spracheSetzen(Sprache::deutsch);
+        spracheSetzen(sprache(QStringLiteral("de")));
         a.aktion("Neu");
         QCOMPARE(a.fenster->statusBar()->currentMessage(), QString());
     }

@@ -47,18 +47,12 @@ void setzeLe16(Bytes& b, std::size_t pos, int16_t wert);
 // Writes raw bytes at `pos`, growing `b` with zeros when needed.
 void setzeBytes(Bytes& b, std::size_t pos, const uint8_t* daten, std::size_t n);
 
-// The message shown when a file cannot be written; %1 is the file's name.
-inline constexpr const char* kSchreibfehler = FUH_TR_NOOP(
-    "Kern", "Die Datei „%1“ konnte nicht gespeichert werden. Das Spiel geht ohne diese Daten weiter.");
-std::string schreibfehler(const std::string& name);
-// A message about the file `name` in `ordner`, followed by a sentence when that file is a symbolic link
-// that writes do not follow (someone else may have planted it): %1 the message, %2 the link's name.
-inline constexpr const char* kLinkHinweis =
-    FUH_TR_NOOP("Kern", "%1 „%2“ ist eine symbolische Verknüpfung, die ein anderer Benutzer angelegt oder "
-                        "verändert haben kann; das Spiel schreibt nicht durch sie hindurch.");
+// The message shown when the file `name` cannot be written.
+Text schreibfehler(const std::string& name);
 // The link's name when writes to `name` in `ordner` refuse to follow it.
 std::optional<std::string> verweigerterLink(const std::filesystem::path& ordner, const std::string& name);
-std::string mitLinkHinweis(const std::string& meldung, const std::filesystem::path& ordner,
-                           const std::string& name);
+// `meldung` about the file `name` in `ordner`, followed by a sentence when that file is a symbolic link
+// that writes do not follow (someone else may have planted it).
+Text mitLinkHinweis(const Text& meldung, const std::filesystem::path& ordner, const std::string& name);
 
 } // namespace fuh

@@ -4,10 +4,9 @@
 
 #pragma once
 // The one way the game reaches the screen. The window implements it; headless programs log through it.
-#include <string>
-
 #include "board/spielausgang.h"
 #include "board/stellung.h"
+#include "board/text.h"
 
 namespace fuh {
 
@@ -40,11 +39,12 @@ class Ansicht {
     virtual void figurenZiehbar(bool ziehbar) = 0;
     // Shows or hides a prompt label and repaints it at once.
     virtual void hinweis(Hinweis h, bool sichtbar) = 0;
-    virtual void status(Statusfeld feld, const std::string& text) = 0;
+    // A panel's text; the empty text clears it.
+    virtual void status(Statusfeld feld, const Text& text) = 0;
     // A modal message with OK and the application's title; returns when it is closed.
-    virtual void meldung(const std::string& text) = 0;
+    virtual void meldung(const Text& text) = 0;
     // Files that could not be saved at one moment, named in one message; a screen may mark it as a warning.
-    virtual void speicherfehler(const std::string& text) { meldung(text); }
+    virtual void speicherfehler(const Text& text) { meldung(text); }
     // The game was drawn because the move limit was reached; it announces nothing else.
     virtual void zugbegrenzungErreicht() {}
     // The game is over, for every reason in `ausgang`; reported before the end's messages.

@@ -22,20 +22,6 @@ namespace fuh {
 
 class Spiel;
 
-inline constexpr const char* kKeinePartie =
-    FUH_TR_NOOP("Kern", "Zeile 1: Das ist keine Partie von Fuchs und Hennen.");
-inline constexpr const char* kAngabeUnbekannt = FUH_TR_NOOP("Kern", "Zeile %1: Unbekannte Angabe „%2“.");
-inline constexpr const char* kZeileUnlesbar = FUH_TR_NOOP("Kern", "Zeile %1 ist nicht lesbar.");
-inline constexpr const char* kZeileAbgeschnitten = FUH_TR_NOOP("Kern", "Zeile %1 ist abgeschnitten.");
-inline constexpr const char* kAngabeFehlt = FUH_TR_NOOP("Kern", "Die Angabe „%1“ fehlt.");
-inline constexpr const char* kZugVerboten =
-    FUH_TR_NOOP("Kern", "Zeile %1: Dieser Zug ist nach den Regeln nicht möglich.");
-inline constexpr const char* kErgebnisFalsch =
-    FUH_TR_NOOP("Kern", "Zeile %1: Das Ergebnis passt nicht zu den Zügen.");
-inline constexpr const char* kPartieZuGross = FUH_TR_NOOP("Kern", "Die Datei ist zu groß für eine Partie.");
-inline constexpr const char* kPartieUnlesbar =
-    FUH_TR_NOOP("Kern", "Die Datei „%1“ kann nicht gelesen werden.");
-
 // Larger than any game the move limit allows.
 inline constexpr std::size_t kHoechstePartiegroesse = 64 * 1024;
 
@@ -59,10 +45,10 @@ Aufzeichnung aufzeichnen(const Spiel& spiel, std::string datum, uint64_t nummer 
 
 std::string aufzeichnungText(const Aufzeichnung& a);
 
-// What was read, or the German message that says why not, naming the line.
+// What was read, or the message that says why not, naming the line.
 struct Gelesen {
     std::optional<Aufzeichnung> aufzeichnung;
-    std::string fehler;
+    Text fehler;
 };
 Gelesen aufzeichnungLesen(std::string_view text);
 

@@ -16,15 +16,14 @@
 namespace fuh {
 
 // Plays `a` in `spiel`, which writes no file meanwhile. `nachZug(n)` is called once the first n moves
-// are made, from 0 on. Returns the German message naming the line of the first move the rules refuse,
-// or of a result that does not follow from the moves; empty when the whole game was replayed.
-std::string nachspielen(Spiel& spiel, const Aufzeichnung& a,
-                        const std::function<void(std::size_t)>& nachZug = {});
+// are made, from 0 on. Returns the message naming the line of the first move the rules refuse, or of a
+// result that does not follow from the moves; empty when the whole game was replayed.
+Text nachspielen(Spiel& spiel, const Aufzeichnung& a, const std::function<void(std::size_t)>& nachZug = {});
 
 // The whole game after each of its first n moves, from n = 0 on, for stepping through a game file; played
 // in a game of its own that shows nothing and writes no file, in `ordner`. Empty, with the message in
 // `fehler`, when the moves are refused.
 std::vector<Spielstand> nachspielStaende(const Aufzeichnung& a, const std::filesystem::path& ordner,
-                                         std::string& fehler);
+                                         Text& fehler);
 
 } // namespace fuh

@@ -15,14 +15,10 @@
 #include <string>
 #include <vector>
 
-#include "board/text.h"
 #include "dateischicht/dateizugriff.h"
 #include "game/spielstand.h"
 
 namespace fuh {
-
-inline constexpr const char* kPartieBeschaedigt =
-    FUH_TR_NOOP("Kern", "Die gespeicherte Partie ist beschädigt und wurde verworfen.");
 
 // The file's bytes: magic, version, length, the game with its take-back states, a checksum.
 Bytes partieKodieren(const Sicherung& s);

@@ -84,7 +84,7 @@ class Spiel {
     bool tippMoeglich() const;
     // With the hint, in an endgame the table knows: the exact outcome for the rules in force ("Die
     // Hennen gewinnen in 7 Zügen", "Remis"). Empty otherwise.
-    std::string tippUrteil() const;
+    Text tippUrteil() const;
     // The exact endgame tables the Meister looks positions up in; none until the window hands them over.
     void endspieltafeln(Endspieltafeln t);
 
@@ -152,7 +152,7 @@ class Spiel {
     void init();
     void sperren(bool ziehbar);
     void statusTexte();
-    void punkteZeigen(std::string text);
+    void punkteZeigen(std::optional<int16_t> zahl);
     // Puts a copy back into the game and shows it.
     void zustandSetzen(const Spielstand& z);
     void spielBeginnen();

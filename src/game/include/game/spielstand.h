@@ -6,6 +6,7 @@
 // Everything a running game is, as one value: a copy taken before the player's move is what taking the
 // move back restores, and the same value is what a game saved on quitting continues from.
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -13,11 +14,25 @@
 #include "board/spielausgang.h"
 #include "board/stellung.h"
 #include "board/teilzug.h"
+#include "board/text.h"
 #include "game/mitschrift.h"
 #include "memory/partie.h"
 #include "spieldaten/oeffentlich.h"
 
 namespace fuh {
+
+// The points panel: blank until the game checked its first move, then the points of a person playing the
+// computer, or none.
+struct Punktestand {
+    bool gezeigt = false;
+    std::optional<int16_t> zahl;
+    friend bool operator==(const Punktestand&, const Punktestand&) = default;
+};
+
+inline Text punkteText(const Punktestand& p) {
+    if (!p.gezeigt) return {};
+    return Text(Vorlage::punkte, {p.zahl ? Text::zahl(*p.zahl) : Text::wort("")});
+}
 
 struct Spielstand {
     Stellung stellung;
@@ -31,9 +46,9 @@ struct Spielstand {
     int16_t neueZuege = 0;
     bool endeGefunden = false; // an end was announced in the current game
     Ergebnis letztesErgebnis = Ergebnis::offen;
-    uint32_t zufall = 0;          // the game's random source
-    uint32_t tippZufall = 0;      // the hint's own one
-    std::string punkte;           // the points panel as last shown
+    uint32_t zufall = 0;     // the game's random source
+    uint32_t tippZufall = 0; // the hint's own one
+    Punktestand punkte;
     bool zurueckgenommen = false; // a move was taken back: the game goes to no high-score list
     Mitschrift mitschrift;
 

@@ -8,15 +8,9 @@
 
 #include "board/stellung.h"
 #include "board/teilzug.h"
-#include "board/text.h"
 #include "memory/partie.h"
 
 namespace fuh {
-
-inline constexpr const char* kFuchsAusgeschlossen = FUH_TR_NOOP(
-    "Kern", "Der Fuchs hätte springen können. Bis zum nächsten Sprung wird er vom Feld genommen.");
-inline constexpr const char* kFuchsEingesetzt =
-    FUH_TR_NOOP("Kern", "Der ausgeschlossene Fuchs wird wieder eingesetzt");
 
 struct Strafe {
     enum class Art {

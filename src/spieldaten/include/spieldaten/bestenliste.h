@@ -26,6 +26,12 @@ struct Eintrag {
     std::string sieg; // exactly 4 bytes, "Ja  " or "Nein" (or zeros in an empty row)
 };
 
+// Whether the player won, as the list stores it, in the word `u_is_sieger` holds.
+std::string siegFeld(bool gewonnen);
+// The column "won" of a row, its blanks removed, as a text: the words the game stores as their template,
+// anything else as it is.
+Text siegText(const std::string& feld);
+
 class Bestenliste {
   public:
     explicit Bestenliste(Seite s) : seite_(s) {}

@@ -23,14 +23,10 @@ struct Einstellungen {
     friend bool operator==(const Einstellungen&, const Einstellungen&) = default;
 };
 
-// Whether the player won, as the high-score lists store it (German in every language).
-inline constexpr const char* kSiegJa = FUH_TR_NOOP("Kern", "Ja");
-inline constexpr const char* kSiegNein = FUH_TR_NOOP("Kern", "Nein");
-
 struct Oeffentlich {
     Einstellungen einst;
     int16_t score = 0;                // points of the human side
-    std::string u_is_sieger = "    "; // kSiegJa, kSiegNein or four blanks
+    std::string u_is_sieger = "    "; // "Ja", "Nein" (German in every language) or four blanks
     bool fuchs_null = false;          // the penalty rule would have parked the last fox
     bool sw_spielende = false;        // a finished game may still be entered in a high-score list
     friend bool operator==(const Oeffentlich&, const Oeffentlich&) = default;

@@ -24,9 +24,10 @@ class ProtokollAnsicht : public Ansicht {
 
     void figurenZiehbar(bool) override {}
     void hinweis(Hinweis, bool) override {}
-    void status(Statusfeld, const std::string&) override {}
-    void meldung(const std::string& text) override;
-    void speicherfehler(const std::string& text) override;
+    void status(Statusfeld, const Text&) override {}
+    // Messages are logged in German, whatever language a window would speak.
+    void meldung(const Text& text) override;
+    void speicherfehler(const Text& text) override;
     void oeffnen(Fenster f) override;
     void zugAusgefuehrt(int vonX, int vonY, int nachX, int nachY, bool normal) override;
 

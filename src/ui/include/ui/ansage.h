@@ -29,8 +29,8 @@ class Ansage : public Statustext {
     // into one sentence ("Fuchs c5 nach c3 nach e3"), said when anything else is shown or all is shown.
     void ereignis(const Ereignis& e);
     // A suggested move (origin, then each landing square), said as the computer's moves are, and the
-    // game's exact verdict on the endgame when it knows one (German, translated here).
-    void tipp(const std::vector<int>& felder, const QString& urteil = {});
+    // game's exact verdict on the endgame when it knows one (translated here).
+    void tipp(const std::vector<int>& felder, const Text& urteil = {});
     // Said when control returns to the event loop, together with whatever else is said until then;
     // shown in the field as well unless `zeigen` is false for all of it (a text the window shows
     // elsewhere already).
@@ -58,7 +58,7 @@ class Ansage : public Statustext {
     bool zeigen_ = false; // something waiting is to be shown
     QString gesprochen_;
     QTimer gleich_;
-    std::array<QString, 4> status_; // the panels' texts, so that only a change is said
+    std::array<Text, 4> status_; // the panels' texts, so that only a change is said
     bool zugFuchs_ = false;
     std::vector<int> zugFelder_; // the computer move being collected: its origin, then every landing
 };

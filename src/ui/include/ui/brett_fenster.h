@@ -113,9 +113,9 @@ class BrettFenster : public QMainWindow, public Ansicht {
     void aufgestellt(const Stellung& s) override;
     void figurenZiehbar(bool ziehbar) override;
     void hinweis(Hinweis h, bool sichtbar) override;
-    void status(Statusfeld feld, const std::string& text) override;
-    void meldung(const std::string& text) override;
-    void speicherfehler(const std::string& text) override;
+    void status(Statusfeld feld, const Text& text) override;
+    void meldung(const Text& text) override;
+    void speicherfehler(const Text& text) override;
     void zugbegrenzungErreicht() override;
     void spielEndet(const Spielausgang& ausgang) override;
     void oeffnen(Fenster f) override;
@@ -153,7 +153,7 @@ class BrettFenster : public QMainWindow, public Ansicht {
     void lageZeigen();
     void endeZeigen(const Ereignis& e);
     // A message that is only noted (status and screen reader), not shown in a box that halts the game.
-    bool nurNotiz(const QString& text) const;
+    bool nurNotiz(const Text& text) const;
     // Piece k goes from square `von` to `nach`: a computer's glides there in steps, a person's is set down.
     void bewegen(int k, int von, int nach, bool gleitet);
 
@@ -181,7 +181,7 @@ class BrettFenster : public QMainWindow, public Ansicht {
     // The player's language (brett_sprache.cpp).
     void spracheMenue(QMenu* menue);
     void texteSetzen();
-    void panelSetzen(Statusfeld feld, const QString& deutsch);
+    void panelSetzen(Statusfeld feld, const Text& text);
     void zugbegrenzungZeigen();
     void einstellungenZeigen();
     void statistikZeigen();
@@ -199,7 +199,7 @@ class BrettFenster : public QMainWindow, public Ansicht {
     Klaenge* klaenge_ = nullptr;
     Lagefeld* lage_ = nullptr;
     std::array<QLabel*, 4> panels_{};
-    std::array<QString, 4> panelTexte_{}; // as the game wrote them, in German
+    std::array<Text, 4> panelTexte_{}; // as the game wrote them, translated again on a change of language
     Beschriftung texte_{staticMetaObject};
     QTimer zugUhr_; // asks the game for the computer's reply
     Wiedergabe wiedergabe_;

@@ -37,7 +37,7 @@ class EinstDialog : public QDialog {
     // writes a status bar panel (the game's German text); `uebernehmen` lets the game take the new
     // settings and choices. QZ.INI stores the Meister as strength 3.
     EinstDialog(const Einstellungen& einst, Spielerauswahl wahl, std::filesystem::path ordner,
-                std::function<void(Statusfeld feld, const std::string& text)> statusSetzen,
+                std::function<void(Statusfeld feld, const Text& text)> statusSetzen,
                 std::function<void(const Einstellungen&, const Spielerauswahl&)> uebernehmen,
                 QWidget* parent = nullptr);
 
@@ -53,7 +53,7 @@ class EinstDialog : public QDialog {
     void bestaetigen();
 
     std::filesystem::path ordner_;
-    std::function<void(Statusfeld, const std::string&)> statusSetzen_;
+    std::function<void(Statusfeld, const Text&)> statusSetzen_;
     std::function<void(const Einstellungen&, const Spielerauswahl&)> uebernehmen_;
     int16_t pcVorher_ = 0; // kept in the file while two people play
     Beschriftung texte_{staticMetaObject};

@@ -8,6 +8,7 @@
 // the board picture the points lie. Every folder under the themes' root is a theme, so a further theme
 // needs no code.
 #include <QColor>
+#include <QHash>
 #include <QPointF>
 #include <QString>
 #include <array>
@@ -20,13 +21,13 @@ namespace fuh {
 inline constexpr int kBrettseite = 400; // the board picture's side in its own units
 
 struct Thema {
-    QString id;                  // the folder's name, as kept in the window settings
-    QString name;                // in German
-    QString nameEn;              // in English
-    QString brett, fuchs, henne; // the pictures
-    QColor rand;                 // beside the board where the window is not square
-    QColor zugVon, zugNach;      // rings of the last move's origin and destination
-    QColor tippLinie, tippRing;  // the hint's path and its end rings
+    QString id;                    // the folder's name, as kept in the window settings
+    QString name;                  // in German
+    QHash<QString, QString> namen; // in the other languages, by their code
+    QString brett, fuchs, henne;   // the pictures
+    QColor rand;                   // beside the board where the window is not square
+    QColor zugVon, zugNach;        // rings of the last move's origin and destination
+    QColor tippLinie, tippRing;    // the hint's path and its end rings
     QColor cursorAussen, cursorInnen;
     QColor hinweisSchrift, hinweisGrund; // the prompts over the board's corners
     double strich = 1.0;                 // line widths of every mark, relative to the classic board

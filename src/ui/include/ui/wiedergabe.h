@@ -14,6 +14,8 @@
 #include <deque>
 #include <functional>
 
+#include "board/text.h"
+
 namespace fuh {
 
 // One report of the game to its view.
@@ -35,7 +37,7 @@ struct Ereignis {
     Art art;
     int a = 0, b = 0, c = 0;
     bool ja = false;
-    QString text;
+    Text text;
     int schritt = 0;
 
     static constexpr int kSchritte = 100; // a glide is shown in this many steps at most
@@ -55,7 +57,7 @@ class Wiedergabe : public QObject {
     int gleitdauer() const;
 
     // Queues a report. A report made outside a call into the game is shown from the event loop.
-    void anhaengen(Ereignis::Art art, int a = 0, int b = 0, int c = 0, bool ja = false, QString text = {});
+    void anhaengen(Ereignis::Art art, int a = 0, int b = 0, int c = 0, bool ja = false, Text text = {});
     void anhaengen(Ereignis e);
     // Shows what is due now; a slide that has to wait goes on by the timer. With Tempo::sofort
     // everything queued is shown before this returns.
