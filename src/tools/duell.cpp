@@ -29,8 +29,8 @@ struct Bilanz {
     uint64_t remisGesamt() const { return remis[0] + remis[1] + remis[2]; }
 };
 
-std::unique_ptr<Zugquelle> quelle(const Duellant& d) {
-    if (d.programm.empty()) return std::make_unique<MeisterQuelle>(d.bedenkzeit);
+std::unique_ptr<Zugquelle> quelle(const Duellant& d, const Endspieltafeln& tafeln) {
+    if (d.programm.empty()) return std::make_unique<MeisterQuelle>(d.bedenkzeit, tafeln);
     return std::make_unique<FremdeQuelle>(d.programm, d.bedenkzeit);
 }
 
@@ -76,17 +76,25 @@ void zeile(std::ostream& aus, const char* wer, const Bilanz& b, std::chrono::mil
 
 } // namespace
 
+std::string tafelnText(const Endspieltafeln& t) {
+    auto ja = [](const auto& tafel) { return tafel ? std::string("ja") : std::string("nein"); };
+    return "Endspieltafeln dieses Meisters: mit Strafregel " + ja(t.mitStrafregel) + ", ohne " +
+           ja(t.ohneStrafregel);
+}
+
 int duell(const DuellOptionen& o, const Abbruch& abbruch, std::ostream& aus, std::ostream& fehler,
           std::size_t spalten) {
-    const auto f = quelle(o.f), h = quelle(o.h);
-    aus << "Meister gegen Meister: Startwerte 1.." << o.paare << ", je zwei Partien mit getauschten Seiten\n"
+    const auto f = quelle(o.f, o.tafeln), h = quelle(o.h, o.tafeln);
+    aus << "Meister gegen Meister: Startwerte " << o.ab << ".." << o.ab + o.paare - 1
+        << ", je zwei Partien mit getauschten Seiten\n"
+        << tafelnText(o.tafeln) << '\n'
         << "F (zuerst die Füchse): " << name(o.f) << "\nH (zuerst die Hennen): " << name(o.h) << "\n\n";
     Bilanz bf, bh;
     std::array<uint64_t, 3> nachSeite{}; // the hens won, the foxes won, drawn
     Fortschritt fortschritt(fehler, spalten);
     const auto start = std::chrono::steady_clock::now();
     for (uint64_t s = 1; s <= o.paare; ++s) {
-        const auto seed = static_cast<uint32_t>(s);
+        const auto seed = static_cast<uint32_t>(o.ab + s - 1);
         double pf = 0, ph = 0;
         for (const bool fFuchs : {true, false}) {
             if (const int signal = abbruch.angefordert()) return signal;

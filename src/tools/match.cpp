@@ -37,6 +37,7 @@ using fuh::Ergebnis;
 
 struct MatchOptionen {
     uint64_t spiele = 200;
+    uint64_t ab = 1; // the first seed
     std::chrono::milliseconds bedenkzeit = fuh::Spielerwahl{}.bedenkzeit;
     bool fuchsMeister = false, hennenMeister = false; // both: the Meister against the Meister
     bool duellZeit = false;                           // a duel's option was given
@@ -67,10 +68,11 @@ fuh::Setzer duellBedenkzeit(MatchOptionen& o, std::chrono::milliseconds& ziel) {
 fuh::Programm matchAufruf(MatchOptionen& o) {
     return {
         "match",
-        "Der Meister gegen Stärke 3 auf jeder Seite, in Partien mit den Startwerten 1 bis N:\n"
-        "seine Siege, Niederlagen und Remis und seine Zeit je Zug. Mit --fuchs meister\n"
-        "--hennen meister der Meister gegen den Meister: je Startwert zwei Partien mit\n"
-        "getauschten Seiten; F beginnt mit den Füchsen, H mit den Hennen.\n"
+        "Der Meister gegen Stärke 3 auf jeder Seite, in Partien mit den Startwerten 1 bis N\n"
+        "(oder ab --ab): seine Siege, Niederlagen und Remis und seine Zeit je Zug. Mit\n"
+        "--fuchs meister --hennen meister der Meister gegen den Meister: je Startwert\n"
+        "zwei Partien mit getauschten Seiten; F beginnt mit den Füchsen, H mit den\n"
+        "Hennen. Der Meister dieses Builds nutzt die Endspieltafeln im Cache-Ordner.\n"
         "Ein Werkzeug für die Entwicklung; es wird nicht installiert.",
         "Rückgabewert: 0 fertig, 1 kein Arbeitsordner oder ein Gegner versagt, 2 falscher\n"
         "Aufruf. Der Arbeitsordner im temporären Ordner wird am Ende entfernt, auch nach\n"
@@ -79,6 +81,8 @@ fuh::Programm matchAufruf(MatchOptionen& o) {
             {"spiele", 'n', "N",
              "Partien je Seite, im Duell Startwerte (Vorgabe " + std::to_string(MatchOptionen{}.spiele) + ")",
              fuh::zahl(o.spiele, 1, std::numeric_limits<uint32_t>::max())},
+            {"ab", 0, "N", "der erste Startwert (Vorgabe 1), so teilen sich Läufe die Startwerte",
+             fuh::zahl(o.ab, 1, std::numeric_limits<uint32_t>::max())},
             fuh::bedenkzeitOption(o.bedenkzeit),
             {"fuchs", 0, "meister", "F ist der Meister (mit --hennen meister)", meisterWahl(o.fuchsMeister)},
             {"hennen", 0, "meister", "H ist der Meister (mit --fuchs meister)", meisterWahl(o.hennenMeister)},
@@ -132,7 +136,7 @@ struct Bilanz {
 
 // One game in `ordner`: the Meister plays `meisterHennen` ? the hens : the foxes. Returns a signal that
 // stopped it, or 0.
-int partie(bool meisterHennen, uint32_t seed, std::chrono::milliseconds bedenkzeit, const fs::path& ordner,
+int partie(bool meisterHennen, uint32_t seed, const MatchOptionen& o, const fs::path& ordner,
            const Abbruch& abbruch, Bilanz& b) {
     const fuh::Oeffentlich* oeffentlich = nullptr;
     fuh::ProtokollAnsicht ansicht(oeffentlich, nullptr);
@@ -142,9 +146,10 @@ int partie(bool meisterHennen, uint32_t seed, std::chrono::milliseconds bedenkze
     spiel.einstellungenFestlegen({2, 2, 0, 0}); // both sides, strength 3, no learning
     fuh::Spielerwahl wahl;
     (meisterHennen ? wahl.hennen : wahl.fuchs) = fuh::Spieler{2, true};
-    wahl.bedenkzeit = bedenkzeit;
+    wahl.bedenkzeit = o.bedenkzeit;
     wahl.meisterSeed = seed;
     spiel.spielerFestlegen(wahl);
+    spiel.endspieltafeln(o.duell.tafeln);
     spiel.schrittweise(true);
     spiel.neuesSpiel();
     while (spiel.computerAmZug()) {
@@ -175,8 +180,9 @@ std::string links(const std::string& text, std::size_t breite) {
 // Both sides, one result line each. Returns a signal that stopped the match, or 0.
 int spielen(const MatchOptionen& o, const fs::path& ordner, const Abbruch& abbruch) {
     const auto spiele = static_cast<unsigned long long>(o.spiele);
-    std::printf("Meister gegen Stärke 3: %llu Partien je Seite, Bedenkzeit %lld ms, Startwerte 1..%llu\n\n",
-                spiele, static_cast<long long>(o.bedenkzeit.count()), spiele);
+    std::printf("Meister gegen Stärke 3: %llu Partien je Seite, Bedenkzeit %lld ms, Startwerte %llu..%llu\n",
+                spiele, static_cast<long long>(o.bedenkzeit.count()), static_cast<unsigned long long>(o.ab),
+                static_cast<unsigned long long>(o.ab) + spiele - 1);
     std::printf("%s %6s %12s %6s %10s %10s %8s\n", links("Meister spielt", 16).c_str(), "Siege",
                 "Niederlagen", "Remis", "Median ms", "Max ms", "Züge");
     for (const bool hennen : {true, false}) {
@@ -184,8 +190,8 @@ int spielen(const MatchOptionen& o, const fs::path& ordner, const Abbruch& abbru
         fuh::Fortschritt fortschritt(std::cerr, fuh::terminalSpalten(2));
         const auto start = std::chrono::steady_clock::now();
         for (uint64_t s = 1; s <= o.spiele; ++s) {
-            if (const int signal = partie(hennen, static_cast<uint32_t>(s), o.bedenkzeit, ordner, abbruch, b))
-                return signal;
+            const auto seed = static_cast<uint32_t>(o.ab + s - 1);
+            if (const int signal = partie(hennen, seed, o, ordner, abbruch, b)) return signal;
             fortschritt.melde(s, o.spiele,
                               "Siege " + std::to_string(b.siege) + "  Niederlagen " +
                                   std::to_string(b.niederlagen) + "  Remis " + std::to_string(b.remis),
@@ -216,10 +222,14 @@ int matchLaufen(int argc, char** argv) {
         return fuh::aufrufFehler(
             programm, "die Duell-Optionen gelten nur mit --fuchs meister --hennen meister", std::cerr);
     std::setvbuf(stdout, nullptr, _IOLBF, 0); // a pipe sees each result line at once
+    if (o.ab + o.spiele - 1 > std::numeric_limits<uint32_t>::max())
+        return fuh::aufrufFehler(programm, "die Startwerte reichen über 4294967295 hinaus", std::cerr);
+    if (const auto ordner = fuh::tafelOrdner()) o.duell.tafeln = fuh::tafelnLaden(*ordner);
     const Abbruch abbruch;
     int signal = 0;
     if (duell) {
         o.duell.paare = o.spiele;
+        o.duell.ab = o.ab;
         try {
             signal = fuh::duell(o.duell, abbruch, std::cout, std::cerr, fuh::terminalSpalten(2));
         } catch (const fuh::Gegnerfehler& f) {

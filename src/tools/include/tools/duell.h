@@ -12,6 +12,7 @@
 #include <string>
 
 #include "game/spielerwahl.h"
+#include "player/endspieltafel.h"
 #include "tools/abbruch.h"
 
 namespace fuh {
@@ -22,9 +23,14 @@ struct Duellant {
 };
 
 struct DuellOptionen {
-    uint64_t paare = 100; // seeds 1..paare
+    uint64_t ab = 1;      // the first seed
+    uint64_t paare = 100; // seeds ab..ab+paare-1
     Duellant f, h;
+    Endspieltafeln tafeln; // for this build's Meister
 };
+
+// Which endgame tables this build's Meister has, as a line of the match's header.
+std::string tafelnText(const Endspieltafeln& t);
 
 // Plays the match and prints one result line per player. Returns a signal that stopped it, or 0; throws
 // Gegnerfehler when a player fails or moves against the rules.

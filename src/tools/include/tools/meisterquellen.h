@@ -19,12 +19,17 @@ namespace fuh {
 
 class MeisterQuelle : public Zugquelle {
   public:
-    explicit MeisterQuelle(std::chrono::milliseconds bedenkzeit) : bedenkzeit_(bedenkzeit) {}
-    void neuePartie(uint32_t seed) override { meister_ = std::make_unique<Meister>(seed); }
+    MeisterQuelle(std::chrono::milliseconds bedenkzeit, Endspieltafeln tafeln)
+        : bedenkzeit_(bedenkzeit), tafeln_(std::move(tafeln)) {}
+    void neuePartie(uint32_t seed) override {
+        meister_ = std::make_unique<Meister>(seed);
+        meister_->endspieltafeln(tafeln_);
+    }
     Zugwahl waehle(const Brettfeld& Feld, int16_t seite, const Partie& partie) override;
 
   private:
     std::chrono::milliseconds bedenkzeit_;
+    Endspieltafeln tafeln_;
     std::unique_ptr<Meister> meister_;
 };
 
