@@ -90,7 +90,7 @@ void BrettFenster::aufgestellt(const Stellung& s) {
     for (int k = 0; k < kFiguren; ++k) {
         const int feld = s.figurplatz[static_cast<std::size_t>(k)];
         wiedergabe_.anhaengen(Ereignis::Art::bewegt, k, feld);
-        wiedergabe_.anhaengen(Ereignis::Art::sichtbar, k, 0, 0, BrettFlaeche::istFuchs(k) || feld != 0);
+        wiedergabe_.anhaengen(Ereignis::Art::sichtbar, k, 0, 0, BrettFlaeche::gezeigt(k, feld));
     }
 }
 

@@ -150,9 +150,8 @@ void BrettFlaeche::figurGleiten(int k, int von, int nach, int schritt, int schri
 void BrettFlaeche::aufstellen(const Stellung& s) {
     for (int k = 0; k < kFiguren; ++k) {
         const int feld = s.figurplatz[static_cast<std::size_t>(k)];
-        const bool aufDemBrett = istFuchs(k) || feld != 0; // a parked fox waits beside the cross
-        figurSetzen(k, aufDemBrett && feld >= 0 && feld < kFelder ? feld : kParkfeld);
-        figurZeigen(k, aufDemBrett);
+        figurSetzen(k, feld >= 0 && feld < kFelder ? feld : kParkfeld);
+        figurZeigen(k, gezeigt(k, feld));
     }
 }
 

@@ -29,6 +29,9 @@ class BrettFlaeche : public QWidget {
   public:
     static constexpr int kSeite = kBrettseite;              // the board picture at scale 1, logical pixels
     static constexpr bool istFuchs(int k) { return k < 2; } // pieces 0 and 1 are the foxes
+    // Whether piece k is shown where the game has it on `feld`: a taken hen has no square any more, a
+    // parked fox waits beside the cross.
+    static constexpr bool gezeigt(int k, int feld) { return istFuchs(k) || feld != kParkfeld; }
 
     // `ziehbar` tells whether a left press may start a drag now.
     explicit BrettFlaeche(std::function<bool()> ziehbar, QWidget* parent = nullptr);
