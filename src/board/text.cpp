@@ -71,8 +71,12 @@ constexpr bool geordnet() {
 }
 static_assert(geordnet(), "every template stands at its identifier's place");
 
-// `vorlage` with each %1 to %9 replaced by the matching entry of `werte` (a missing one by nothing);
-// inserted values are never searched again.
+} // namespace
+
+const char* vorlage(Vorlage v) {
+    return kTabelle.at(static_cast<std::size_t>(v)).second;
+}
+
 std::string einsetzen(std::string_view vorlage, const std::vector<std::string>& werte) {
     std::string text;
     for (std::size_t i = 0; i < vorlage.size(); ++i) {
@@ -85,12 +89,6 @@ std::string einsetzen(std::string_view vorlage, const std::vector<std::string>& 
         text += c;
     }
     return text;
-}
-
-} // namespace
-
-const char* vorlage(Vorlage v) {
-    return kTabelle.at(static_cast<std::size_t>(v)).second;
 }
 
 Text Text::wort(std::string w) {

@@ -90,20 +90,11 @@ void spracheSetzen(const Sprache& s, bool merken) {
 }
 
 QString uebersetzt(Vorlage v, const QStringList& werte) {
+    std::vector<std::string> utf8;
+    for (const QString& w : werte)
+        utf8.push_back(w.toStdString());
     const QString vorlageText = QCoreApplication::translate(kKernKontext, vorlage(v));
-    // As the core fills its German templates: each %1 to %9 once, inserted values never searched again.
-    QString text;
-    for (qsizetype i = 0; i < vorlageText.size(); ++i) {
-        const QChar c = vorlageText[i];
-        if (c == QLatin1Char('%') && i + 1 < vorlageText.size() && vorlageText[i + 1] >= QLatin1Char('1') &&
-            vorlageText[i + 1] <= QLatin1Char('9')) {
-            const qsizetype nummer = vorlageText[++i].unicode() - '1';
-            if (nummer < werte.size()) text += werte[nummer];
-            continue;
-        }
-        text += c;
-    }
-    return text;
+    return QString::fromStdString(einsetzen(vorlageText.toStdString(), utf8));
 }
 
 QString uebersetzt(const Text& text) {

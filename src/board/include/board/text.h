@@ -10,6 +10,7 @@
 #include <initializer_list>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 // Marks a German template for the translation tools, which collect it in the context "Kern".
@@ -86,6 +87,10 @@ class Text {
     std::string wort_;
     std::vector<Text> werte_;
 };
+
+// `vorlage` with each %1 to %9 replaced by the matching entry of `werte` (a missing one by nothing);
+// inserted values are never searched again. A window fills its translated templates the same way.
+std::string einsetzen(std::string_view vorlage, const std::vector<std::string>& werte);
 
 // The text in German, byte for byte as the core's logs and files hold it.
 std::string deutsch(const Text& t);
