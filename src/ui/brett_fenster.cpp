@@ -103,6 +103,7 @@ BrettFenster::~BrettFenster() {
 void BrettFenster::groesseLaden() {
     // A stored size is fitted into the screen before it is applied; one that makes no sense is dropped.
     const QScreen* bildschirm = screen();
+    if (bildschirm) brettEinpassen(bildschirm->availableGeometry().height());
     if (const auto g =
             fenstergeometrie(fensterEinstellungen().value(QStringLiteral("geometrie")).toByteArray(),
                              bildschirm ? bildschirm->availableGeometry() : QRect())) {
@@ -118,9 +119,16 @@ void BrettFenster::groesseLaden() {
     const QRect frei = bildschirm ? bildschirm->availableGeometry() : QRect();
     const int zusatz = menuBar()->sizeHint().height() + statusBar()->sizeHint().height();
     resize(ersteFenstergroesse(BrettFlaeche::kSeite, zusatz, 0, frei));
-    resize(ersteFenstergroesse(BrettFlaeche::kSeite, zusatz,
-                               statusleistenBreite(*statusBar(), {panels_[0], panels_[1], panels_[2]}),
-                               frei));
+    resize(
+        ersteFenstergroesse(BrettFlaeche::kSeite, zusatz, statusleistenBreite(*statusBar(), panels_), frei));
+}
+
+void BrettFenster::brettEinpassen(int hoehe) {
+    // A screen too low for the board picture at its own size (a large scale on a small screen): the
+    // board may shrink, down to half, so that the whole window fits.
+    const int rest = minimumSizeHint().height() - brett_->minimumSizeHint().height();
+    const int seite = std::clamp(hoehe - rest, BrettFlaeche::kSeite / 2, BrettFlaeche::kSeite);
+    brett_->setMinimumSize(seite, seite);
 }
 
 bool BrettFenster::beschaeftigt() const {

@@ -204,7 +204,7 @@ void BrettFenster::tempoMenue(QMenu* menue) {
 void BrettFenster::statusleisteAnlegen() {
     QStatusBar* leiste = statusBar();
     leiste->setObjectName(QStringLiteral("statusleiste"));
-    const std::array<int, 4> anteile = {2, 1, 1, 2};
+    const std::array<int, 4> anteile = {2, 1, 1, 3}; // by the length of each field's longest text
     for (size_t i = 0; i < panels_.size(); ++i) {
         auto* label = new Statustext(leiste);
         label->setObjectName(QStringLiteral("panel%1").arg(i + 1));

@@ -20,8 +20,8 @@ namespace fuh {
 namespace {
 
 // Every text the game may show in each field.
-std::array<std::vector<Text>, 3> moeglicheTexte() {
-    std::array<std::vector<Text>, 3> texte;
+std::array<std::vector<Text>, 4> moeglicheTexte() {
+    std::array<std::vector<Text>, 4> texte;
     texte[0] = {Vorlage::zweiSpielerFuchsAmZug, Vorlage::zweiSpielerHennenAmZug};
     texte[1] = {Vorlage::meister};
     for (int stufe = 0; stufe <= 2; ++stufe) {
@@ -31,6 +31,7 @@ std::array<std::vector<Text>, 3> moeglicheTexte() {
     }
     // Three digits and a sign: every score the board allows.
     texte[2] = {Text(Vorlage::punkte, {Text::zahl(-888)})};
+    texte[3] = {Vorlage::zurueckgenommen};
     return texte;
 }
 
@@ -46,12 +47,16 @@ QString laengster(const QLabel& feld, const std::vector<Text>& texte) {
 
 } // namespace
 
-int statusleistenBreite(QStatusBar& leiste, const std::array<QLabel*, 3>& felder) {
+int statusleistenBreite(QStatusBar& leiste, const std::array<QLabel*, 4>& felder) {
     const auto texte = moeglicheTexte();
-    std::array<QString, 3> bisher;
+    std::array<QString, 4> bisher;
+    std::array<bool, 4> verborgen{};
+    // Every field shown with its longest text, also the one that appears only after a take-back.
     for (size_t i = 0; i < felder.size(); ++i) {
         bisher[i] = felder[i]->text();
+        verborgen[i] = felder[i]->isHidden();
         felder[i]->setText(laengster(*felder[i], texte[i]));
+        felder[i]->show();
     }
     // The fields share the bar by their stretch factors, whatever their texts: laid out at the present
     // width, the field shortest of its text says by how much the fields' share must grow.
@@ -64,8 +69,10 @@ int statusleistenBreite(QStatusBar& leiste, const std::array<QLabel*, 3>& felder
     double faktor = 1.0;
     for (const QLabel* feld : felder)
         faktor = std::max(faktor, double(feld->sizeHint().width()) / std::max(1, feld->width()));
-    for (size_t i = 0; i < felder.size(); ++i)
+    for (size_t i = 0; i < felder.size(); ++i) {
         felder[i]->setText(bisher[i]);
+        felder[i]->setVisible(!verborgen[i]);
+    }
     return leiste.width() + static_cast<int>(std::ceil(felderBreite * (faktor - 1.0)));
 }
 

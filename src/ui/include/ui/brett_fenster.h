@@ -144,6 +144,7 @@ class BrettFenster : public QMainWindow, public Ansicht {
     void zeigen(const Ereignis& e);
     void befehleAbgleichen();
     void groesseLaden();
+    void brettEinpassen(int hoehe); // the least board side that lets the window fit `hoehe` pixels
     // The board's input, the playback and the timers, wired to the game.
     void verbinden();
     // The board with the line that explains the game under it, a person's drop, and that line kept up

@@ -3,8 +3,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #pragma once
-// How wide the status bar must be so that its fields for the side, the strength and the points show
-// the longest texts the game puts there, in the language in use.
+// How wide the status bar must be so that its fields for the side, the strength, the points and a
+// take-back show the longest texts the game puts there, in the language in use.
 #include <array>
 
 class QLabel;
@@ -12,8 +12,9 @@ class QStatusBar;
 
 namespace fuh {
 
-// The width `leiste` needs, laid out in its window as it is now, for `felder` (side, strength, points)
-// to show their longest texts in full. The fields keep their texts.
-int statusleistenBreite(QStatusBar& leiste, const std::array<QLabel*, 3>& felder);
+// The width `leiste` needs, laid out in its window as it is now, for `felder` (side, strength, points,
+// take-back) to show their longest texts in full, all at once. The fields keep their texts and whether
+// they are shown.
+int statusleistenBreite(QStatusBar& leiste, const std::array<QLabel*, 4>& felder);
 
 } // namespace fuh
