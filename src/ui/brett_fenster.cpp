@@ -5,6 +5,7 @@
 #include "ui/brett_fenster.h"
 
 #include <QLabel>
+#include <QLayout>
 #include <QMenuBar>
 #include <QScreen>
 #include <QSettings>
@@ -129,6 +130,9 @@ void BrettFenster::brettEinpassen(int hoehe) {
     const int rest = minimumSizeHint().height() - brett_->minimumSizeHint().height();
     const int seite = std::clamp(hoehe - rest, BrettFlaeche::kSeite / 2, BrettFlaeche::kSeite);
     brett_->setMinimumSize(seite, seite);
+    // Laid out at once, so that the size set next already allows the smaller board.
+    centralWidget()->layout()->activate();
+    layout()->activate();
 }
 
 bool BrettFenster::beschaeftigt() const {
