@@ -183,6 +183,7 @@ int spielen(const MatchOptionen& o, const fs::path& ordner, const Abbruch& abbru
     std::printf("Meister gegen Stärke 3: %llu Partien je Seite, Bedenkzeit %lld ms, Startwerte %llu..%llu\n",
                 spiele, static_cast<long long>(o.bedenkzeit.count()), static_cast<unsigned long long>(o.ab),
                 static_cast<unsigned long long>(o.ab) + spiele - 1);
+    std::printf("%s\n\n", fuh::tafelnText(o.duell.tafeln).c_str());
     std::printf("%s %6s %12s %6s %10s %10s %8s\n", links("Meister spielt", 16).c_str(), "Siege",
                 "Niederlagen", "Remis", "Median ms", "Max ms", "Züge");
     for (const bool hennen : {true, false}) {
