@@ -81,6 +81,28 @@ TEST(Zuruecknahme, StelltDenGanzenStandHerUndDieselbenZuegeFolgen) {
     EXPECT_GT(erreicht.strafen, 2);
 }
 
+// A chain of two jumps and the computer's reply are one move: taking it back restores the game as it
+// was before the first jump.
+TEST_F(SpielTest, ZuruecknahmeEinerKetteAusZweiSpruengen) {
+    ini(1);
+    spiel.programmStart(1);
+    spiel.neuesSpiel(); // the hens open
+    versetzen(feldNummer(2, 4), feldNummer(0, 2));
+    versetzen(feldNummer(2, 6), feldNummer(1, 2));
+    const Spielstand vorher = spiel.zustand();
+    ziehe(2, 2, 2, 4);
+    ziehe(2, 4, 2, 6);
+    ASSERT_EQ(spiel.stellung().Feld[2][5], leer);
+    ASSERT_TRUE(spiel.sprungfolge().imSprung);
+    spiel.sprungfolgeSchliessen();
+    ASSERT_TRUE(spiel.computerZieht());
+    spiel.zuruecknehmen();
+    Spielstand erwartet = vorher;
+    erwartet.zurueckgenommen = true;
+    EXPECT_TRUE(spiel.zustand() == erwartet);
+    EXPECT_FALSE(spiel.zuruecknehmenMoeglich()); // nothing before it
+}
+
 TEST_F(SpielTest, ZuruecknahmeNurImLaufendenSpielGegenDenComputer) {
     spiel.programmStart(0);
     EXPECT_FALSE(spiel.zuruecknehmenMoeglich());
