@@ -3,7 +3,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #pragma once
-// The byte layouts of the game's data files, written out by hand.
+// The byte layouts of the game's data files, written out by hand, and a finished game to list.
 #include <algorithm>
 #include <array>
 #include <bit>
@@ -16,6 +16,7 @@
 #include <string>
 #include <vector>
 
+#include "spieldaten/oeffentlich.h"
 #include "temp_ordner.h"
 
 namespace fuh::test {
@@ -43,6 +44,15 @@ inline std::vector<uint8_t> hsSatz(double datum, int16_t score, std::string name
     b.insert(b.end(), name.begin(), name.end());
     b.insert(b.end(), sieg.begin(), sieg.end());
     return b;
+}
+
+// A finished game as the high-score lists are handed it.
+inline Oeffentlich spielende(int16_t score, const char* sieger = "Ja") {
+    Oeffentlich spiel;
+    spiel.score = score;
+    spiel.u_is_sieger = sieger;
+    spiel.sw_spielende = true;
+    return spiel;
 }
 
 } // namespace fuh::test

@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include "board/regeln.h"
+#include "board/sprung.h"
 #include "leeres_kreuz.h"
 
 namespace fuh {
@@ -51,6 +52,46 @@ TEST(Regeln, ZuegeAnDenKanten) {
     EXPECT_FALSE(korrekterZug(t.Feld, Seite::Fuchs, offen, 5, 2, 5, 4)); // nor its jump
     EXPECT_TRUE(korrekterZug(t.Feld, Seite::Fuchs, keine, 5, 2, 5, 4));
     EXPECT_TRUE(korrekterZug(t.Feld, Seite::Fuchs, offen, 3, 2, 1, 2));
+}
+
+Brettfeld leer7() {
+    return test::leeresKreuz().Feld;
+}
+
+TEST(Sprung, WertMitFolgespruengen) {
+    Brettfeld f = leer7();
+    f[3][2] = fuchs;
+    f[3][3] = henne;
+    EXPECT_EQ(issprung(3, 2, 0, 1, f), 5); // 8 - 6 + 3
+    f[2][4] = henne;
+    f[4][4] = henne;
+    const Brettfeld vorher = f;
+    EXPECT_EQ(issprung(3, 2, 0, 1, f), 13); // plus 6 - 3 + 1 twice
+    EXPECT_EQ(f, vorher);
+    EXPECT_EQ(is2sprung(3, 2, 0, 1, f), 5);
+    f[1][4] = henne; // a blocked follow-up counts nothing
+    EXPECT_EQ(issprung(3, 2, 0, 1, f), 9);
+}
+
+TEST(Sprung, DiagonaleNurVonGeradenFeldern) {
+    Brettfeld f = leer7();
+    f[3][2] = fuchs;
+    f[4][3] = henne;
+    EXPECT_FALSE(isjump(f, 3, 2));
+    EXPECT_EQ(issprung(3, 2, 1, 1, f), 0);
+    f[2][2] = fuchs;
+    f[3][3] = henne;
+    EXPECT_TRUE(isjump(f, 2, 2));
+    f[4][4] = henne; // landing occupied
+    EXPECT_FALSE(isjump(f, 2, 2));
+}
+
+TEST(Sprung, LandungAusserhalbDesKreuzesZaehltNicht) {
+    Brettfeld f = leer7();
+    f[2][1] = fuchs;
+    f[1][1] = 0;
+    f[2][0] = henne;
+    EXPECT_EQ(issprung(2, 1, 0, -1, f), 0);
 }
 
 } // namespace

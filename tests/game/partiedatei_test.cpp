@@ -2,20 +2,13 @@
 //
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include <sys/stat.h>
 #include <unistd.h>
 
 #include <algorithm>
-#include <cstdlib>
-#include <functional>
-#include <map>
-#include <optional>
 #include <string>
 
 #include "dateischicht/prozess.h"
-#include "fremde_sperre.h"
 #include "partie_fixture.h"
-#include "spieldaten/statistikdatei.h"
 
 namespace fuh::test {
 namespace {
@@ -128,44 +121,6 @@ TEST_F(PartieTest, GetoetetWaehrendDerFrageBleibtDieDatei) {
     EXPECT_TRUE(*Partieablage(zustand()).holen(keine).sicherung == s);
 }
 
-// A state folder that cannot be written. Taken over once, the game is marked and not offered
-// again, so it cannot be finished and filed twice; the mark goes when its file does.
-TEST_F(PartieTest, NichtEntfernbarWirdNichtNochEinmalAngeboten) {
-    const Sicherung s = mitten();
-    // Root may remove anything: the folder is made for `nobody`, who then plays.
-    fs::create_directories(zustand());
-    if (::geteuid() == 0) {
-        ASSERT_EQ(::chown(zustand().c_str(), 65534, 65534), 0);
-    }
-    const pid_t kind = kindStarten([&] {
-        if (::geteuid() == 0 && (::setgid(65534) != 0 || ::setuid(65534) != 0)) ::_exit(3);
-        ASSERT_TRUE(Partieablage(zustand()).sichern(s));
-        fs::permissions(zustand(), fs::perms::owner_read | fs::perms::owner_exec);
-        std::vector<std::string> uebernommen;
-        std::string kennung;
-        {
-            Partieablage start(zustand());
-            const auto a = start.holen(uebernommen);
-            ASSERT_TRUE(a.sicherung.has_value());
-            EXPECT_FALSE(start.erledigt()); // "Ja", but the file cannot go
-            EXPECT_EQ(start.fehler(), EACCES);
-            uebernommen.push_back(a.kennung);
-            kennung = a.kennung;
-        }
-        for (int start = 0; start < 3; ++start) {
-            Partieablage p(zustand());
-            EXPECT_FALSE(p.holen(uebernommen).sicherung);
-            EXPECT_EQ(uebernommen, std::vector<std::string>{kennung}); // still there: still marked
-        }
-        // Writable again: the marked file goes at the next start, and with it the mark.
-        fs::permissions(zustand(), fs::perms::owner_all);
-        EXPECT_FALSE(Partieablage(zustand()).holen(uebernommen).sicherung);
-        EXPECT_TRUE(uebernommen.empty());
-        EXPECT_FALSE(fs::exists(zustand() / "partie"));
-    });
-    EXPECT_TRUE(kindAbwarten(kind, std::chrono::seconds(10)));
-}
-
 // A folder where the saved game should be stays, unreported; the game goes to the next name.
 TEST_F(PartieTest, EinOrdnerAnSeinerStelleBleibtUnberuehrt) {
     const Sicherung s = mitten();
@@ -223,50 +178,6 @@ TEST_F(PartieTest, VerwaisteTemporaereDateienGehen) {
     std::ofstream(zustand() / ".partie-99999-0.tmp") << "halb";
     EXPECT_FALSE(Partieablage(zustand()).holen(keine).sicherung);
     EXPECT_TRUE(fs::is_empty(zustand()));
-}
-
-// The data folder stays locked past the time limit when the game ends. Nothing of the game is
-// written then; kept with `abzulegen`, it is filed at the next start, once.
-TEST_F(PartieTest, EinNichtAbgelegtesSpielWirdSpaeterAbgelegt) {
-    ini(0, 0, 0, 0);
-    spiel.neuesSpiel();
-    const int16_t gestartet = statistikLesen(ordner.pfad()).gestartet();
-    datei::sperrfristSetzen(std::chrono::milliseconds(50));
-    std::optional<Sicherung> offen;
-    {
-        const FremdeSperre fremd(ordner.pfad());
-        ASSERT_TRUE(fremd.gehalten());
-        Zufall mensch(8);
-        for (int i = 0; i < 300 && spiel.laeuft(); ++i) {
-            menschZieht(spiel, mensch);
-            spiel.computerZieht();
-        }
-        ASSERT_TRUE(spiel.endeGefunden());
-        offen = spiel.offeneAblage();
-    }
-    datei::sperrfristSetzen(std::chrono::milliseconds(5000));
-    ASSERT_TRUE(offen.has_value());
-    EXPECT_TRUE(offen->abzulegen);
-    EXPECT_EQ(statistikLesen(ordner.pfad()).beendet(), 0);
-    EXPECT_EQ(statistikLesen(ordner.pfad()).gestartet(), gestartet);
-    {
-        Partieablage ende(zustand());
-        ASSERT_TRUE(ende.sichern(*offen));
-    }
-    Partieablage start(zustand());
-    const auto a = start.holen(keine);
-    ASSERT_TRUE(a.sicherung && a.sicherung->abzulegen);
-    TestAnsicht neueAnsicht;
-    Zufall neuerZufall;
-    Spiel neu(neueAnsicht, neuerZufall, ordner.pfad());
-    neu.programmStart(1);
-    neu.ablegen(*a.sicherung);
-    EXPECT_FALSE(neu.offeneAblage());
-    EXPECT_TRUE(start.erledigt());
-    const Statistik st = statistikLesen(ordner.pfad());
-    EXPECT_EQ(st.beendet(), 1);
-    EXPECT_EQ(st.gestartet(), gestartet);
-    EXPECT_FALSE(Partieablage(zustand()).holen(keine).sicherung);
 }
 
 } // namespace

@@ -2,6 +2,8 @@
 //
 // SPDX-License-Identifier: GPL-3.0-or-later
 
+#include <random>
+
 #include "dateischicht/dateizugriff.h"
 #include "fremde_sperre.h"
 #include "spiel_fixture.h"
@@ -11,18 +13,12 @@ namespace {
 
 using test::SpielTest;
 
-// The person plays the hens at strength 2 in single-move mode (no replies); the foxes are put aside by
-// hand, then nine hens walk into the target area, all but the last step: (4, 3) to (4, 2).
+// The person plays the hens at strength 2 in single-move mode (no replies), one step before their win.
 void hennenVorDemSieg(SpielTest& t, int16_t Lernmodus) {
     t.ini(0, 1, Lernmodus, 1);
     t.spiel.programmStart(1);
     t.spiel.neuesSpiel();
-    t.versetzen(feldNummer(2, 2), feldNummer(0, 2));
-    t.versetzen(feldNummer(4, 2), feldNummer(6, 2));
-    for (int x : {2, 3, 4})
-        for (int start = 3; start <= 5; ++start)
-            for (int y = start; y > start - 3; --y)
-                if (x != 4 || start != 5 || y != 3) t.ziehe(x, y, x, y - 1);
+    ASSERT_TRUE(test::hennenVorDemSieg(t.spiel));
 }
 
 TEST_F(SpielTest, HennenGewinnenUndWerdenAbgelegt) {
@@ -92,6 +88,56 @@ TEST_F(SpielTest, ZugbegrenzungIstRemisOhneMeldung) {
     EXPECT_EQ(statistik(1), 1);
     EXPECT_EQ(statistik(15), 2);
     EXPECT_EQ(statistik(16), 2);
+}
+
+using test::SpielTest;
+
+// Whatever the files hold, a game can be started, played by the computer and filed.
+TEST_F(SpielTest, BeliebigeDateiinhalteFuehrenNieZumAbsturz) {
+    std::mt19937 zufallszahlen(42);
+    auto muell = [&](std::size_t n) {
+        std::vector<unsigned char> b(n);
+        for (auto& c : b)
+            c = static_cast<unsigned char>(zufallszahlen());
+        return b;
+    };
+    const std::vector<std::array<int16_t, 4>> einstellungen = {
+        {7, 0, 1, 0}, {0, -1, 1, 0}, {1, 300, 1, 0}, {2, -32768, 1, 1}, {2, 2, 1, 0}, {-1, 1, 1, 5}};
+    for (const auto& e : einstellungen) {
+        SCOPED_TRACE(e[0] * 1000 + e[1]);
+        ini(e[0], e[1], e[2], e[3]);
+        ordner.schreibe("QZ.sta", muell(17));
+        ordner.schreibe("QZ3.DAT", muell(15 * 200 + 7));
+        ordner.schreibe("QZ2.DAT", muell(4));
+        spiel.programmStart(3);
+        spiel.neuesSpiel();
+        for (int t = 0; t < kFelder; ++t)
+            for (int k = 0; k < kFiguren; ++k)
+                spiel.abgelegt(t, k);
+        spiel.sprungfolgeSchliessen();
+        spiel.computerZieht();
+        EXPECT_LE(spiel.spielzug(), kSituationen);
+    }
+    // A file that cannot be written is reported in German and the game goes on.
+    std::filesystem::remove(ordner / "QZ.sta");
+    std::filesystem::create_directory(ordner / "QZ.sta");
+    ini(2, 0, 0, 0);
+    ansicht.meldungen.clear();
+    spiel.neuesSpiel();
+    ASSERT_FALSE(ansicht.meldungen.empty());
+    EXPECT_NE(ansicht.meldungen.front().find("QZ.sta"), std::string::npos);
+    EXPECT_TRUE(spiel.endeGefunden());
+
+    // Everything that failed when the game was filed is named in one message.
+    std::filesystem::remove(ordner / "QZ3.DAT");
+    std::filesystem::create_directory(ordner / "QZ3.DAT");
+    ini(2, 2, 1, 0);
+    ansicht.meldungen.clear();
+    spiel.neuesSpiel();
+    ASSERT_TRUE(spiel.endeGefunden());
+    EXPECT_EQ(ansicht.meldungen.back(),
+              "Die Dateien „QZ3.DAT“ und „QZ.sta“ konnten nicht gespeichert werden. "
+              "Das Spiel geht ohne diese Daten weiter.");
 }
 
 } // namespace

@@ -4,11 +4,11 @@
 
 #include <gtest/gtest.h>
 
-#include "memory/lerndatei.h"
-#include "temp_ordner.h"
-
 #include <fstream>
-#include <unistd.h>
+
+#include "memory/lerndatei.h"
+#include "memory/partie.h"
+#include "temp_ordner.h"
 
 namespace fuh {
 namespace {
@@ -153,5 +153,30 @@ TEST_F(LerndateiTest, AenderungVonAussenZwischenZweiAbrufen) {
     }
     EXPECT_EQ(ordner.namen(), std::vector<std::string>{"qz3.dat"});
 }
+
+TEST(Positionscode, GrundstellungUndSpiegelcode) {
+    Stellung s;
+    s.grundstellung();
+    const Code c = positionscode(s.Feld);
+    EXPECT_EQ(c, (Code{0x58, 0x58, 0xB8, 0xB8, 0xB8, 0x58, 0x58, 0x42, 0x42, 0x44, 0x42}));
+    EXPECT_EQ(spiegelcode(c), (Code{0x58, 0x58, 0xB8, 0xB8, 0xB8, 0x58, 0x58, 0x44, 0x42, 0x42, 0x42}));
+}
+
+TEST(Partie, SchreibtNieUeberDenLetztenSatz) {
+    Stellung s;
+    s.grundstellung();
+    Partie p;
+    for (int i = 0; i < 200; ++i)
+        p.pstoSits(s.Feld, {});
+    EXPECT_EQ(p.spielzug, kSituationen);
+    p.sanktion(1, 1, 1);
+    p.sanktion(1, 1, 0);
+    EXPECT_EQ(p.sits[150].hennenwert, 2);
+    for (int i = 0; i < 400; ++i) // bookings stop at the 16-bit limits
+        p.sanktion(-100, 100, 1);
+    EXPECT_EQ(p.sits[0].hennenwert, -32768);
+    EXPECT_EQ(p.sits[0].fuchswert, 32767);
+}
+
 } // namespace
 } // namespace fuh

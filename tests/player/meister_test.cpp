@@ -5,12 +5,16 @@
 #include <gtest/gtest.h>
 
 #include "board/regeln.h"
+#include "leeres_kreuz.h"
+#include "memory/lerndatei.h"
+#include "player/erinnerung.h"
 #include "player/fuchsspieler.h"
 #include "player/meister.h"
 #include "player/meister_brett.h"
 #include "player/meister_suche.h"
+#include "player/meister_zeit.h"
 #include "player/strafregel.h"
-#include "spieler_fixture.h"
+#include "temp_ordner.h"
 
 namespace fuh {
 namespace {
@@ -84,18 +88,10 @@ TEST(Meister, FuchsFindetDieKetteDieGewinnt) {
 TEST(Meister, HennenSchliessenDieLuecke) {
     // Two foxes aim at (2, 2): over (2, 3) from below and over (3, 2) from the side. Most hen moves
     // leave a jump open; the hens must fill the landing square or move a threatened hen away.
-    const Brettfeld Feld = brett({{0, 2, 4},
-                                  {1, 4, 2},
-                                  {2, 2, 3},
-                                  {3, 3, 2},
-                                  {4, 1, 2},
-                                  {5, 0, 3},
-                                  {6, 5, 4},
-                                  {7, 6, 4},
-                                  {8, 3, 5},
-                                  {9, 4, 6},
-                                  {10, 0, 4},
-                                  {11, 6, 3}});
+    const std::initializer_list<Platz> figuren = {{0, 2, 4}, {1, 4, 2}, {2, 2, 3},  {3, 3, 2},
+                                                  {4, 1, 2}, {5, 0, 3}, {6, 5, 4},  {7, 6, 4},
+                                                  {8, 3, 5}, {9, 4, 6}, {10, 0, 4}, {11, 6, 3}};
+    const Brettfeld Feld = brett(figuren);
     const Zugwahl w = suche(Feld, henne, 4);
     ASSERT_EQ(w.anzahl, 1);
     Brettfeld danach = Feld;
@@ -120,19 +116,10 @@ TEST(Meister, KeinZug) {
 TEST(Meister, ZugbegrenzungMachtDenSiegZumRemis) {
     // Eight hens in the target area and one below the empty (3, 2): one step wins, unless that step
     // records the 149th position.
-    const Brettfeld Feld = brett({{0, 0, 2},
-                                  {1, 6, 2},
-                                  {2, 2, 0},
-                                  {3, 3, 0},
-                                  {4, 4, 0},
-                                  {5, 2, 1},
-                                  {6, 3, 1},
-                                  {7, 4, 1},
-                                  {8, 2, 2},
-                                  {9, 4, 2},
-                                  {10, 3, 3},
-                                  {11, 0, 4},
-                                  {12, 6, 4}});
+    const std::initializer_list<Platz> figuren = {{0, 0, 2},  {1, 6, 2},  {2, 2, 0}, {3, 3, 0}, {4, 4, 0},
+                                                  {5, 2, 1},  {6, 3, 1},  {7, 4, 1}, {8, 2, 2}, {9, 4, 2},
+                                                  {10, 3, 3}, {11, 0, 4}, {12, 6, 4}};
+    const Brettfeld Feld = brett(figuren);
     Meister m(3);
     EXPECT_EQ(suche(Feld, henne, 3, 147, &m).zuege[0], (Teilzug{3, 3, 3, 2}));
     EXPECT_GT(m.bericht().wert, meister::kEntschieden);
@@ -201,21 +188,68 @@ TEST(Meister, GanzePartieNurMitErlaubtenZuegen) {
 
 TEST(Meister, LetzterFuchsVerpasstEinenSprung) {
     // The last fox on the cross that misses a jump draws the game, so it jumps.
-    EXPECT_EQ(suche(brett({{0, 0, 0},
-                           {1, 4, 2},
-                           {3, 4, 3},
-                           {4, 2, 0},
-                           {5, 3, 0},
-                           {6, 4, 0},
-                           {7, 2, 1},
-                           {8, 3, 1},
-                           {9, 4, 1},
-                           {10, 2, 2},
-                           {11, 0, 3},
-                           {12, 6, 3}}),
-                    fuchs, 3)
-                  .zuege[0],
-              (Teilzug{4, 2, 4, 4}));
+    const std::initializer_list<Platz> figuren = {{0, 0, 0}, {1, 4, 2},  {3, 4, 3},  {4, 2, 0},
+                                                  {5, 3, 0}, {6, 4, 0},  {7, 2, 1},  {8, 3, 1},
+                                                  {9, 4, 1}, {10, 2, 2}, {11, 0, 3}, {12, 6, 3}};
+    EXPECT_EQ(suche(brett(figuren), fuchs, 3).zuege[0], (Teilzug{4, 2, 4, 4}));
+}
+
+using meister::Zeitplan;
+
+TEST(MeisterZeit, NaechsteTiefeNachPrognose) {
+    struct Fall {
+        uint64_t verbraucht, letzte, vorletzte;
+        bool erwartet;
+    };
+    // Budget 1000: below half a depth is always begun; above, only when it is predicted to fit.
+    const Fall faelle[] = {
+        {499, 400, 50, true},   // under half, however expensive
+        {600, 100, 50, true},   // doubling: 600 + 200
+        {600, 150, 50, false},  // tripling: 600 + 450
+        {600, 140, 0, false},   // unknown growth counts as threefold: 600 + 420
+        {600, 100, 0, true},    // 600 + 300
+        {600, 10, 1, true},     // growth capped at eightfold: 600 + 80
+        {600, 60, 1, false},    // 600 + 480
+        {900, 50, 100, true},   // a shrinking depth still counts as growing a little: 900 + 60
+        {900, 100, 100, false}, // 900 + 120
+        {1000, 0, 0, false},    // spent
+    };
+    for (const Fall& f : faelle)
+        EXPECT_EQ(Zeitplan::lohnt(f.verbraucht, f.letzte, f.vorletzte, 1000), f.erwartet)
+            << f.verbraucht << ' ' << f.letzte << ' ' << f.vorletzte;
+}
+
+TEST(MeisterZeit, KnotenbudgetOhneUhr) {
+    // With a node budget the clock is never asked: the stop comes exactly at the budget, and the cost
+    // of a depth is counted in positions.
+    Zeitplan plan(std::chrono::steady_clock::time_point{}, std::chrono::microseconds{1}, 1000);
+    EXPECT_FALSE(plan.um(999));
+    EXPECT_TRUE(plan.um(1000));
+    EXPECT_TRUE(plan.naechsteTiefe(100));  // 100 of 1000
+    EXPECT_TRUE(plan.naechsteTiefe(400));  // 400: under half
+    EXPECT_FALSE(plan.naechsteTiefe(700)); // 300 after 300, and a depth grows: 700 + 360
+}
+
+TEST(MeisterZeit, SuchtBisZumBudgetUndGleichAufJederMaschine) {
+    // The crowded opening under a node budget: the search spends at least half of it and never more,
+    // and two searches give the same legal move, depth and count.
+    Stellung start;
+    start.grundstellung();
+    for (const uint64_t budget : {2000u, 60000u}) {
+        Meister a(5), b(5);
+        a.grenzen(budget, 0);
+        b.grenzen(budget, 0);
+        const MeisterLage lage{start.Feld, henne, 0, true, std::chrono::milliseconds{1}};
+        const Zugwahl wa = a.berechne(lage), wb = b.berechne(lage);
+        EXPECT_EQ(wa, wb);
+        ASSERT_EQ(wa.anzahl, 1);
+        const Teilzug& z = wa.zuege[0];
+        EXPECT_TRUE(korrekterZug(start.Feld, Seite::Hennen, {}, z.vonX, z.vonY, z.nachX, z.nachY));
+        EXPECT_EQ(a.bericht().knoten, b.bericht().knoten);
+        EXPECT_EQ(a.bericht().tiefe, b.bericht().tiefe);
+        EXPECT_GE(a.bericht().knoten, budget / 2) << budget;
+        EXPECT_LE(a.bericht().knoten, budget) << budget;
+    }
 }
 
 } // namespace

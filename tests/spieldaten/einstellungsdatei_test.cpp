@@ -83,5 +83,75 @@ TEST(Datendateien, UebergrosseDateienWerdenNurAmAnfangGelesenUndGeschrieben) {
     EXPECT_EQ(werte(e), std::make_tuple(2, 0, 0, 1));
 }
 
+using test::TempOrdner;
+using B = std::vector<uint8_t>;
+using Zaehler = std::array<int16_t, 17>;
+const auto bytes = test::zaehlerBytes;
+
+TEST(Statistik, ZaehltSpielUndRichtigenSieg) {
+    struct Fall {
+        int16_t ergebnis, pc, staerke;
+        int zaehler; // the win counter expected to move, or -1
+    };
+    const Fall faelle[] = {
+        {2, 0, 0, 2},
+        {2, 2, 1, 3}, // computer foxes
+        {1, 1, 0, 5},
+        {1, 2, 2, 7}, // computer hens
+        {2, 1, 1, 9}, // user foxes
+        {1, 0, 2, 13},
+        {1, 0, 0, 11}, // user hens
+        {3, 0, 1, -1},
+        {3, 2, 2, -1}, // draws
+        // Unchecked settings from the file count the game but no win.
+        {2, 0, -1, -1},
+        {1, 1, 3, -1},
+        {1, 7, 1, -1},
+    };
+    for (const Fall& f : faelle) {
+        SCOPED_TRACE(testing::Message() << f.ergebnis << ' ' << f.pc << ' ' << f.staerke);
+        TempOrdner t;
+        ASSERT_TRUE(statistik(t.pfad(), f.ergebnis, Einstellungen{f.pc, f.staerke, 0, 0}, 5));
+        Zaehler z{};
+        z[0] = 1;
+        if (f.zaehler >= 0) z[static_cast<std::size_t>(f.zaehler)] = 1;
+        EXPECT_EQ(t.lies("QZ.sta"), bytes(z));
+    }
+}
+
+TEST(Statistik, KurzeDatei) {
+    TempOrdner t;
+    t.schreibe("QZ.sta", {3, 0, 1, 0, 9});
+    const Statistik s = statistikLesen(t.pfad());
+    EXPECT_EQ(std::make_tuple(s.beendet(), s.imLernmodus(), s.pcSiegeFuchs(0), s.gestartet()),
+              std::make_tuple(3, 1, 9, 0));
+    ASSERT_TRUE(spielGestartet(t.pfad()));
+    Zaehler z{3, 1, 9};
+    z[14] = 1;
+    EXPECT_EQ(t.lies("QZ.sta"), bytes(z));
+}
+
+TEST(Statistik, VorhandeneDateiAndererSchreibweise) {
+    TempOrdner t;
+    t.schreibe("QZ.STA", {1, 0});
+    ASSERT_TRUE(spielGestartet(t.pfad()));
+    EXPECT_EQ(t.namen(), std::vector<std::string>{"QZ.STA"});
+    EXPECT_EQ(statistikLesen(t.pfad()).gestartet(), 1);
+    EXPECT_EQ(statistikLesen(t.pfad()).beendet(), 1);
+}
+
+TEST(Statistik, ZaehlerBleibenImBereich) {
+    TempOrdner t;
+    Zaehler z{32767, 32767, 32767};
+    z[14] = 32767;
+    z[15] = 32760;
+    t.schreibe("QZ.sta", bytes(z));
+    ASSERT_TRUE(statistik(t.pfad(), 2, Einstellungen{0, 0, 1, 0}, 100));
+    ASSERT_TRUE(spielGestartet(t.pfad()));
+    z[16] = 100;
+    z[15] = 32767;
+    EXPECT_EQ(statistikLesen(t.pfad()).zaehler, z);
+}
+
 } // namespace
 } // namespace fuh

@@ -6,12 +6,9 @@
 
 #include <fstream>
 #include <map>
-#include <set>
 #include <sstream>
 
-#include "board/zufall.h"
 #include "dateischicht/satzdatei.h"
-#include "memory/positionscode.h"
 #include "temp_ordner.h"
 #include "tools/selbstspiel_lauf.h"
 #include "tools/selbstspiel_programm.h"
@@ -98,59 +95,9 @@ TEST(Selbstspiel, NachgespieltePartienGebenDieselbenZeilen) {
     }
 }
 
-// Saving and continuing before every move changes nothing, whatever the settings.
-TEST(Selbstspiel, FortsetzenAendertNichts) {
-    Zufall wahl(2026);
-    for (int lauf = 0; lauf < 6; ++lauf) {
-        const std::string args = "--spiele 3 --protokoll --pc " + std::to_string(wahl.ziehe(3) - 1) +
-                                 " --staerke " + std::to_string(wahl.ziehe(3)) +
-                                 (wahl.ziehe(2) == 1 ? " --lernen" : "");
-        const uint32_t seed = static_cast<uint32_t>(wahl.ziehe(1 << 20));
-        test::TempOrdner ohne, mit;
-        std::ostringstream logOhne, logMit;
-        selbstspiel(optionen(args), seed, ohne.pfad(), logOhne);
-        selbstspiel(optionen(args + " --fortsetzen-pruefen"), seed, mit.pfad(), logMit);
-        EXPECT_EQ(logMit.str(), logOhne.str()) << args << " --seed " << seed;
-        EXPECT_EQ(dateien(mit.pfad()), dateien(ohne.pfad())) << args << " --seed " << seed;
-    }
-}
-
-TEST(Selbstspiel, LernlaufSpeichertJedePositionNurEinmal) {
-    test::TempOrdner ordner;
-    std::ostringstream log;
-    const Summe s = selbstspiel(optionen("--spiele 5 --staerke 3 --lernen"), 99, ordner.pfad(), log);
-    EXPECT_EQ(s.nachErgebnis[1] + s.nachErgebnis[2] + s.nachErgebnis[3], 5u);
-    const auto b = ordner.lies("QZ3.DAT");
-    ASSERT_FALSE(b.empty());
-    ASSERT_EQ(b.size() % 15, 0u);
-    std::set<Code> gesehen;
-    for (std::size_t pos = 0; pos < b.size(); pos += 15) {
-        Code c;
-        std::copy(b.begin() + static_cast<long>(pos), b.begin() + static_cast<long>(pos) + 11, c.begin());
-        EXPECT_FALSE(gesehen.count(c) || gesehen.count(spiegelcode(c))) << "record " << pos / 15;
-        gesehen.insert(c);
-    }
-    const auto sta = ordner.lies("QZ.sta");
-    EXPECT_EQ(sta[30] | (sta[31] << 8), static_cast<int>(b.size() / 15)); // records learned in all
-}
-
-// Each side can play at its own strength; naming the settings' strength for both changes nothing, and a
-// strength-1 fox ignores what strength 3 has learned.
-TEST(Selbstspiel, JedeSeiteMitEigenerStaerke) {
-    auto lauf = [](const std::string& args) {
-        test::TempOrdner ordner;
-        std::ostringstream log;
-        selbstspiel(optionen("--spiele 6 --staerke 3 --lernen --protokoll " + args), 5, ordner.pfad(), log);
-        const auto gelernt = ordner.lies("QZ3.DAT");
-        return log.str() + std::string(gelernt.begin(), gelernt.end());
-    };
-    const std::string gewohnt = lauf("");
-    EXPECT_EQ(lauf("--fuchs 3 --hennen 3"), gewohnt);
-    EXPECT_NE(lauf("--fuchs 1"), gewohnt);
-}
-
-// A side given to a person is the same game as --pc with that side's strength: log and files alike, also
-// through the saved game. Two people play whole games and teach nothing.
+// A side given to a person is the same game as --pc with that side's strength, and a side given the
+// settings' strength is the same as none given: log and files alike, also through the saved game. A
+// side of its own strength plays another game. Two people play whole games and teach nothing.
 TEST(Selbstspiel, SeitenformGleichtDerPcForm) {
     auto lauf = [](const std::string& args) {
         test::TempOrdner ordner;
@@ -163,10 +110,12 @@ TEST(Selbstspiel, SeitenformGleichtDerPcForm) {
         {"--pc 0 --staerke 2", "--hennen mensch --fuchs 2"},
         {"--pc 1 --staerke 2", "--staerke 2 --fuchs mensch"},
         {"--pc 0 --staerke 3", "--fuchs 3 --hennen mensch --fortsetzen-pruefen"},
+        {"--pc 2 --staerke 3", "--staerke 3 --fuchs 3 --hennen 3"},
     };
     for (const auto& [pc, seiten] : gleich)
         EXPECT_TRUE(lauf(pc) == lauf(seiten)) << pc << " / " << seiten;
     EXPECT_FALSE(lauf("--pc 0 --staerke 3") == lauf("--hennen mensch --fuchs 2"));
+    EXPECT_FALSE(lauf("--pc 2 --staerke 3") == lauf("--pc 2 --staerke 3 --fuchs 1"));
 
     const auto [log, dateienZwei] = lauf("--fuchs mensch --hennen mensch --staerke 3");
     EXPECT_NE(log.find("\nsumme 4 "), std::string::npos);

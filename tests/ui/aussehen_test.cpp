@@ -39,13 +39,9 @@ void schreibe(const QString& pfad, const QByteArray& inhalt) {
 class AussehenTest : public QObject {
     Q_OBJECT
   private slots:
+    // Every colour of the game's themes is read; an unknown name gives the classic board.
     void dieThemenDesSpiels() {
-        const std::vector<Thema> liste = themen();
-        QStringList ids;
-        for (const Thema& t : liste)
-            ids << t.id;
-        QCOMPARE(ids, (QStringList{"klassisch", "dunkel", "kontrast"}));
-        for (const Thema& t : liste)
+        for (const Thema& t : themen())
             QVERIFY2(t.rand.isValid() && t.zugNach.isValid() && t.hinweisGrund.isValid(), qPrintable(t.id));
         QCOMPARE(thema(QStringLiteral("gibt-es-nicht")).id, QStringLiteral("klassisch"));
         // Every mark of the high-contrast board is opaque and stands out from its white ground.

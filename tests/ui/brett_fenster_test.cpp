@@ -4,15 +4,12 @@
 
 // The main window driven as a player would: menu commands, mouse drags, timer ticks, message boxes.
 #include <QAction>
-#include <QApplication>
-#include <QMessageBox>
 #include <QPointer>
 #include <QSignalSpy>
 #include <QTest>
-#include <QTimer>
 #include <vector>
 
-#include "fenster_aufbau.h"
+#include "tastatur_helfer.h"
 #include "ui/ansage.h"
 #include "ui/stat_form.h"
 #include "versetzen.h"
@@ -77,10 +74,7 @@ class BrettFensterTest : public QObject {
             QVERIFY2(!a.hinweisSichtbar(h), h);
         QVERIFY(!a.spiel().ziehbar());
         bilderPruefen(a);
-        // The window can grow, but not below the board's own size.
-        QVERIFY(a.fenster->maximumSize().width() > 2000);
-        a.fenster->resize(1, 1);
-        QCOMPARE(a.brett()->size(), QSize(400, 400));
+        QVERIFY(a.fenster->maximumSize().width() > 2000); // the window can grow
 
         a.aktion("start");
         QVERIFY(a.spiel().ziehbar());
@@ -174,21 +168,17 @@ class BrettFensterTest : public QObject {
         QVERIFY(test::versetzen(a.spiel(), feldNummer(2, 6), feldNummer(0, 2)));
         QCoreApplication::processEvents();
         QSignalSpy gesagt(a.fenster->findChild<Ansage*>(), &Ansage::angesagt);
-        auto alles = [&gesagt] {
-            QStringList texte;
-            for (const QList<QVariant>& s : gesagt)
-                texte << s.at(0).toString();
-            return texte.join(QLatin1Char('\n'));
-        };
         a.ziehe(feldNummer(2, 2), feldNummer(2, 4));
         QVERIFY(a.spiel().sprungfolge().imSprung); // c1 is free: over c2 the chain may go on
         QVERIFY(
             a.brett()->hinweisLabel(Hinweis::spr_msg)->toolTip().contains(QStringLiteral("Umschalt+F10")));
-        QTRY_VERIFY(alles().contains(QStringLiteral("Umschalt+F10"))); // the prompt is said with its keys
+        QTRY_VERIFY(
+            ansagen(gesagt).contains(QStringLiteral("Umschalt+F10"))); // the prompt is said with its keys
         gesagt.clear();
         a.ziehe(feldNummer(2, 4), feldNummer(2, 6));
         QTest::qWait(20); // what the jump brought is said
-        QVERIFY2(!alles().contains(QStringLiteral("Sprung mit rechter Maustaste")), qPrintable(alles()));
+        QVERIFY2(!ansagen(gesagt).contains(QStringLiteral("Sprung mit rechter Maustaste")),
+                 qPrintable(ansagen(gesagt)));
         QCOMPARE(a.spiel().stellung().Feld[2][5], leer);
         QVERIFY(!a.spiel().sprungfolge().imSprung);
         QVERIFY(!a.hinweisSichtbar("spr_msg"));
@@ -204,43 +194,13 @@ class BrettFensterTest : public QObject {
         sprungVorbereiten(a);
         a.ziehe(feldNummer(4, 2), feldNummer(4, 1)); // a step although both foxes could jump
         QVERIFY(a.spiel().computerAmZug() && a.spiel().amZug() == Seite::Hennen);
-        // Answered the way a quick player would: as soon as the box is up.
-        QString text;
-        QTimer::singleShot(0, [&text] {
-            if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
-                text = box->text();
-                box->accept();
-            }
-        });
+        Antworter antworter;
         a.fenster->zugTakt();
-        QVERIFY2(text.startsWith(QStringLiteral("Der Fuchs hätte springen können.")), qPrintable(text));
+        QCOMPARE(antworter.texte.size(), std::size_t{1});
+        QVERIFY(antworter.texte[0].startsWith(QStringLiteral("Der Fuchs hätte springen können.")));
         const auto geparkt = figur_index(a.spiel().stellung(), kParkfeld);
         QVERIFY(geparkt && *geparkt < 2);
         bilderPruefen(a);
-    }
-
-    // Spiel -> Tipp marks a legal move for the player and changes nothing; it is gone after the move,
-    // and there is none while the computer is to reply.
-    void tippZeigtEinenZug() {
-        Aufbau a({{0, 2, 0, 0}});
-        a.aktion("Neu");
-        auto* tipp = a.fenster->findChild<QAction*>(QStringLiteral("tipp"));
-        QVERIFY(tipp->isEnabled());
-        const Stellung vorher = a.spiel().stellung();
-        a.aktion("tipp");
-        const std::vector<int> felder = a.brett()->tipp();
-        QCOMPARE(felder.size(), size_t{2});
-        const Stellung& s = a.spiel().stellung();
-        QCOMPARE(s.Feld[feldX(felder[0])][feldY(felder[0])], henne);
-        QVERIFY(korrekterZug(s.Feld, Seite::Hennen, {}, feldX(felder[0]), feldY(felder[0]), feldX(felder[1]),
-                             feldY(felder[1])));
-        QVERIFY(s == vorher && a.spiel().spielzug() == 0);
-
-        a.ziehe(felder[0], felder[1]);
-        QVERIFY(a.brett()->tipp().empty());
-        QVERIFY(!tipp->isEnabled()); // the fox replies first
-        a.fenster->zugTakt();
-        QVERIFY(tipp->isEnabled());
     }
 
     // The Meister chosen in the settings plays the computer's side, shows in the status bar and is still

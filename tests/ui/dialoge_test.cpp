@@ -59,9 +59,7 @@ struct Offen {
                 b.insert(b.end(), satz.begin(), satz.end());
             }
             dir.schreibe("QZH.sco", b);
-            spiel.score = 32000;
-            spiel.u_is_sieger = "Ja";
-            spiel.sw_spielende = true;
+            spiel = test::spielende(32000);
             d = new HighscoreFenster(Seite::Hennen, spiel, dir.pfad());
             break;
         }

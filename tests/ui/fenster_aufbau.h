@@ -5,14 +5,18 @@
 #pragma once
 // The main window in a temporary data folder, driven like a player: menu commands, mouse drags on the
 // board at whatever size it has, message boxes answered as soon as they appear.
+#include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
+#include <QFile>
 #include <QLabel>
 #include <QMessageBox>
+#include <QPushButton>
 #include <QSettings>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
+#include <algorithm>
 #include <fstream>
 #include <memory>
 #include <optional>
@@ -26,26 +30,43 @@ namespace fuh::test {
 
 inline constexpr uint32_t kStartzeit = 36000; // fixed seed: every run plays the same game
 
-// Accepts every message box that opens and remembers its text and icon.
+// Answers every message box as it opens and remembers its text, its icon and whether its whole title
+// fits (the box is wider than the title's text): the question about the last game with `fortsetzen`
+// ("Ja" or "Nein"), the one about quitting with the button named `beenden`, every other box with OK.
 class Antworter {
   public:
-    Antworter() {
+    explicit Antworter(QMessageBox::StandardButton fortsetzen = QMessageBox::Yes,
+                       const char* beenden = "abbrechen")
+        : beenden_(beenden), fortsetzen_(fortsetzen) {
         QObject::connect(&timer_, &QTimer::timeout, [this] {
-            if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
-                texte.push_back(box->text());
-                symbole.push_back(box->icon());
-                // The whole title fits: the box is wider than the title's text.
-                titelPasst.push_back(box->width() > box->fontMetrics().horizontalAdvance(box->windowTitle()));
+            auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            if (!box) return;
+            texte.push_back(box->text());
+            symbole.push_back(box->icon());
+            titelPasst.push_back(box->width() > box->fontMetrics().horizontalAdvance(box->windowTitle()));
+            if (QAbstractButton* antwort = box->button(fortsetzen_)) {
+                ++fragen;
+                antwort->click();
+            } else if (auto* knopf = box->findChild<QPushButton*>(QString::fromLatin1(beenden_))) {
+                knopf->click();
+            } else {
                 box->accept();
             }
         });
         timer_.start(5);
     }
+    int anzahl(const QString& teil) const {
+        return static_cast<int>(
+            std::count_if(texte.begin(), texte.end(), [&](const QString& t) { return t.contains(teil); }));
+    }
     std::vector<QString> texte;
     std::vector<QMessageBox::Icon> symbole;
     std::vector<bool> titelPasst;
+    int fragen = 0;
+    const char* beenden_;
 
   private:
+    QMessageBox::StandardButton fortsetzen_;
     QTimer timer_;
 };
 
@@ -105,6 +126,12 @@ struct Aufbau {
     void ziehe(int von, QPoint ziel) { ziehe(mitte(von), ziel); }
     void ziehe(int von, int nach) { ziehe(mitte(von), mitte(nach)); }
 };
+
+// A file's bytes; empty when it cannot be read.
+inline QByteArray inhalt(const std::filesystem::path& p) {
+    QFile f(QString::fromStdString(p.string()));
+    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
+}
 
 // Every piece image stands on the point where the game has the piece, at the board's scale; a hen the
 // game has taken is hidden, a parked fox waits beside the cross.

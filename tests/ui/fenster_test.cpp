@@ -20,7 +20,6 @@
 
 #include "game/spiel.h"
 #include "kinder.h"
-#include "spielende_helfer.h"
 #include "testdateien.h"
 #include "ui/brett_fenster.h"
 #include "ui/einst_dialog.h"

@@ -55,11 +55,6 @@ class FensterKonfigTest : public QObject {
         QVERIFY(a.fenster->width() <= frei.width());
         QVERIFY(a.fenster->height() <= frei.height());
         QVERIFY(a.fenster->width() >= frei.width() / 2);
-        // Nonsense is dropped: the first start's size.
-        a.fenster.reset();
-        fensterEinstellungen().setValue(QStringLiteral("geometrie"), geometrie(10, 10, -5, 300));
-        a.starten();
-        QVERIFY(a.fenster->width() > 0 && a.fenster->width() <= frei.width());
     }
 
     // The first start's window is wide enough for the whole text of every status field, in either

@@ -2,11 +2,7 @@
 //
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// Taking a move back from the menu, and a game continued after the window was closed.
-#include <QAbstractButton>
-#include <QAction>
-#include <QFile>
-#include <QLabel>
+// A game continued after the window was closed.
 #include <QMessageBox>
 #include <QTest>
 #include <QTimer>
@@ -20,37 +16,9 @@
 using namespace fuh;
 using namespace fuh::test;
 
-namespace {
-QByteArray dateiInhalt(const std::filesystem::path& p) {
-    QFile f(QString::fromStdString(p.string()));
-    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
-}
-} // namespace
-
 class FortsetzenTest : public QObject {
     Q_OBJECT
   private slots:
-    void zugZuruecknehmen() {
-        Aufbau a;
-        auto* zurueck = a.fenster->findChild<QAction*>(QStringLiteral("zurueck"));
-        QCOMPARE(zurueck->shortcut(), QKeySequence(Qt::CTRL | Qt::Key_Z));
-        a.aktion("Neu");
-        const Stellung anfang = a.spiel().stellung();
-        QVERIFY(!zurueck->isEnabled());
-        a.ziehe(24, 17);
-        a.fenster->zugTakt(); // the fox replies
-        QVERIFY(zurueck->isEnabled());
-        zurueck->trigger();
-        QVERIFY(a.spiel().stellung() == anfang);
-        bilderPruefen(a);
-        QVERIFY(!zurueck->isEnabled());
-        auto* hinweis = a.fenster->findChild<QLabel*>(QStringLiteral("panel4"));
-        QCOMPARE(hinweis->text(), QStringLiteral("Zurückgenommen: keine Bestenliste"));
-        QVERIFY(!hinweis->isHidden());
-        a.aktion("Neu");
-        QVERIFY(hinweis->isHidden());
-    }
-
     void nachDemNeustartFortsetzen() {
         Aufbau a;
         const std::filesystem::path zustand = a.pfad() / "zustand";
@@ -105,14 +73,14 @@ class FortsetzenTest : public QObject {
         QVERIFY(beendenVerlangt());
         a.starten(); // the window goes as it does when the program ends
         QVERIFY(std::filesystem::exists(datei));
-        const QByteArray gespeichert = dateiInhalt(datei);
+        const QByteArray gespeichert = inhalt(datei);
 
         // Without an answer nothing is taken over: the file stays byte for byte, for the next start.
         QTimer::singleShot(0, [] { ::raise(SIGTERM); });
         a.fenster->fortsetzenAnbieten(zustand); // the question is open when the signal comes
         QVERIFY(!a.spiel().laeuft());
         a.starten();
-        QCOMPARE(dateiInhalt(datei), gespeichert);
+        QCOMPARE(inhalt(datei), gespeichert);
         Partieablage naechster(zustand);
         std::vector<std::string> keine;
         const auto angebot = naechster.holen(keine);
@@ -132,17 +100,7 @@ class FortsetzenTest : public QObject {
         QVERIFY(a.spiel().selbstspielLaeuft());
         a.starten();
         a.fenster->tempoSetzen(Tempo::sofort);
-        // "Ja" to the question, OK to the announcement of the end.
-        QTimer antworten;
-        QObject::connect(&antworten, &QTimer::timeout, [] {
-            if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
-                if (QAbstractButton* ja = box->button(QMessageBox::Yes))
-                    ja->click();
-                else
-                    box->accept();
-            }
-        });
-        antworten.start(5);
+        Antworter antworter; // "Ja" to the question, OK to the announcement of the end
         a.fenster->fortsetzenAnbieten(zustand);
         QTRY_VERIFY(a.spiel().endeGefunden());
         QCOMPARE(statistikLesen(a.pfad()).beendet(), int16_t{1});

@@ -16,7 +16,6 @@
 
 #include "game/spiel.h"
 #include "kinder.h"
-#include "spielende_helfer.h"
 #include "testdateien.h"
 #include "ui/highscore_fenster.h"
 

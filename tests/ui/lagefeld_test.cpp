@@ -2,8 +2,9 @@
 //
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// The line under the board in both languages: every reason an end can have, the move counter and the
-// warning before the limit, rewritten at once when the language changes.
+// The line under the board in both languages: the reason of the end (the last fox's apart from the
+// foxes' other loss), the move counter and the warning before the limit, rewritten at once when the
+// language changes.
 #include <QTest>
 
 #include "ui/lagefeld.h"
@@ -22,18 +23,11 @@ class LagefeldTest : public QObject {
         } faelle[] = {
             {Endegrund::hennenImZiel, false, "Spielende: Die Hennen besetzen alle 9 Zielfelder.",
              "Game over: The hens occupy all 9 target points."},
-            {Endegrund::zuWenigHennen, false,
-             "Spielende: Weniger als 9 Hennen sind übrig; sie können das Ziel nicht mehr füllen.",
-             "Game over: Fewer than 9 hens are left; they can no longer fill the target."},
-            {Endegrund::hennenOhneZug, false, "Spielende: Die Hennen können nicht mehr ziehen.",
-             "Game over: The hens cannot move any more."},
             {Endegrund::fuchsOhneZug, false, "Spielende: Die Füchse können nicht mehr ziehen.",
              "Game over: The foxes cannot move any more."},
             {Endegrund::fuchsOhneZug, true,
              "Spielende: Der letzte Fuchs auf dem Brett wäre ausgeschlossen worden.",
              "Game over: The last fox on the board would have been taken off."},
-            {Endegrund::zugbegrenzung, false, "Spielende: Die Zugbegrenzung von 149 Zügen ist erreicht.",
-             "Game over: The move limit of 149 moves has been reached."},
         };
         Lagefeld lage;
         for (const auto& f : faelle) {
