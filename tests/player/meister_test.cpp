@@ -208,7 +208,7 @@ TEST(MeisterZeit, NaechsteTiefeNachPrognose) {
         {600, 150, 50, false},  // tripling: 600 + 450
         {600, 140, 0, false},   // unknown growth counts as threefold: 600 + 420
         {600, 100, 0, true},    // 600 + 300
-        {600, 10, 1, true},     // growth capped at eightfold: 600 + 80
+        {600, 50, 1, true},     // growth capped at eightfold: 600 + 400, not 600 + 2500
         {600, 60, 1, false},    // 600 + 480
         {900, 50, 100, true},   // a shrinking depth still counts as growing a little: 900 + 60
         {900, 100, 100, false}, // 900 + 120
