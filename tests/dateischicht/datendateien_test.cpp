@@ -132,12 +132,35 @@ TEST(Datendateien, UnlesbareDateiBleibtByteFuerByte) {
 // file it names, which keeps its mode and owner. Otherwise the write fails, the message says why, and
 // nothing changes anywhere: the link stays, its target keeps every byte, and a missing target is not
 // created.
+struct LinkFall {
+    const char* name;
+    mode_t ordner, zielordner;
+    bool fremderLink, zielDa, folgt;
+};
+
+// The link `name` in `t` to `woanders`/opfer (written first when the case has a target: mode 0600, given
+// to nobody where root can), the two folders set to the case's modes.
+void linkAnlegen(TempOrdner& t, TempOrdner& woanders, const std::string& name, const LinkFall& f,
+                 const B& opfer) {
+    const bool root = ::geteuid() == 0;
+    const fs::path ziel = woanders / "opfer";
+    if (f.zielDa) {
+        woanders.schreibe("opfer", opfer);
+        ::chmod(ziel.c_str(), 0600);
+        if (root) {
+            ASSERT_EQ(::chown(ziel.c_str(), 65534, 65534), 0);
+        }
+    }
+    fs::create_symlink(fs::relative(ziel, t.pfad()), t / name);
+    if (f.fremderLink) {
+        ASSERT_EQ(::lchown((t / name).c_str(), 65534, 65534), 0);
+    }
+    ASSERT_EQ(::chmod(t.pfad().c_str(), f.ordner), 0);
+    ASSERT_EQ(::chmod(woanders.pfad().c_str(), f.zielordner), 0);
+}
+
 TEST(Datendateien, LinkWirdNurGefolgtWoNiemandSonstSchreibenKann) {
-    struct Fall {
-        const char* name;
-        mode_t ordner, zielordner;
-        bool fremderLink, zielDa, folgt;
-    };
+    using Fall = LinkFall;
     const Fall faelle[] = {
         {"eigener Ordner", 0755, 0755, false, true, true},
         {"Ordner für alle", 0777, 0755, false, true, false},
@@ -155,19 +178,8 @@ TEST(Datendateien, LinkWirdNurGefolgtWoNiemandSonstSchreibenKann) {
             TempOrdner t;
             TempOrdner woanders;
             const fs::path ziel = woanders / "opfer";
-            if (f.zielDa) {
-                woanders.schreibe("opfer", opfer);
-                ::chmod(ziel.c_str(), 0600);
-                if (root) {
-                    ASSERT_EQ(::chown(ziel.c_str(), 65534, 65534), 0);
-                }
-            }
-            fs::create_symlink(fs::relative(ziel, t.pfad()), t / art.name);
-            if (f.fremderLink) {
-                ASSERT_EQ(::lchown((t / art.name).c_str(), 65534, 65534), 0);
-            }
-            ASSERT_EQ(::chmod(t.pfad().c_str(), f.ordner), 0);
-            ASSERT_EQ(::chmod(woanders.pfad().c_str(), f.zielordner), 0);
+            linkAnlegen(t, woanders, art.name, f, opfer);
+            if (HasFatalFailure()) return;
             if (!f.zielDa) {
                 EXPECT_TRUE(art.liestDefault(t.pfad()));
             }
