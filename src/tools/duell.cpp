@@ -47,6 +47,27 @@ double buchen(Bilanz& b, const Partiebericht& p, int16_t seite) {
     return punkte;
 }
 
+// A signal that arrived during a game; it ends the match before the next move.
+struct Gestoppt {
+    int signal;
+};
+
+// Looks for a signal before every move of the player it stands for, so that a stop does not wait for the
+// end of a game of several minutes.
+class Wachsam final : public Zugquelle {
+  public:
+    Wachsam(std::unique_ptr<Zugquelle> q, const Abbruch& a) : q_(std::move(q)), abbruch_(a) {}
+    void neuePartie(uint32_t seed) override { q_->neuePartie(seed); }
+    Zugwahl waehle(const Brettfeld& feld, int16_t seite, const Partie& partie) override {
+        if (const int s = abbruch_.angefordert()) throw Gestoppt{s};
+        return q_->waehle(feld, seite, partie);
+    }
+
+  private:
+    std::unique_ptr<Zugquelle> q_;
+    const Abbruch& abbruch_;
+};
+
 Partiebericht spielen(Zugquelle& hennen, Zugquelle& fuechse, uint32_t seed) {
     Partiebericht p = partieLeiten(hennen, fuechse, seed);
     if (p.ausgang == Ausgang::ungueltig)
@@ -74,6 +95,57 @@ void zeile(std::ostream& aus, const char* wer, const Bilanz& b, std::chrono::mil
     aus << text << std::endl;
 }
 
+struct Stand {
+    Bilanz f, h;
+    std::array<uint64_t, 3> nachSeite{}; // the hens won, the foxes won, drawn
+};
+
+// Plays the pairs of seeds into `st`. Returns a signal that stopped it, or 0.
+int paareSpielen(const DuellOptionen& o, const Abbruch& abbruch, Stand& st, Fortschritt& fortschritt) {
+    Wachsam f(quelle(o.f, o.tafeln), abbruch), h(quelle(o.h, o.tafeln), abbruch);
+    const auto start = std::chrono::steady_clock::now();
+    for (uint64_t s = 1; s <= o.paare; ++s) {
+        const auto seed = static_cast<uint32_t>(o.ab + s - 1);
+        double pf = 0, ph = 0;
+        for (const bool fFuchs : {true, false}) {
+            Partiebericht p;
+            try {
+                p = fFuchs ? spielen(h, f, seed) : spielen(f, h, seed);
+            } catch (const Gestoppt& g) {
+                return g.signal;
+            }
+            pf += buchen(st.f, p, fFuchs ? fuchs : henne);
+            ph += buchen(st.h, p, fFuchs ? henne : fuchs);
+            const double hp = hennenPunkte(p.ausgang);
+            ++st.nachSeite[hp == 1 ? 0 : hp == 0 ? 1 : 2];
+        }
+        st.f.paarpunkte.push_back(pf / 2);
+        st.h.paarpunkte.push_back(ph / 2);
+        fortschritt.melde(s, o.paare,
+                          "F " + std::to_string(st.f.siege) + "  H " + std::to_string(st.h.siege) +
+                              "  Remis " + std::to_string(st.f.remisGesamt()),
+                          std::chrono::steady_clock::now() - start);
+    }
+    return 0;
+}
+
+void ergebnisZeigen(const DuellOptionen& o, const Stand& st, std::ostream& aus) {
+    char kopf[160];
+    std::snprintf(kopf, sizeof kopf, "%-7s %6s %12s %6s %6s %6s %6s %7s %6s %10s %10s %9s %6s", "Spieler",
+                  "Siege", "Niederlagen", "Remis", "Grenze", "LFuchs", "KZug", "Punkte", "±95 %", "Median ms",
+                  "Max ms", "Züge", "Über");
+    aus << kopf << '\n';
+    zeile(aus, "F", st.f, o.f.bedenkzeit);
+    zeile(aus, "H", st.h, o.h.bedenkzeit);
+    aus << "\nRemis: an der Zugbegrenzung (Grenze), letzter Fuchs ausgeschlossen (LFuchs), die Füchse ohne "
+           "Zug (KZug).\nÜber: Züge mehr als "
+        << kUeberzugProzent - 100
+        << " % über der Bedenkzeit.\nPunkte: Sieg 1, Remis 0,5, je Startwert gemittelt; 95 %-Intervall über "
+           "die Startwerte.\n"
+        << "Nach Seiten: die Hennen gewinnen " << st.nachSeite[0] << ", die Füchse " << st.nachSeite[1]
+        << ", Remis " << st.nachSeite[2] << std::endl;
+}
+
 } // namespace
 
 std::string tafelnText(const Endspieltafeln& t) {
@@ -84,48 +156,15 @@ std::string tafelnText(const Endspieltafeln& t) {
 
 int duell(const DuellOptionen& o, const Abbruch& abbruch, std::ostream& aus, std::ostream& fehler,
           std::size_t spalten) {
-    const auto f = quelle(o.f, o.tafeln), h = quelle(o.h, o.tafeln);
     aus << "Meister gegen Meister: Startwerte " << o.ab << ".." << o.ab + o.paare - 1
         << ", je zwei Partien mit getauschten Seiten\n"
         << tafelnText(o.tafeln) << '\n'
         << "F (zuerst die Füchse): " << name(o.f) << "\nH (zuerst die Hennen): " << name(o.h) << "\n\n";
-    Bilanz bf, bh;
-    std::array<uint64_t, 3> nachSeite{}; // the hens won, the foxes won, drawn
+    Stand st;
     Fortschritt fortschritt(fehler, spalten);
-    const auto start = std::chrono::steady_clock::now();
-    for (uint64_t s = 1; s <= o.paare; ++s) {
-        const auto seed = static_cast<uint32_t>(o.ab + s - 1);
-        double pf = 0, ph = 0;
-        for (const bool fFuchs : {true, false}) {
-            if (const int signal = abbruch.angefordert()) return signal;
-            const Partiebericht p = fFuchs ? spielen(*h, *f, seed) : spielen(*f, *h, seed);
-            pf += buchen(bf, p, fFuchs ? fuchs : henne);
-            ph += buchen(bh, p, fFuchs ? henne : fuchs);
-            const double hp = hennenPunkte(p.ausgang);
-            ++nachSeite[hp == 1 ? 0 : hp == 0 ? 1 : 2];
-        }
-        bf.paarpunkte.push_back(pf / 2);
-        bh.paarpunkte.push_back(ph / 2);
-        fortschritt.melde(s, o.paare,
-                          "F " + std::to_string(bf.siege) + "  H " + std::to_string(bh.siege) + "  Remis " +
-                              std::to_string(bf.remisGesamt()),
-                          std::chrono::steady_clock::now() - start);
-    }
+    if (const int signal = paareSpielen(o, abbruch, st, fortschritt)) return signal;
     fortschritt.beenden();
-    char kopf[160];
-    std::snprintf(kopf, sizeof kopf, "%-7s %6s %12s %6s %6s %6s %6s %7s %6s %10s %10s %9s %6s", "Spieler",
-                  "Siege", "Niederlagen", "Remis", "Grenze", "LFuchs", "KZug", "Punkte", "±95 %", "Median ms",
-                  "Max ms", "Züge", "Über");
-    aus << kopf << '\n';
-    zeile(aus, "F", bf, o.f.bedenkzeit);
-    zeile(aus, "H", bh, o.h.bedenkzeit);
-    aus << "\nRemis: an der Zugbegrenzung (Grenze), letzter Fuchs ausgeschlossen (LFuchs), die Füchse ohne "
-           "Zug (KZug).\nÜber: Züge mehr als "
-        << kUeberzugProzent - 100
-        << " % über der Bedenkzeit.\nPunkte: Sieg 1, Remis 0,5, je Startwert gemittelt; 95 %-Intervall über "
-           "die Startwerte.\n"
-        << "Nach Seiten: die Hennen gewinnen " << nachSeite[0] << ", die Füchse " << nachSeite[1]
-        << ", Remis " << nachSeite[2] << std::endl;
+    ergebnisZeigen(o, st, aus);
     return 0;
 }
 
