@@ -148,12 +148,6 @@ void ergebnisZeigen(const DuellOptionen& o, const Stand& st, std::ostream& aus) 
 
 } // namespace
 
-std::string tafelnText(const Endspieltafeln& t) {
-    auto ja = [](const auto& tafel) { return tafel ? std::string("ja") : std::string("nein"); };
-    return "Endspieltafeln dieses Meisters: mit Strafregel " + ja(t.mitStrafregel) + ", ohne " +
-           ja(t.ohneStrafregel);
-}
-
 int duell(const DuellOptionen& o, const Abbruch& abbruch, std::ostream& aus, std::ostream& fehler,
           std::size_t spalten) {
     aus << "Meister gegen Meister: Startwerte " << o.ab << ".." << o.ab + o.paare - 1

@@ -18,6 +18,12 @@ extern char** environ;
 
 namespace fuh {
 
+std::string tafelnText(const Endspieltafeln& t) {
+    auto ja = [](const auto& tafel) { return tafel ? std::string("ja") : std::string("nein"); };
+    return "Endspieltafeln dieses Meisters: mit Strafregel " + ja(t.mitStrafregel) + ", ohne " +
+           ja(t.ohneStrafregel);
+}
+
 Zugwahl MeisterQuelle::waehle(const Brettfeld& Feld, int16_t seite, const Partie& partie) {
     if (!meister_) neuePartie(1);
     // The computer plays both sides, so the penalty rule holds.

@@ -29,9 +29,6 @@ struct DuellOptionen {
     Endspieltafeln tafeln; // for this build's Meister
 };
 
-// Which endgame tables this build's Meister has, as a line of the match's header.
-std::string tafelnText(const Endspieltafeln& t);
-
 // Plays the match and prints one result line per player. Returns a signal that stopped it, or 0; throws
 // Gegnerfehler when a player fails or moves against the rules.
 int duell(const DuellOptionen& o, const Abbruch& abbruch, std::ostream& aus, std::ostream& fehler,

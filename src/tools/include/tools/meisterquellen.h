@@ -33,6 +33,9 @@ class MeisterQuelle : public Zugquelle {
     std::unique_ptr<Meister> meister_;
 };
 
+// Which endgame tables this build's Meister has, as a line of the match's header.
+std::string tafelnText(const Endspieltafeln& t);
+
 // A failure of the other program: it could not be started, ended, or answered out of protocol.
 struct Gegnerfehler {
     std::string was;
