@@ -3,7 +3,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 // Benchmarks of whole games, of a computer hen move and of filing a game, with empty and full learned-move
-// files, on the same core as the game. The ratios between the rows are what matters.
+// files, on the same core as the game, and of the Meister's search. The ratios between the rows are what
+// matters.
 #include <benchmark/benchmark.h>
 #include <unistd.h>
 
@@ -15,6 +16,7 @@
 #include "board/regeln.h"
 #include "game/spiel.h"
 #include "memory/lerndatei.h"
+#include "player/meister.h"
 #include "spieldaten/statistikdatei.h"
 #include "tools/protokoll_ansicht.h"
 #include "tools/selbstspiel_lauf.h"
@@ -155,6 +157,44 @@ void BM_Hennenzug(benchmark::State& state) {
     }
 }
 BENCHMARK(BM_Hennenzug)->Args({1, 0})->Args({3, 0})->Args({3, 32767})->Unit(benchmark::kMicrosecond);
+
+// The position after the Meister has played `plies` half-moves against itself from the start, each
+// searched to a small budget of positions, so that it is the same on every machine.
+fuh::Brettfeld meisterStellung(int plies) {
+    fuh::Stellung s;
+    s.grundstellung();
+    fuh::Brettfeld feld = s.Feld;
+    fuh::Meister m(1);
+    m.grenzen(2000, 0);
+    for (int ply = 0; ply < plies; ++ply) {
+        const int16_t seite = ply % 2 == 0 ? fuh::henne : fuh::fuchs;
+        for (const fuh::Teilzug& z : m.berechne({feld, seite, ply, false})) {
+            feld[z.nachX][z.nachY] = feld[z.vonX][z.vonY];
+            feld[z.vonX][z.vonY] = fuh::leer;
+            if (z.sprung()) feld[(z.vonX + z.nachX) / 2][(z.vonY + z.nachY) / 2] = fuh::leer;
+        }
+    }
+    return feld;
+}
+
+// Args: half-moves played before (an even number: the hens move) and the budget of positions. One search
+// per iteration; the rate of positions is the figure to compare.
+void BM_Meister(benchmark::State& state) {
+    const int plies = static_cast<int>(state.range(0));
+    const fuh::Brettfeld feld = meisterStellung(plies);
+    uint64_t knoten = 0;
+    for (auto _ : state) {
+        state.PauseTiming(); // a fresh table of positions, as a new game has
+        fuh::Meister m(1);
+        m.grenzen(static_cast<uint64_t>(state.range(1)), 0);
+        state.ResumeTiming();
+        benchmark::DoNotOptimize(m.berechne({feld, fuh::henne, plies, false}));
+        knoten += m.bericht().knoten;
+    }
+    state.counters["Stellungen/s"] =
+        benchmark::Counter(static_cast<double>(knoten), benchmark::Counter::kIsRate);
+}
+BENCHMARK(BM_Meister)->Args({0, 200000})->Args({40, 200000})->Unit(benchmark::kMillisecond);
 
 } // namespace
 
