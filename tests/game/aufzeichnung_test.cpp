@@ -9,6 +9,7 @@
 
 #include "game/nachspielen.h"
 #include "game/notation.h"
+#include "game/partiedatei.h"
 #include "mensch.h"
 #include "test_ansicht.h"
 
@@ -32,14 +33,20 @@ struct Gespielt {
     Gespielt(const TempOrdner& o, uint32_t seed) : zufall(seed), spiel(ansicht, zufall, o.pfad()) {}
 };
 
-// Random people against the computer (or each other) until the end, or until `zuege` actions.
+// Random people against the computer (or each other) until the end, or until `zuege` actions. Every
+// state on the way, a chain of jumps held open too, is one a saved game may hold.
 void spielen(Spiel& spiel, Zufall& mensch, int zuege) {
     spiel.neuesSpiel();
     for (int i = 0; i < zuege && !spiel.endeGefunden(); ++i) {
-        if (spiel.computerZieht()) continue;
-        const auto liste = moeglicheAktionen(spiel);
-        if (liste.empty()) break;
-        ausfuehren(spiel, liste[static_cast<std::size_t>(mensch.ziehe(static_cast<int>(liste.size())) - 1)]);
+        if (!spiel.computerZieht()) {
+            const auto liste = moeglicheAktionen(spiel);
+            if (liste.empty()) break;
+            ausfuehren(spiel,
+                       liste[static_cast<std::size_t>(mensch.ziehe(static_cast<int>(liste.size())) - 1)]);
+        }
+        if (spiel.laeuft()) {
+            ASSERT_TRUE(partieDekodieren(partieKodieren(spiel.sicherung()))) << i;
+        }
     }
 }
 
