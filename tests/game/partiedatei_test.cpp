@@ -48,27 +48,14 @@ TEST_F(PartieTest, GespeichertUndGelesenIstEsDasselbeSpiel) {
     EXPECT_TRUE(weiter.zuruecknehmenMoeglich());
 }
 
-// Window A is open without a game, window B saves its game and goes, then A goes.
-TEST_F(PartieTest, EinLeeresFensterLoeschtNichtDasSpielEinesAnderen) {
-    const Sicherung s = mitten();
-    Partieablage a(zustand());
-    EXPECT_FALSE(a.holen(keine).sicherung);
-    {
-        Partieablage b(zustand());
-        EXPECT_FALSE(b.holen(keine).sicherung);
-        ASSERT_TRUE(b.sichern(s));
-    }
-    const auto gespeichert = lies(zustand() / "partie");
-    EXPECT_TRUE(a.verwerfen()); // A quits without a running game
-    EXPECT_EQ(lies(zustand() / "partie"), gespeichert);
-    EXPECT_FALSE(a.haelt());
-}
-
-// Two windows with running games: the second to quit keeps both.
-TEST_F(PartieTest, ZweiLaufendeSpieleBleibenBeide) {
+// Window C is open without a game, A and B with running games. The second of A and B to quit keeps
+// both games, and C quitting after them removes neither.
+TEST_F(PartieTest, LaufendeSpieleBleibenAlle) {
     const Sicherung erste = mitten(3);
     const Sicherung zweite = mitten(5);
     ASSERT_FALSE(erste == zweite);
+    Partieablage leer(zustand());
+    EXPECT_FALSE(leer.holen(keine).sicherung);
     {
         Partieablage a(zustand());
         Partieablage b(zustand());
@@ -77,6 +64,8 @@ TEST_F(PartieTest, ZweiLaufendeSpieleBleibenBeide) {
         ASSERT_TRUE(a.sichern(erste)); // saving again replaces A's own file only
         EXPECT_TRUE(b.haelt());
     }
+    EXPECT_TRUE(leer.verwerfen());
+    EXPECT_FALSE(leer.haelt());
     std::vector<std::string> namen;
     for (const auto& e : fs::directory_iterator(zustand()))
         namen.push_back(e.path().filename().string());
