@@ -13,15 +13,6 @@ namespace {
 
 using test::leeresKreuz;
 
-TEST(Regeln, KorrektPrueftVektorGitterUndDiagonalen) {
-    EXPECT_FALSE(korrekt(3, 3, 0, 0));
-    EXPECT_FALSE(korrekt(6, 3, 1, 0));
-    EXPECT_FALSE(korrekt(3, 4, 1, -1));
-    EXPECT_TRUE(korrekt(2, 2, 2, 2));
-    EXPECT_TRUE(korrekt(0, 2, 0, -1)); // the cross is not tested here
-    EXPECT_FALSE(korrekt(0, 0, -1, 0));
-}
-
 // Hens never move down and only along drawn lines; foxes step or jump straight; an open jump sequence
 // allows only further jumps of the same fox.
 TEST(Regeln, ZuegeAnDenKanten) {
@@ -58,6 +49,8 @@ Brettfeld leer7() {
     return test::leeresKreuz().Feld;
 }
 
+// A jump's value with its follow-up jumps; diagonals only from squares with x + y even; no landing on an
+// occupied square or off the cross.
 TEST(Sprung, WertMitFolgespruengen) {
     Brettfeld f = leer7();
     f[3][2] = fuchs;
@@ -71,10 +64,8 @@ TEST(Sprung, WertMitFolgespruengen) {
     EXPECT_EQ(is2sprung(3, 2, 0, 1, f), 5);
     f[1][4] = henne; // a blocked follow-up counts nothing
     EXPECT_EQ(issprung(3, 2, 0, 1, f), 9);
-}
 
-TEST(Sprung, DiagonaleNurVonGeradenFeldern) {
-    Brettfeld f = leer7();
+    f = leer7();
     f[3][2] = fuchs;
     f[4][3] = henne;
     EXPECT_FALSE(isjump(f, 3, 2));
@@ -82,12 +73,10 @@ TEST(Sprung, DiagonaleNurVonGeradenFeldern) {
     f[2][2] = fuchs;
     f[3][3] = henne;
     EXPECT_TRUE(isjump(f, 2, 2));
-    f[4][4] = henne; // landing occupied
+    f[4][4] = henne;
     EXPECT_FALSE(isjump(f, 2, 2));
-}
 
-TEST(Sprung, LandungAusserhalbDesKreuzesZaehltNicht) {
-    Brettfeld f = leer7();
+    f = leer7();
     f[2][1] = fuchs;
     f[1][1] = 0;
     f[2][0] = henne;
