@@ -54,37 +54,6 @@ TEST(Einstellungsdatei, SchreibenErsetztNurDieErstenAchtBytes) {
     EXPECT_EQ(t.lies("QZ.INI"), (B{2, 0, 1, 0, 0, 0, 0, 0}));
 }
 
-// A file of a terabyte (sparse, so it costs no disk) is neither read nor copied whole: the game reads and
-// updates its own first bytes in place, and what follows them stays.
-TEST(Datendateien, UebergrosseDateienWerdenNurAmAnfangGelesenUndGeschrieben) {
-    TempOrdner t;
-    constexpr std::uintmax_t kRiesig = std::uintmax_t{1} << 40;
-    for (const char* name : {"QZ.INI", "QZ.sta", "QZH.sco"}) {
-        t.schreibe(name, {1, 0, 2, 0, 1, 0, 0, 0, 5, 0});
-        std::filesystem::resize_file(t / name, kRiesig);
-        std::fstream(t / name, std::ios::binary | std::ios::in | std::ios::out).seekp(1000).put('X');
-    }
-    Einstellungen e;
-    einstellungenLesen(t.pfad(), e);
-    EXPECT_EQ(werte(e), std::make_tuple(1, 2, 1, 0));
-    ASSERT_TRUE(einstellungenSchreiben(t.pfad(), Einstellungen{2, 0, 0, 1}));
-    ASSERT_TRUE(spielGestartet(t.pfad()));
-    EXPECT_EQ(statistikLesen(t.pfad()).gestartet(), 1);
-    Bestenliste liste(Seite::Hennen);
-    liste.laden(t.pfad());
-    EXPECT_EQ(liste.eintraege()[0].score, 5);
-    ASSERT_TRUE(liste.speichern(t.pfad()));
-    for (const char* name : {"QZ.INI", "QZ.sta", "QZH.sco"}) {
-        EXPECT_EQ(std::filesystem::file_size(t / name), kRiesig) << name;
-        std::ifstream ein(t / name, std::ios::binary);
-        EXPECT_EQ(ein.seekg(1000).get(), 'X') << name;
-    }
-    einstellungenLesen(t.pfad(), e);
-    EXPECT_EQ(werte(e), std::make_tuple(2, 0, 0, 1));
-}
-
-using test::TempOrdner;
-using B = std::vector<uint8_t>;
 using Zaehler = std::array<int16_t, 17>;
 const auto bytes = test::zaehlerBytes;
 
