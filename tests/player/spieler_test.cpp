@@ -98,11 +98,13 @@ TEST_F(Strafregeltest, LetzterFuchsUndRueckkehr) {
     aufzeichnen(p, s.Feld, {3, 2, 2, 2});
     EXPECT_EQ(strafregel(s.Feld, p, 0).art, Strafe::Art::letzterFuchs);
 
-    // After a fox jump the parked fox returns to the first empty square of rows 2..6, column 0 first.
+    // After a fox jump the parked fox returns to the first empty square of rows 2..6, column 0 first:
+    // with (0, 2) taken, that is (0, 3), not (1, 2).
+    s.Feld[0][2] = henne;
     aufzeichnen(p, s.Feld, {2, 2, 4, 4});
     const Strafe zurueck = strafregel(s.Feld, p, 0);
     EXPECT_EQ(zurueck.art, Strafe::Art::einsetzen);
-    EXPECT_EQ(zurueck.zug, (Teilzug{0, 0, 0, 2}));
+    EXPECT_EQ(zurueck.zug, (Teilzug{0, 0, 0, 3}));
 }
 
 } // namespace
