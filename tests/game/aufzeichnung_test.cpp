@@ -11,6 +11,7 @@
 #include "game/notation.h"
 #include "game/partiedatei.h"
 #include "mensch.h"
+#include "spieldaten/statistikdatei.h"
 #include "test_ansicht.h"
 
 namespace fuh::test {
@@ -56,6 +57,18 @@ Spielstand ohneZufall(Spielstand z) {
     return z;
 }
 
+// Two people teach nothing and enter no list: only the statistics count their game (started, and
+// finished when it ended), and nobody scores.
+void zweiSpielerOhneSpuren(Gespielt& g, const TempOrdner& ordner) {
+    EXPECT_EQ(ordner.namen(), std::vector<std::string>{"QZ.sta"});
+    Statistik erwartet;
+    erwartet.zaehler[Zaehlerstelle::gestartet] = 1;
+    erwartet.zaehler[Zaehlerstelle::beendet] = g.spiel.endeGefunden() ? 1 : 0;
+    EXPECT_EQ(statistikLesen(ordner.pfad()).zaehler, erwartet.zaehler);
+    EXPECT_TRUE(g.ansicht.fenster.empty());
+    EXPECT_EQ(g.ansicht.panels[3], "Punkte: ");
+}
+
 // Games of every setting go through the file and back: the same text, the same state, and the same
 // moves, messages and high-score lists shown. The runs reach chains, parkings, returns and every end.
 TEST(Aufzeichnung, JedesSpielGehtDurchDieDateiUndZurueck) {
@@ -71,6 +84,7 @@ TEST(Aufzeichnung, JedesSpielGehtDurchDieDateiUndZurueck) {
                 original.spiel.spielerFestlegen(zwei);
                 Zufall mensch(seed * 31);
                 spielen(original.spiel, mensch, seed % 4 == 0 ? 9 + static_cast<int>(seed) : 400);
+                if (PC == 3) zweiSpielerOhneSpuren(original, ordner);
 
                 const std::string text = aufzeichnungText(aufzeichnen(original.spiel, "2026-11-26", seed));
                 const Gelesen g = aufzeichnungLesen(text);

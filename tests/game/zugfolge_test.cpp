@@ -3,11 +3,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 // Whose turn it is: a person moves only on that side's turn, a change of players during a game takes
-// over at once, and two people alternate at one board.
-#include "mensch.h"
+// over at once, and two people alternate at one board (their whole games are played where games are
+// recorded).
 #include "spiel_fixture.h"
-#include "spieldaten/statistikdatei.h"
-#include "spieldaten/statustexte.h"
 
 namespace fuh::test {
 namespace {
@@ -79,42 +77,6 @@ TEST_F(SpielTest, WechselZuZweiSpielernUebergibtDenZug) {
     EXPECT_EQ(spiel.amZug(), Seite::Hennen);
     EXPECT_EQ(spiel.stellung().Feld[2][3], henne);
     EXPECT_EQ(spiel.stellung().Feld[3][3], leer);
-}
-
-// Two random people play whole games: the sides alternate, chains of jumps end with the right button,
-// and the files get only what fits a game of two people.
-TEST(ZweiSpieler, GanzePartienOhneLernenUndBestenliste) {
-    TempOrdner ordner;
-    TestAnsicht ansicht;
-    Zufall zufall(5), mensch(55);
-    Spiel spiel(ansicht, zufall, ordner.pfad());
-    spiel.einstellungenFestlegen({0, 2, 1, 0}); // learning mode is set, but two people teach nothing
-    Spielerwahl zwei;
-    zwei.zweiSpieler = true;
-    spiel.spielerFestlegen(zwei);
-    int beendet = 0, ketten = 0;
-    for (int partie = 0; partie < 4; ++partie) {
-        spiel.neuesSpiel();
-        Seite seite = spiel.amZug();
-        while (!spiel.endeGefunden()) {
-            ASSERT_EQ(spiel.amZug(), seite);
-            ASSERT_FALSE(spiel.computerZieht());
-            const auto zug = menschZieht(spiel, mensch);
-            if (zug.empty()) break;
-            ketten += zug.size() >= 2;
-            seite = gegner(seite);
-        }
-        beendet += spiel.endeGefunden();
-    }
-    ASSERT_GT(beendet, 0);
-    EXPECT_GT(ketten, 0);
-    EXPECT_TRUE(ansicht.fenster.empty()); // no high-score list
-    EXPECT_FALSE(ordner.gibt("QZ3.DAT"));
-    Statistik erwartet; // started and finished, nothing else
-    erwartet.zaehler[Zaehlerstelle::gestartet] = 4;
-    erwartet.zaehler[Zaehlerstelle::beendet] = static_cast<int16_t>(beendet);
-    EXPECT_EQ(statistikLesen(ordner.pfad()).zaehler, erwartet.zaehler);
-    EXPECT_EQ(ansicht.panels[3], "Punkte: "); // nobody scores
 }
 
 } // namespace
