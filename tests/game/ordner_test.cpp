@@ -33,6 +33,25 @@ std::map<std::string, std::pair<std::vector<unsigned char>, int64_t>> stand(cons
     return m;
 }
 
+// Opening `weg` is refused for `grund`: no game is offered, saved or removed there, no folder is made
+// below it, and nothing in `hinter` changes.
+void nichtsBeruehrt(const fs::path& weg, datei::Ordnergrund grund, const fs::path& hinter,
+                    const Sicherung& andere) {
+    const auto vorher = stand(hinter);
+    std::vector<std::string> keine;
+    Partieablage p(weg);
+    const auto a = p.holen(keine);
+    EXPECT_FALSE(a.sicherung);
+    EXPECT_EQ(a.beschaedigt, 0);
+    EXPECT_FALSE(p.sichern(andere));
+    EXPECT_EQ(p.ordnerZustand().grund, grund);
+    EXPECT_TRUE(p.verwerfen());
+    const datei::Ordner o = datei::ordnerOeffnen(weg / "neu", true);
+    EXPECT_FALSE(o);
+    EXPECT_EQ(o.grund, grund);
+    EXPECT_EQ(stand(hinter), vorher);
+}
+
 // The program's folder in a folder everyone can write (1777): a link there planted by another user to the
 // victim's files, a folder there of another user (also further down, and reached through a link higher
 // up), or anything there once the sticky bit is gone, is refused: nothing behind it is read, removed or
@@ -67,19 +86,7 @@ TEST_F(PartieTest, FremdeUndOffeneOrdnerWerdenAbgelehnt) {
             ASSERT_TRUE(Partieablage(eigen).sichern(mitten()));
             ASSERT_EQ(::chown(eigen.c_str(), 4242, 4242), 0);
         }
-        const fs::path hinter = art == fremderOrdner ? eigen : opfer;
-        const auto vorher = stand(hinter);
-        Partieablage p(weg);
-        const auto a = p.holen(keine);
-        EXPECT_FALSE(a.sicherung);
-        EXPECT_EQ(a.beschaedigt, 0);
-        EXPECT_FALSE(p.sichern(andere));
-        EXPECT_EQ(p.ordnerZustand().grund, grund);
-        EXPECT_TRUE(p.verwerfen());
-        const datei::Ordner o = datei::ordnerOeffnen(weg / "neu", true);
-        EXPECT_FALSE(o);
-        EXPECT_EQ(o.grund, grund);
-        EXPECT_EQ(stand(hinter), vorher);
+        nichtsBeruehrt(weg, grund, art == fremderOrdner ? eigen : opfer, andere);
         EXPECT_EQ(fs::exists(eigen), art != offen);
     }
     fs::remove_all(eigen);

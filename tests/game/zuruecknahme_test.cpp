@@ -87,8 +87,7 @@ void partieMitZuruecknahmen(int16_t PC, int16_t Staerke, uint32_t seed, Erreicht
         const Spielstand vorher = spiel.zustand();
         const std::vector<Aktion> zug = menschZieht(spiel, mensch);
         if (zug.empty() || spiel.endeGefunden()) break;
-        ASSERT_TRUE(ansicht.wieDasSpiel()) << "seed " << seed << ", move " << spiel.spielzug();
-        spiel.computerZieht();
+        spiel.computerZieht(); // a wrong report of either move stays on the view's board
         ASSERT_TRUE(ansicht.wieDasSpiel()) << "seed " << seed << ", move " << spiel.spielzug();
         if (spiel.endeGefunden()) break;
         const Spielstand nachher = spiel.zustand();
@@ -108,8 +107,7 @@ void partieMitZuruecknahmen(int16_t PC, int16_t Staerke, uint32_t seed, Erreicht
         erwartet.zurueckgenommen = true;
         ASSERT_TRUE(spiel.wiederholenMoeglich());
         spiel.wiederholen();
-        ASSERT_TRUE(spiel.zustand() == erwartet);
-        ASSERT_TRUE(ansicht.wieDasSpiel()) << "after a redo, seed " << seed;
+        ASSERT_TRUE(spiel.zustand() == erwartet && ansicht.wieDasSpiel()) << "after a redo, seed " << seed;
         ASSERT_FALSE(spiel.wiederholenMoeglich());
         spiel.zuruecknehmen();
 
