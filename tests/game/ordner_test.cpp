@@ -139,18 +139,8 @@ class Umgebung {
     std::optional<std::string> alt_;
 };
 
-TEST(Partiedatei, LiegtImZustandsordner) {
-    Umgebung heim("HOME", "/heim");
-    {
-        Umgebung zustand("XDG_STATE_HOME", "/zustand");
-        EXPECT_EQ(partieOrdnerStandard(), fs::path("/zustand/fuchs-und-hennen"));
-    }
-    Umgebung relativ("XDG_STATE_HOME", "relativ");
-    EXPECT_EQ(partieOrdnerStandard(), fs::path("/heim/.local/state/fuchs-und-hennen"));
-}
-
 // The fixed rule for unusual environments: relative or empty values count as unset; without HOME the
-// user database names the home folder.
+// user database names the home folder. The saved game lies in the state folder.
 TEST(Benutzerordner, RelativeUndLeereWerteZaehlenNicht) {
     Umgebung xdg("XDG_CONFIG_HOME", "");
     Umgebung heim("HOME", "/heim");
@@ -159,6 +149,12 @@ TEST(Benutzerordner, RelativeUndLeereWerteZaehlenNicht) {
     EXPECT_EQ(xdgOrdner("XDG_CONFIG_HOME", ".config"), fs::path("/heim/.config"));
     Umgebung absolut("XDG_CONFIG_HOME", "/konfig");
     EXPECT_EQ(xdgOrdner("XDG_CONFIG_HOME", ".config"), fs::path("/konfig"));
+    {
+        Umgebung zustand("XDG_STATE_HOME", "/zustand");
+        EXPECT_EQ(partieOrdnerStandard(), fs::path("/zustand/fuchs-und-hennen"));
+    }
+    Umgebung zustand("XDG_STATE_HOME", "relativ");
+    EXPECT_EQ(partieOrdnerStandard(), fs::path("/heim/.local/state/fuchs-und-hennen"));
     const passwd* pw = ::getpwuid(::geteuid());
     ASSERT_NE(pw, nullptr);
     for (const char* wert : {static_cast<const char*>(nullptr), "", "heim", "./heim"}) {
