@@ -8,6 +8,7 @@
 #include <sys/file.h>
 #include <sys/stat.h>
 
+#include <fstream>
 #include <functional>
 #include <random>
 
@@ -88,42 +89,36 @@ std::vector<Art> arten() {
     };
 }
 
-TEST(Datendateien, FifoOderOrdnerStattDateiHaengtNichtUndBleibt) {
+// A FIFO, a folder or an unreadable file (the child runs as nobody) in a data file's place.
+TEST(Datendateien, FifoOrdnerOderUnlesbareDateiHaengtNichtUndBleibt) {
     for (const Art& art : arten()) {
-        for (const bool fifo : {true, false}) {
-            SCOPED_TRACE(std::string(art.name) + (fifo ? " FIFO" : " Ordner"));
+        for (const std::string fall : {"FIFO", "Ordner", "unlesbar"}) {
+            SCOPED_TRACE(std::string(art.name) + " " + fall);
             TempOrdner t;
             const fs::path p = t / art.name;
-            ASSERT_EQ(fifo ? ::mkfifo(p.c_str(), 0644) : ::mkdir(p.c_str(), 0755), 0);
-            EXPECT_TRUE(test::imKind([&] {
-                EXPECT_TRUE(art.liestDefault(t.pfad()));
-                EXPECT_FALSE(art.schreiben(t.pfad()));
-            }));
-            EXPECT_TRUE(fifo ? fs::is_fifo(p) : fs::is_directory(p));
+            if (fall == "FIFO") {
+                ASSERT_EQ(::mkfifo(p.c_str(), 0644), 0);
+            } else if (fall == "Ordner") {
+                ASSERT_EQ(::mkdir(p.c_str(), 0755), 0);
+            } else {
+                t.schreibe(art.name, art.inhalt);
+                ASSERT_TRUE(::geteuid() != 0 || ::chown(p.c_str(), 65534, 65534) == 0);
+                ::chmod(p.c_str(), 0200);
+            }
+            EXPECT_TRUE(test::imKind(
+                [&] {
+                    EXPECT_TRUE(art.liestDefault(t.pfad()));
+                    EXPECT_FALSE(art.schreiben(t.pfad()));
+                },
+                fall == "unlesbar" ? t.pfad() : fs::path{}));
             EXPECT_EQ(t.namen(), std::vector<std::string>{art.name});
+            if (fall == "unlesbar") {
+                EXPECT_EQ(t.lies(art.name), art.inhalt);
+                EXPECT_EQ(fs::status(p).permissions(), fs::perms::owner_write);
+            } else {
+                EXPECT_TRUE(fall == "FIFO" ? fs::is_fifo(p) : fs::is_directory(p));
+            }
         }
-    }
-}
-
-TEST(Datendateien, UnlesbareDateiBleibtByteFuerByte) {
-    for (const Art& art : arten()) {
-        SCOPED_TRACE(art.name);
-        TempOrdner t;
-        t.schreibe(art.name, art.inhalt);
-        const fs::path p = t / art.name;
-        if (::geteuid() == 0) { // the child runs as nobody
-            ASSERT_EQ(::chown(p.c_str(), 65534, 65534), 0);
-        }
-        ::chmod(p.c_str(), 0200);
-        EXPECT_TRUE(test::imKind(
-            [&] {
-                EXPECT_TRUE(art.liestDefault(t.pfad()));
-                EXPECT_FALSE(art.schreiben(t.pfad()));
-            },
-            t.pfad()));
-        EXPECT_EQ(t.lies(art.name), art.inhalt);
-        EXPECT_EQ(fs::status(p).permissions(), fs::perms::owner_write);
-        EXPECT_EQ(t.namen(), std::vector<std::string>{art.name});
     }
 }
 
@@ -215,6 +210,24 @@ TEST(Datendateien, BelegteSperreGibtFehlerUndAendertNichts) {
     ::close(ordner);
     for (const Art& art : arten())
         EXPECT_TRUE(art.schreiben(t.pfad())) << art.name;
+}
+
+// A file of a terabyte (sparse, so it costs no disk) is neither read nor copied whole: its first bytes are
+// read and updated in place, and what follows them stays.
+TEST(Datendateien, UebergrosseDateienWerdenNurAmAnfangGelesenUndGeschrieben) {
+    constexpr std::uintmax_t kRiesig = std::uintmax_t{1} << 40;
+    for (const Art& art : arten()) {
+        SCOPED_TRACE(art.name);
+        TempOrdner t;
+        t.schreibe(art.name, art.inhalt);
+        fs::resize_file(t / art.name, kRiesig);
+        std::fstream(t / art.name, std::ios::binary | std::ios::in | std::ios::out).seekp(1000).put('X');
+        EXPECT_FALSE(art.liestDefault(t.pfad()));
+        EXPECT_TRUE(art.schreiben(t.pfad()));
+        EXPECT_EQ(fs::file_size(t / art.name), kRiesig);
+        std::ifstream ein(t / art.name, std::ios::binary);
+        EXPECT_EQ(ein.seekg(1000).get(), 'X');
+    }
 }
 
 // Random and cut files of every kind: reading and writing go on, and a file never gets shorter.

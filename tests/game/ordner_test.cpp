@@ -6,9 +6,8 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include <algorithm>
 #include <cstdlib>
-#include <functional>
+#include <fstream>
 #include <map>
 #include <optional>
 #include <string>
@@ -21,87 +20,83 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// A folder link planted by another user in a folder everyone can write (1777) leads
-// to the victim's files. It is refused: nothing there is read, removed or written.
-struct FremderOrdnerTest : PartieTest {
-    static constexpr uid_t kFremd = 4242;
-    fs::path geteilt() const { return ordner / "geteilt"; }
-    fs::path opfer() const { return ordner / "opfer"; }
-    void SetUp() override {
-        if (::geteuid() != 0) GTEST_SKIP() << "planting another user's link needs root";
-        fs::create_directories(geteilt());
-        ::chmod(geteilt().c_str(), 01777);
-        fs::create_directories(opfer());
-        ASSERT_TRUE(Partieablage(opfer()).sichern(mitten()));
-        ordner.schreibe("opfer/QZ.sta", std::vector<unsigned char>(34, 7));
+// Every entry of a folder with its bytes and modification time.
+std::map<std::string, std::pair<std::vector<unsigned char>, int64_t>> stand(const fs::path& ordner) {
+    std::map<std::string, std::pair<std::vector<unsigned char>, int64_t>> m;
+    for (const auto& e : fs::directory_iterator(ordner)) {
+        struct stat st {};
+        ::lstat(e.path().c_str(), &st);
+        std::ifstream ein(e.path(), std::ios::binary);
+        m[e.path().filename().string()] = {{std::istreambuf_iterator<char>(ein), {}},
+                                           st.st_mtim.tv_sec * 1000000000ll + st.st_mtim.tv_nsec};
     }
-    // Every entry of the victim's folder with its bytes and modification time.
-    std::map<std::string, std::pair<std::vector<unsigned char>, int64_t>> stand() const {
-        std::map<std::string, std::pair<std::vector<unsigned char>, int64_t>> m;
-        for (const auto& e : fs::directory_iterator(opfer())) {
-            struct stat st {};
-            ::lstat(e.path().c_str(), &st);
-            m[e.path().filename().string()] = {lies(e.path()),
-                                               st.st_mtim.tv_sec * 1000000000ll + st.st_mtim.tv_nsec};
+    return m;
+}
+
+// Opening `weg` is refused for `grund`: no game is offered, saved or removed there, no folder is made
+// below it, and nothing in `hinter` changes.
+void nichtsBeruehrt(const fs::path& weg, datei::Ordnergrund grund, const fs::path& hinter,
+                    const Sicherung& andere) {
+    const auto vorher = stand(hinter);
+    std::vector<std::string> keine;
+    Partieablage p(weg);
+    const auto a = p.holen(keine);
+    EXPECT_FALSE(a.sicherung);
+    EXPECT_EQ(a.beschaedigt, 0);
+    EXPECT_FALSE(p.sichern(andere));
+    EXPECT_EQ(p.ordnerZustand().grund, grund);
+    EXPECT_TRUE(p.verwerfen());
+    const datei::Ordner o = datei::ordnerOeffnen(weg / "neu", true);
+    EXPECT_FALSE(o);
+    EXPECT_EQ(o.grund, grund);
+    EXPECT_EQ(stand(hinter), vorher);
+}
+
+// The program's folder in a folder everyone can write (1777): a link there planted by another user to the
+// victim's files, a folder there of another user (also further down, and reached through a link higher
+// up), or anything there once the sticky bit is gone, is refused: nothing behind it is read, removed or
+// written. The user's own link there is followed, and the user's own folder made there is private.
+TEST_F(PartieTest, FremdeUndOffeneOrdnerWerdenAbgelehnt) {
+    if (::geteuid() != 0) GTEST_SKIP() << "planting another user's link needs root";
+    enum Art { fremderLink, fremderOrdner, offen };
+    const fs::path geteilt = ordner / "geteilt", opfer = ordner / "opfer", eigen = geteilt / kProgrammordner;
+    fs::create_directories(opfer);
+    ASSERT_TRUE(Partieablage(opfer).sichern(mitten()));
+    ordner.schreibe("opfer/QZ.sta", std::vector<unsigned char>(34, 7));
+    fs::create_directories(geteilt);
+    fs::create_directory_symlink(geteilt, ordner / "weg");
+    const Sicherung andere = mitten(5);
+    using G = datei::Ordnergrund;
+    const std::tuple<Art, fs::path, G> faelle[] = {
+        {fremderLink, eigen, G::fremderLink},
+        {fremderOrdner, eigen, G::fremderOrdner},
+        {fremderOrdner, eigen / "tief", G::fremderOrdner},
+        {fremderOrdner, ordner / "weg" / kProgrammordner, G::fremderOrdner},
+        {offen, eigen, G::offenerOrdner},
+    };
+    for (const auto& [art, weg, grund] : faelle) {
+        SCOPED_TRACE(weg);
+        fs::remove_all(eigen);
+        ::chmod(geteilt.c_str(), art == offen ? 0777 : 01777);
+        if (art == fremderLink) {
+            fs::create_directory_symlink(opfer, eigen);
+            ASSERT_EQ(::lchown(eigen.c_str(), 4242, 4242), 0);
+        } else if (art == fremderOrdner) {
+            fs::create_directory(eigen);
+            ASSERT_TRUE(Partieablage(eigen).sichern(mitten()));
+            ASSERT_EQ(::chown(eigen.c_str(), 4242, 4242), 0);
         }
-        return m;
+        nichtsBeruehrt(weg, grund, art == fremderOrdner ? eigen : opfer, andere);
+        EXPECT_EQ(fs::exists(eigen), art != offen);
     }
-    void nichtsBeruehrt(const fs::path& unterwegs, datei::Ordnergrund grund) {
-        const auto vorher = stand();
-        Partieablage p(unterwegs);
-        const auto a = p.holen(keine);
-        EXPECT_FALSE(a.sicherung);
-        EXPECT_EQ(a.beschaedigt, 0);
-        EXPECT_FALSE(p.sichern(mitten(5)));
-        EXPECT_EQ(p.ordnerZustand().grund, grund);
-        EXPECT_TRUE(p.verwerfen());
-        const datei::Ordner o = datei::ordnerOeffnen(unterwegs / "neu", true);
-        EXPECT_FALSE(o);
-        EXPECT_EQ(o.grund, grund);
-        EXPECT_EQ(stand(), vorher);
-    }
-};
-
-TEST_F(FremderOrdnerTest, EinFremderLinkWirdAbgelehnt) {
-    const fs::path link = geteilt() / kProgrammordner;
-    fs::create_directory_symlink(opfer(), link);
-    ASSERT_EQ(::lchown(link.c_str(), kFremd, kFremd), 0);
-    nichtsBeruehrt(link, datei::Ordnergrund::fremderLink);
-    EXPECT_EQ(datei::ordnerOeffnen(link, false).stelle, link);
-    // The same link of the user's own in that folder is followed.
-    ASSERT_EQ(::lchown(link.c_str(), 0, 0), 0);
-    EXPECT_TRUE(Partieablage(link).holen(keine).sicherung);
-}
-
-TEST_F(FremderOrdnerTest, EinFremderOrdnerWirdAbgelehnt) {
-    const fs::path fremd = geteilt() / kProgrammordner;
-    fs::create_directory(fremd);
-    ASSERT_TRUE(Partieablage(fremd).sichern(mitten()));
-    ASSERT_EQ(::chown(fremd.c_str(), kFremd, kFremd), 0);
-    const auto vorher = lies(fremd / "partie");
-    Partieablage p(fremd);
-    EXPECT_FALSE(p.holen(keine).sicherung);
-    EXPECT_EQ(p.ordnerZustand().grund, datei::Ordnergrund::fremderOrdner);
-    EXPECT_FALSE(p.sichern(mitten(5)));
-    EXPECT_EQ(lies(fremd / "partie"), vorher);
-    // Further down, and through a link higher up: refused just the same.
-    EXPECT_EQ(datei::ordnerOeffnen(fremd / "tief", true).grund, datei::Ordnergrund::fremderOrdner);
-    EXPECT_FALSE(fs::exists(fremd / "tief"));
-    fs::create_directory_symlink(geteilt(), ordner / "weg");
-    EXPECT_EQ(datei::ordnerOeffnen(ordner / "weg" / kProgrammordner, false).grund,
-              datei::Ordnergrund::fremderOrdner);
-}
-
-TEST_F(FremderOrdnerTest, EinOffenerOrdnerOhneStickyBitWirdAbgelehnt) {
-    ::chmod(geteilt().c_str(), 0777);
-    nichtsBeruehrt(geteilt() / kProgrammordner, datei::Ordnergrund::offenerOrdner);
-    EXPECT_FALSE(fs::exists(geteilt() / kProgrammordner));
-    // Sticky, the user's own folder there is fine.
-    ::chmod(geteilt().c_str(), 01777);
-    const datei::Ordner o = datei::ordnerOeffnen(geteilt() / kProgrammordner / "zustand", true);
-    EXPECT_TRUE(o);
-    EXPECT_TRUE(fs::is_directory(geteilt() / kProgrammordner / "zustand"));
-    EXPECT_EQ(fs::status(geteilt() / kProgrammordner).permissions() & fs::perms::all, fs::perms::owner_all);
+    fs::remove_all(eigen);
+    ::chmod(geteilt.c_str(), 01777);
+    fs::create_directory_symlink(opfer, eigen);
+    EXPECT_TRUE(Partieablage(eigen).holen(keine).sicherung);
+    fs::remove(eigen);
+    EXPECT_TRUE(datei::ordnerOeffnen(eigen / "zustand", true));
+    EXPECT_TRUE(fs::is_directory(eigen / "zustand"));
+    EXPECT_EQ(fs::status(eigen).permissions() & fs::perms::all, fs::perms::owner_all);
 }
 
 TEST(Ordneroeffnen, FolgtEigenenLinksUndMeldetDenRest) {
@@ -144,18 +139,8 @@ class Umgebung {
     std::optional<std::string> alt_;
 };
 
-TEST(Partiedatei, LiegtImZustandsordner) {
-    Umgebung heim("HOME", "/heim");
-    {
-        Umgebung zustand("XDG_STATE_HOME", "/zustand");
-        EXPECT_EQ(partieOrdnerStandard(), fs::path("/zustand/fuchs-und-hennen"));
-    }
-    Umgebung relativ("XDG_STATE_HOME", "relativ");
-    EXPECT_EQ(partieOrdnerStandard(), fs::path("/heim/.local/state/fuchs-und-hennen"));
-}
-
 // The fixed rule for unusual environments: relative or empty values count as unset; without HOME the
-// user database names the home folder.
+// user database names the home folder. The saved game lies in the state folder.
 TEST(Benutzerordner, RelativeUndLeereWerteZaehlenNicht) {
     Umgebung xdg("XDG_CONFIG_HOME", "");
     Umgebung heim("HOME", "/heim");
@@ -164,6 +149,12 @@ TEST(Benutzerordner, RelativeUndLeereWerteZaehlenNicht) {
     EXPECT_EQ(xdgOrdner("XDG_CONFIG_HOME", ".config"), fs::path("/heim/.config"));
     Umgebung absolut("XDG_CONFIG_HOME", "/konfig");
     EXPECT_EQ(xdgOrdner("XDG_CONFIG_HOME", ".config"), fs::path("/konfig"));
+    {
+        Umgebung zustand("XDG_STATE_HOME", "/zustand");
+        EXPECT_EQ(partieOrdnerStandard(), fs::path("/zustand/fuchs-und-hennen"));
+    }
+    Umgebung zustand("XDG_STATE_HOME", "relativ");
+    EXPECT_EQ(partieOrdnerStandard(), fs::path("/heim/.local/state/fuchs-und-hennen"));
     const passwd* pw = ::getpwuid(::geteuid());
     ASSERT_NE(pw, nullptr);
     for (const char* wert : {static_cast<const char*>(nullptr), "", "heim", "./heim"}) {

@@ -48,27 +48,14 @@ TEST_F(PartieTest, GespeichertUndGelesenIstEsDasselbeSpiel) {
     EXPECT_TRUE(weiter.zuruecknehmenMoeglich());
 }
 
-// Window A is open without a game, window B saves its game and goes, then A goes.
-TEST_F(PartieTest, EinLeeresFensterLoeschtNichtDasSpielEinesAnderen) {
-    const Sicherung s = mitten();
-    Partieablage a(zustand());
-    EXPECT_FALSE(a.holen(keine).sicherung);
-    {
-        Partieablage b(zustand());
-        EXPECT_FALSE(b.holen(keine).sicherung);
-        ASSERT_TRUE(b.sichern(s));
-    }
-    const auto gespeichert = lies(zustand() / "partie");
-    EXPECT_TRUE(a.verwerfen()); // A quits without a running game
-    EXPECT_EQ(lies(zustand() / "partie"), gespeichert);
-    EXPECT_FALSE(a.haelt());
-}
-
-// Two windows with running games: the second to quit keeps both.
-TEST_F(PartieTest, ZweiLaufendeSpieleBleibenBeide) {
+// Window C is open without a game, A and B with running games. The second of A and B to quit keeps
+// both games, and C quitting after them removes neither.
+TEST_F(PartieTest, LaufendeSpieleBleibenAlle) {
     const Sicherung erste = mitten(3);
     const Sicherung zweite = mitten(5);
     ASSERT_FALSE(erste == zweite);
+    Partieablage leer(zustand());
+    EXPECT_FALSE(leer.holen(keine).sicherung);
     {
         Partieablage a(zustand());
         Partieablage b(zustand());
@@ -77,6 +64,8 @@ TEST_F(PartieTest, ZweiLaufendeSpieleBleibenBeide) {
         ASSERT_TRUE(a.sichern(erste)); // saving again replaces A's own file only
         EXPECT_TRUE(b.haelt());
     }
+    EXPECT_TRUE(leer.verwerfen());
+    EXPECT_FALSE(leer.haelt());
     std::vector<std::string> namen;
     for (const auto& e : fs::directory_iterator(zustand()))
         namen.push_back(e.path().filename().string());
@@ -121,21 +110,9 @@ TEST_F(PartieTest, GetoetetWaehrendDerFrageBleibtDieDatei) {
     EXPECT_TRUE(*Partieablage(zustand()).holen(keine).sicherung == s);
 }
 
-// A folder where the saved game should be stays, unreported; the game goes to the next name.
-TEST_F(PartieTest, EinOrdnerAnSeinerStelleBleibtUnberuehrt) {
-    const Sicherung s = mitten();
-    fs::create_directories(zustand() / "partie");
-    Partieablage a(zustand());
-    const auto angebot = a.holen(keine);
-    EXPECT_FALSE(angebot.sicherung);
-    EXPECT_EQ(angebot.beschaedigt, 0);
-    ASSERT_TRUE(a.sichern(s));
-    EXPECT_TRUE(fs::is_directory(zustand() / "partie"));
-    EXPECT_TRUE(fs::is_regular_file(zustand() / "partie-2"));
-    a.freigeben();
-    EXPECT_TRUE(*Partieablage(zustand()).holen(keine).sicherung == s);
-}
-
+// Bad things in the saved game's place. A damaged, oversized or linked file is removed, never trusted; so is
+// a temporary file a writer killed while writing left. A folder there stays, unreported, and the game goes
+// to the next name.
 TEST_F(PartieTest, EineFremdeDateiWirdEntferntUndNieVertraut) {
     const Sicherung gut = mitten();
     const Bytes gutBytes = partieKodieren(gut);
@@ -146,10 +123,11 @@ TEST_F(PartieTest, EineFremdeDateiWirdEntferntUndNieVertraut) {
     };
 
     schreibe({'n', 'i', 'c', 'h', 't', 's'});
+    std::ofstream(zustand() / ".partie-99999-0.tmp") << "halb";
     Partieablage::Angebot a = Partieablage(zustand()).holen(keine);
     EXPECT_EQ(a.beschaedigt, 1);
     EXPECT_FALSE(a.sicherung.has_value());
-    EXPECT_FALSE(fs::exists(zustand() / "partie"));
+    EXPECT_TRUE(fs::is_empty(zustand()));
 
     // Oversized: a valid game followed by a megabyte is not read whole.
     std::vector<unsigned char> riesig(gutBytes.begin(), gutBytes.end());
@@ -170,14 +148,14 @@ TEST_F(PartieTest, EineFremdeDateiWirdEntferntUndNieVertraut) {
     EXPECT_FALSE(nirgends.sichern(gut));
     EXPECT_EQ(nirgends.fehler(), ENOTDIR);
     EXPECT_EQ(ordner.lies("brief"), std::vector<unsigned char>{'x'});
-}
 
-// A writer killed while writing leaves only a temporary file, which the next start removes.
-TEST_F(PartieTest, VerwaisteTemporaereDateienGehen) {
-    fs::create_directories(zustand());
-    std::ofstream(zustand() / ".partie-99999-0.tmp") << "halb";
-    EXPECT_FALSE(Partieablage(zustand()).holen(keine).sicherung);
-    EXPECT_TRUE(fs::is_empty(zustand()));
+    fs::create_directories(zustand() / "partie");
+    Partieablage neben(zustand());
+    EXPECT_EQ(neben.holen(keine).beschaedigt, 0);
+    ASSERT_TRUE(neben.sichern(gut));
+    EXPECT_TRUE(fs::is_directory(zustand() / "partie"));
+    neben.freigeben();
+    EXPECT_TRUE(*Partieablage(zustand()).holen(keine).sicherung == gut);
 }
 
 } // namespace

@@ -93,31 +93,6 @@ TEST_F(Endspieltafel3, EveryValueIsTheBestOfItsSuccessorsAndAWrongOneIsFound) {
     }
 }
 
-TEST_F(Endspieltafel3, AgreesWithAPlainSearchOnRandomPositions) {
-    std::mt19937_64 zufall(11);
-    constexpr int kTiefe = 5;
-    int entschieden = 0;
-    for (const bool strafregel : {true, false}) {
-        const Endspieltafel& t = *tafel(strafregel);
-        for (int n = 0; n < 300; ++n) {
-            std::uniform_int_distribution<uint64_t> stelle(0, t.werte().size() - 1);
-            uint64_t i = stelle(zufall);
-            // Every other position is one the search can decide.
-            while (n % 2 == 0 &&
-                   (t.werte()[i] == tafelwert::kRemis || tafelwert::plies(t.werte()[i]) > kTiefe))
-                i = stelle(zufall);
-            const uint8_t w = t.werte()[i];
-            const auto suche = entscheidungIn(t.index().stellung(i), strafregel, kTiefe);
-            entschieden += suche.has_value();
-            if (suche)
-                EXPECT_EQ(*suche, w) << i;
-            else
-                EXPECT_TRUE(w == tafelwert::kRemis || tafelwert::plies(w) > kTiefe) << i;
-        }
-    }
-    EXPECT_GT(entschieden, 300);
-}
-
 // Both sides play the table's moves: the game ends as the table said, after exactly its plies, and a
 // win the move limit cuts off is a draw.
 TEST_F(Endspieltafel3, TheMeisterPlaysTheTablesMovesToTheEnd) {
@@ -161,7 +136,10 @@ TEST_F(Endspieltafel3, TheMeisterPlaysTheTablesMovesToTheEnd) {
     }
 }
 
-TEST_F(Endspieltafel3, AFileThatIsDamagedCutOrForeignIsNotUsedAndAFailedWriteKeepsTheOld) {
+// A table file cut, lengthened or of another class is not used; a table written anew while one is in use
+// replaces the file, and the one in use keeps its values. (A flipped byte and a failed write are checked
+// on the table program.)
+TEST_F(Endspieltafel3, AFileCutLongOrForeignIsNotUsed) {
     const test::TempOrdner ordner;
     const Endspieltafel& t = *tafel(true);
     const auto pfad = tafelDatei(ordner.pfad() / "cache", true);
@@ -169,18 +147,12 @@ TEST_F(Endspieltafel3, AFileThatIsDamagedCutOrForeignIsNotUsedAndAFailedWriteKee
     const auto geladen = tafelLaden(pfad, true, kZeilen);
     ASSERT_TRUE(geladen);
     EXPECT_TRUE(std::ranges::equal(geladen->werte(), t.werte()));
-    // A table written anew while one is in use replaces the file, and the one in use keeps its values.
     ASSERT_TRUE(tafelSpeichern(pfad, Endspieltafel(true, std::vector<uint8_t>{}, kZeilen)));
     EXPECT_TRUE(std::ranges::equal(geladen->werte(), t.werte()));
     ASSERT_TRUE(tafelSpeichern(pfad, t));
     EXPECT_FALSE(tafelLaden(pfad, false, kZeilen)); // the other rules
     EXPECT_FALSE(tafelLaden(pfad, true));           // another class
-    EXPECT_FALSE(tafelLaden(ordner / "fehlt", true, kZeilen));
     const auto gut = ordner.lies("cache/endspiel-strafregel.tafel");
-    auto kaputt = gut;
-    kaputt[kaputt.size() / 2] ^= 1;
-    ordner.schreibe("cache/endspiel-strafregel.tafel", kaputt);
-    EXPECT_FALSE(tafelLaden(pfad, true, kZeilen));
     ordner.schreibe("cache/endspiel-strafregel.tafel", {gut.begin(), gut.end() - 1});
     EXPECT_FALSE(tafelLaden(pfad, true, kZeilen));
     auto lang = gut;
@@ -188,10 +160,6 @@ TEST_F(Endspieltafel3, AFileThatIsDamagedCutOrForeignIsNotUsedAndAFailedWriteKee
     ordner.schreibe("cache/endspiel-strafregel.tafel", lang);
     EXPECT_FALSE(tafelLaden(pfad, true, kZeilen));
     EXPECT_TRUE(tafelnLaden(ordner.pfad() / "cache").mitStrafregel == nullptr);
-    // A folder that cannot be made: nothing is written, and the file there stays as it was.
-    ordner.schreibe("datei", {1, 2, 3});
-    EXPECT_FALSE(tafelSpeichern(tafelDatei(ordner / "datei", true), t));
-    EXPECT_EQ(ordner.lies("datei"), (std::vector<unsigned char>{1, 2, 3}));
 }
 
 } // namespace
