@@ -34,6 +34,13 @@ void sprungVorbereiten(Aufbau& a) {
     QCoreApplication::processEvents(); // the window shows the position it was given
 }
 
+// As above, with the hen on c1 put aside: a chain of jumps over c4 may go on over c2.
+void ketteVorbereiten(Aufbau& a) {
+    sprungVorbereiten(a);
+    QVERIFY(test::versetzen(a.spiel(), feldNummer(2, 6), feldNummer(0, 2)));
+    QCoreApplication::processEvents();
+}
+
 // Drags of the hen on 24 that the board refuses: onto the fox, onto itself, between targets, outside,
 // with the right button.
 void abgelehnteZuege(Aufbau& a) {
@@ -125,10 +132,7 @@ class BrettFensterTest : public QObject {
         a.aktion("Neu"); // the computer's hens move first
         QCOMPARE(a.panel(3), QStringLiteral("Punkte: 403"));
 
-        sprungVorbereiten(a);
-        QVERIFY(
-            test::versetzen(a.spiel(), feldNummer(2, 6), feldNummer(0, 2))); // c1 free: the chain may go on
-        QCoreApplication::processEvents();
+        ketteVorbereiten(a);
         const int von = feldNummer(2, 2), nach = feldNummer(2, 4);
         const int fuchsK = *figur_index(a.spiel().stellung(), von);
         QSignalSpy gesagt(a.fenster->findChild<Ansage*>(), &Ansage::angesagt);
@@ -153,6 +157,24 @@ class BrettFensterTest : public QObject {
         a.fenster->zugTakt();
         QVERIFY(!(a.spiel().stellung() == vorher));
         QVERIFY(antworter.texte.empty());
+    }
+
+    // A chain with no further jump ends by itself: the hens answer without the right button, and the
+    // prompt to close the chain is not said.
+    void sprungketteEndetVonSelbst() {
+        Aufbau a({{1, 0, 0, 0}});
+        a.aktion("Neu");
+        ketteVorbereiten(a);
+        a.ziehe(feldNummer(2, 2), feldNummer(2, 4));
+        QVERIFY(a.spiel().sprungfolge().imSprung);
+        QSignalSpy gesagt(a.fenster->findChild<Ansage*>(), &Ansage::angesagt);
+        a.ziehe(feldNummer(2, 4), feldNummer(2, 6));
+        QTest::qWait(20); // what the jump brought is said
+        QVERIFY2(!ansagen(gesagt).contains(QStringLiteral("Umschalt+F10")), qPrintable(ansagen(gesagt)));
+        QVERIFY(!a.spiel().sprungfolge().imSprung && !a.hinweisSichtbar("spr_msg"));
+        const Stellung vorher = a.spiel().stellung();
+        a.fenster->zugTakt();
+        QVERIFY(!(a.spiel().stellung() == vorher));
     }
 
     void verpassterSprungWirdGemeldet() {
