@@ -155,9 +155,10 @@ class WiedergabeTest : public QObject {
         QVERIFY(std::filesystem::is_directory(a.pfad() / "QZ3.DAT"));
     }
 
-    // Watching the computer play itself, the penalty rule's word is a note: no box halts the game. A
-    // person's game gets the box. (Changing the players while watching is the game's test.)
-    void zuschauenMitNotiz() {
+    // Watching the computer play itself, the penalty rule's word is a note: no box halts the game. In the
+    // middle of a slide, some moves in, the player switches to the hens and presses "Neu": a fresh game,
+    // shown as the game holds it, and the watched one leaves no trace. A person's game gets the box.
+    void zuschauenUndMitNeuAbbrechen() {
         Aufbau a({{2, 0, 0, 0}}, Tempo::schnell);
         Antworter antworter;
         a.aktion("Neu");
@@ -165,12 +166,30 @@ class WiedergabeTest : public QObject {
         a.fenster->meldung(Vorlage::fuchsAusgeschlossen);
         const QLabel* ansage = a.fenster->findChild<Ansage*>();
         QTRY_VERIFY(ansage->text().contains(QString::fromUtf8(vorlage(Vorlage::fuchsAusgeschlossen))));
+
+        int letzteFigur = -1, schrittImGleiten = 0, schritte = 0;
+        bool neuGedrueckt = false;
+        QObject::connect(a.brett(), &BrettFlaeche::figurVersetzt, [&](int k, int, int) {
+            ++schritte;
+            schrittImGleiten = k == letzteFigur ? schrittImGleiten + 1 : 1;
+            letzteFigur = k;
+            if (neuGedrueckt || schrittImGleiten != 50 || a.spiel().spielzug() < 4) return;
+            neuGedrueckt = true;
+            einstellungenSchreiben(a.pfad(), {0, 0, 0, 0});
+            a.aktion("Neu");
+        });
+        QTRY_VERIFY_WITH_TIMEOUT(neuGedrueckt, 60000);
+        QTRY_VERIFY(!a.fenster->beschaeftigt());
+        Stellung anfang;
+        anfang.grundstellung();
+        QVERIFY(a.spiel().stellung() == anfang);
+        bilderPruefen(a);
+        QVERIFY(!a.brett()->markierung() && !a.hinweisSichtbar("f_zug"));
+        const int gezeigt = schritte;
+        QCoreApplication::processEvents();
+        QCOMPARE(schritte, gezeigt);
         QVERIFY(antworter.texte.empty());
 
-        // A person's game: the box.
-        einstellungenSchreiben(a.pfad(), {0, 0, 0, 0});
-        a.aktion("Neu");
-        QTRY_VERIFY(!a.fenster->beschaeftigt());
         a.fenster->meldung(Vorlage::fuchsAusgeschlossen);
         QTRY_COMPARE(antworter.texte.size(), size_t{1});
     }
