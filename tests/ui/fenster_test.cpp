@@ -2,29 +2,22 @@
 //
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// The windows driven like a user, on the offscreen platform.
+// The settings dialog driven like a user, on the offscreen platform: what it shows, writes and hands
+// back, and a settings file or high-score list that cannot be written.
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
-#include <QLabel>
 #include <QMessageBox>
 #include <QPointer>
 #include <QPushButton>
-#include <QSettings>
-#include <QTemporaryDir>
-#include <QTextBrowser>
 #include <QTimer>
 #include <QtTest>
 
 #include "game/spiel.h"
 #include "kinder.h"
 #include "testdateien.h"
-#include "ui/brett_fenster.h"
 #include "ui/einst_dialog.h"
 #include "ui/highscore_fenster.h"
-#include "ui/hilfe_fenster.h"
-#include "ui/info_win.h"
-#include "ui/meldung.h"
 
 using namespace fuh;
 
@@ -35,11 +28,6 @@ using test::kind;
 using test::klick;
 using test::spielende;
 using test::TempOrdner;
-
-// Deletes windows closed with WA_DeleteOnClose.
-void aufraeumen() {
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-}
 
 // Accepts the next message box as soon as it runs; returns where its title will be.
 std::shared_ptr<QString> meldungAnnehmen() {
@@ -178,28 +166,6 @@ class FensterTest : public QObject {
         QVERIFY(meldung->startsWith(QStringLiteral("Fuchs und Hennen|")));
         QVERIFY(w && w->isVisible());
         delete w;
-    }
-
-    void infoUndHilfeOeffnenUndSchliessen() {
-        QPointer<InfoWin> info = new InfoWin;
-        info->show();
-        // It looks like a link, but like every label of the box it ignores clicks.
-        auto* mail = kind<QLabel>(info, QStringLiteral("email"));
-        QSignalSpy angeklickt(mail, &QLabel::linkActivated);
-        QTest::mouseClick(mail, Qt::LeftButton, Qt::NoModifier, QPoint(8, mail->height() / 2));
-        QCOMPARE(angeklickt.count(), 0);
-        klick(info, "okKnopf");
-        QVERIFY(info.isNull());
-
-        // The help shows its text and closes with Escape also while the text has the focus.
-        QPointer<HilfeFenster> h = new HilfeFenster;
-        h->show();
-        QVERIFY(!h->browser()->document()->isEmpty());
-        QVERIFY(QTest::qWaitForWindowActive(h));
-        h->browser()->setFocus();
-        QTest::keyClick(h->browser(), Qt::Key_Escape);
-        aufraeumen();
-        QVERIFY(h.isNull());
     }
 };
 

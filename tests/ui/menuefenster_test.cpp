@@ -8,6 +8,7 @@
 #include <QLabel>
 #include <QPointer>
 #include <QScrollBar>
+#include <QSignalSpy>
 #include <QTest>
 #include <QTextBrowser>
 #include <algorithm>
@@ -128,6 +129,11 @@ class MenueFensterTest : public QObject {
         a.aktion("info");
         auto* version = a.fenster->findChild<InfoWin*>()->findChild<QLabel*>(QStringLiteral("version"));
         QCOMPARE(version->text(), QStringLiteral("Version " FUH_PROJEKTVERSION));
+        // The mail address looks like a link, but like every label of the box it ignores clicks.
+        auto* mail = a.fenster->findChild<InfoWin*>()->findChild<QLabel*>(QStringLiteral("email"));
+        QSignalSpy angeklickt(mail, &QLabel::linkActivated);
+        QTest::mouseClick(mail, Qt::LeftButton, Qt::NoModifier, QPoint(8, mail->height() / 2));
+        QCOMPARE(angeklickt.count(), 0);
     }
 };
 
