@@ -166,6 +166,8 @@ class WiedergabeTest : public QObject {
         a.fenster->meldung(Vorlage::fuchsAusgeschlossen);
         const QLabel* ansage = a.fenster->findChild<Ansage*>();
         QTRY_VERIFY(ansage->text().contains(QString::fromUtf8(vorlage(Vorlage::fuchsAusgeschlossen))));
+        // The settings can be changed while watching (what a change does is the game's to say).
+        QVERIFY(a.fenster->findChild<QAction*>(QStringLiteral("Einstellungen"))->isEnabled());
 
         int letzteFigur = -1, schrittImGleiten = 0, schritte = 0;
         bool neuGedrueckt = false;
