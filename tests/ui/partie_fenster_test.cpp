@@ -2,9 +2,12 @@
 //
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// The saved running game in a state folder that cannot be written, a quit that cannot keep the game, a
-// signal while a finished game waits for the data folder another program holds.
+// The running game kept when the window closes and offered at the next start; a state folder that cannot
+// be written, a quit that cannot keep the game, a signal while a finished game waits for the data folder
+// another program holds.
 #include <QCursor>
+#include <QMessageBox>
+#include <QTimer>
 #include <csignal>
 #include <fcntl.h>
 #include <sys/resource.h>
@@ -15,6 +18,7 @@
 #include "fenster_aufbau.h"
 #include "fremde_sperre.h"
 #include "game/mensch.h"
+#include "game/partiedatei.h"
 #include "spieldaten/statistikdatei.h"
 #include "ui/beendigung.h"
 #include "ui/datenordner.h"
@@ -77,6 +81,86 @@ class Malzaehler : public QObject {
 class PartieFensterTest : public QObject {
     Q_OBJECT
   private slots:
+    // A game continued after the window was closed.
+    void nachDemNeustartFortsetzen() {
+        Aufbau a;
+        const fs::path zustand = a.pfad() / "zustand";
+        const fs::path datei = zustand / "partie";
+        a.fenster->fortsetzenAnbieten(zustand); // nothing saved: no question
+        a.aktion("Neu");
+        a.ziehe(24, 17);
+        a.fenster->zugTakt();
+        const Sicherung vorher = a.spiel().sicherung();
+
+        a.starten(); // the window closes with the game running
+        QVERIFY(fs::exists(datei));
+        const auto gespeichert = fs::file_size(datei);
+        QTimer::singleShot(0, [&] {
+            auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            QVERIFY(box);
+            QCOMPARE(box->text(), QStringLiteral("Die letzte Partie fortsetzen?"));
+            // While the question is open the file is still there, whole, also when the window's timer
+            // ticks meanwhile: killed now, nothing is lost.
+            a.fenster->zugTakt();
+            QVERIFY(fs::exists(datei));
+            QCOMPARE(fs::file_size(datei), gespeichert);
+            box->button(QMessageBox::Yes)->click();
+        });
+        a.fenster->fortsetzenAnbieten(zustand);
+        QVERIFY(a.spiel().sicherung() == vorher);
+        QVERIFY(!fs::exists(datei));
+        bilderPruefen(a);
+
+        // "Nein", here by Escape, drops it; a window without a running game leaves no file.
+        a.starten();
+        QTimer::singleShot(0, [] { QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Escape); });
+        a.fenster->fortsetzenAnbieten(zustand);
+        QVERIFY(!a.spiel().laeuft());
+        a.starten();
+        QVERIFY(!fs::exists(datei));
+    }
+
+    // The session ends the program with a signal: the running game is kept as on "Beenden". (A signal
+    // while the next start asks about it is the real program's test, programm_pruefen.)
+    void signalBehaeltDiePartie() {
+        Aufbau a;
+        const fs::path zustand = a.pfad() / "zustand";
+        const fs::path datei = zustand / "partie";
+        a.fenster->fortsetzenAnbieten(zustand);
+        a.aktion("Neu");
+        a.ziehe(24, 17);
+        const Sicherung vorher = a.spiel().sicherung();
+        signaleBeendenLassen(*qApp);
+        QTimer::singleShot(0, [] { ::raise(SIGTERM); }); // unhandled, it would end the test
+        QCOMPARE(QCoreApplication::exec(), 0);
+        QVERIFY(beendenVerlangt());
+        a.starten(); // the window goes as it does when the program ends
+        QVERIFY(fs::exists(datei));
+        Partieablage naechster(zustand);
+        std::vector<std::string> keine;
+        const auto angebot = naechster.holen(keine);
+        QVERIFY(angebot.sicherung && *angebot.sicherung == vorher);
+        // The application is ending now, and any dialog would return at once; a run of the main loop
+        // ends that for the tests that follow.
+        QTimer::singleShot(0, qApp, &QCoreApplication::quit);
+        QCoreApplication::exec();
+    }
+
+    // The computer against itself, shown move by move: continued, it plays on to the end by itself.
+    void selbstspielFortsetzen() {
+        Aufbau a(std::vector<char>{2, 0, 0, 0}, Tempo::normal);
+        const fs::path zustand = a.pfad() / "zustand";
+        a.fenster->fortsetzenAnbieten(zustand);
+        a.aktion("Neu");
+        QVERIFY(a.spiel().selbstspielLaeuft());
+        a.starten();
+        a.fenster->tempoSetzen(Tempo::sofort);
+        Antworter antworter; // "Ja" to the question, OK to the announcement of the end
+        a.fenster->fortsetzenAnbieten(zustand);
+        QTRY_VERIFY(a.spiel().endeGefunden());
+        QCOMPARE(statistikLesen(a.pfad()).beendet(), int16_t{1});
+    }
+
     // A state folder nobody may write. The game taken over is not offered again and is never
     // filed twice; the player is told once.
     void nichtEntfernbarWirdNurEinmalAbgelegt() {
