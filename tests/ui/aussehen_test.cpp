@@ -22,6 +22,7 @@
 #include "ui/datenordner.h"
 #include "ui/fenstergeometrie.h"
 #include "ui/klaenge.h"
+#include "ui/statustext.h"
 #include "ui/thema.h"
 
 using namespace fuh;
@@ -170,6 +171,29 @@ class AussehenTest : public QObject {
             QCOMPARE(gespielt.size(), f.klang ? 1 : 0);
             if (f.klang) QCOMPARE(gespielt.front().front().value<K>(), *f.klang);
         }
+    }
+
+    // The first start's window shows every status field whole, also once a move has brought the points
+    // and a take-back its note;
+    // a stored size of 2·10^9 pixels is fitted into the screen before the window is first shown.
+    void fensterPasstAufDenBildschirm() {
+        Aufbau a(std::vector<char>{0, 2, 1, 0});
+        a.aktion("Neu");
+        a.ziehe(24, 17);
+        a.fenster->zugTakt();
+        QTRY_VERIFY(!a.fenster->beschaeftigt());
+        a.aktion("zurueck"); // the take-back's field shows too
+        QTRY_VERIFY(!a.fenster->beschaeftigt());
+        for (int i = 1; i <= 4; ++i) {
+            const auto* feld = a.fenster->findChild<Statustext*>(QStringLiteral("panel%1").arg(i));
+            QCOMPARE(feld->sichtbarerText(), feld->text());
+        }
+        const QRect frei = a.fenster->screen()->availableGeometry();
+        a.fenster.reset();
+        fensterEinstellungen().setValue(QStringLiteral("geometrie"), geometrie(0, 0, 2000000000, 2000000000));
+        a.starten();
+        QVERIFY(a.fenster->width() <= frei.width() && a.fenster->height() <= frei.height());
+        QVERIFY(a.fenster->width() >= frei.width() / 2);
     }
 
     void fenstergeometrieLesen() {
