@@ -105,6 +105,11 @@ class SpracheTest : public QObject {
         QCOMPARE(sieg->text(), QStringLiteral("Ja"));
         QCOMPARE(hilfe->source().fileName(), QStringLiteral("ratgeber.html"));
         QCOMPARE(abbrechenKnopf(), QStringLiteral("Abbrechen"));
+        // Chosen elsewhere, e.g. in another main window: the menu shows it.
+        spracheSetzen(sprache(QStringLiteral("en")), false);
+        QCoreApplication::processEvents();
+        QVERIFY(a.fenster->findChild<QAction*>(QStringLiteral("sprache_en"))->isChecked());
+        spracheSetzen(sprache(QStringLiteral("de")), false);
     }
 
     // Each value is translated on its own and filled into the translated template, also inside a list
