@@ -3,12 +3,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 // What the windows show from the game's files and the environment: the statistics with their sums,
-// high-score rows with damaged dates, names with markup shown literally (no file they name is opened),
-// a status text shortened to its field with the whole text at hand, and a data folder whose name is not
-// UTF-8, used byte for byte.
+// a new high-score entry named and saved or dropped unwritten, high-score rows with damaged dates, names with
+// markup shown literally, a status text shortened to its field with the whole text at hand, and a data folder
+// whose name is not UTF-8, used byte for byte.
 #include <QAccessible>
 #include <QApplication>
+#include <QDate>
 #include <QLabel>
+#include <QLineEdit>
+#include <QLocale>
 #include <QMessageBox>
 #include <QPointer>
 #include <QPushButton>
@@ -18,13 +21,7 @@
 #include <QToolTip>
 #include <QtTest>
 #include <array>
-#include <atomic>
 #include <cmath>
-#include <thread>
-
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
 
 #include "game/spiel.h"
 #include "kinder.h"
@@ -44,10 +41,10 @@ using Bytes = std::vector<uint8_t>;
 using test::hsSatz;
 using test::kind;
 using test::klick;
+using test::spielende;
 using test::TempOrdner;
 using test::text;
 
-// Messages may name folders and files: shown as they are, too.
 void meldungIstKlartext() {
     auto boxFormat = std::make_shared<Qt::TextFormat>(Qt::AutoText);
     QTimer::singleShot(0, [boxFormat] {
@@ -58,6 +55,12 @@ void meldungIstKlartext() {
     });
     meldungZeigen(nullptr, QMessageBox::Warning, QStringLiteral("<b>/tmp/x</b>"));
     QCOMPARE(*boxFormat, Qt::PlainText);
+}
+
+// Types text key by key; unlike QTest::keyClicks it also takes characters beyond ASCII.
+void tippen(QWidget* w, const QString& text) {
+    for (const QChar c : text)
+        QTest::sendKeyEvent(QTest::Click, w, Qt::Key_unknown, QString(c), Qt::NoModifier);
 }
 
 } // namespace
@@ -75,17 +78,14 @@ class DateianzeigeTest : public QObject {
         dir.schreibe("QZ.sta", test::zaehlerBytes(z));
         QPointer<StatForm> f = new StatForm(dir.pfad());
         f->show();
-        const std::pair<const char*, const char*> felder[] = {{"gestartet", "45"},
-                                                              {"abgebrochen", "5"},
-                                                              {"imLernmodus", "6"},
-                                                              {"bewertet", "300"},
-                                                              {"neuAusLetztem", "17"}};
-        for (const auto& [name, wert] : felder)
-            QCOMPARE(text(f, QString::fromLatin1(name)), QString::fromLatin1(wert));
-        // Hens then foxes, computer then user, strengths 1..3, then the two sums.
-        const char* werte[14] = {"4", "5", "6", "1", "2", "3", "10", "11", "12", "7", "8", "9", "21", "57"};
+        // The totals, then hens and foxes, computer and user, strengths 1..3, then the two sums.
+        QStringList gezeigt;
+        for (const char* feld : {"gestartet", "abgebrochen", "imLernmodus", "bewertet", "neuAusLetztem"})
+            gezeigt << text(f, QString::fromLatin1(feld));
         for (int i = 0; i < 14; ++i)
-            QCOMPARE(text(f, QStringLiteral("wert%1").arg(i)), QString::fromLatin1(werte[i]));
+            gezeigt << text(f, QStringLiteral("wert%1").arg(i));
+        QCOMPARE(gezeigt.join(QLatin1Char(' ')),
+                 QStringLiteral("45 5 6 300 17 4 5 6 1 2 3 10 11 12 7 8 9 21 57"));
         // A screen reader hears what each number stands for.
         const auto name = [&f](const char* kind) {
             return test::kind(f, QString::fromLatin1(kind))->accessibleName();
@@ -97,65 +97,91 @@ class DateianzeigeTest : public QObject {
         QVERIFY(f.isNull());
     }
 
-    void highscoreMitKaputtenDaten() {
+    void highscoreNeuerEintragMitName() {
         TempOrdner dir;
-        Bytes b = hsSatz(std::nan(""), 9, "Nan", "Ja");
+        Oeffentlich spiel = spielende(42);
+        QPointer<HighscoreFenster> w = new HighscoreFenster(Seite::Hennen, spiel, dir.pfad());
+        w->show();
+        QVERIFY(kind(w, "nameEingabe0")->isVisible() &&
+                !w->findChild<QLineEdit*>(QStringLiteral("nameEingabe1")));
+        QCOMPARE(text(w, "score0"), QStringLiteral("42"));
+        QCOMPARE(text(w, "score1") + text(w, "datum1"), QStringLiteral("0")); // a row never written: no date
+        QCOMPARE(text(w, "datum0"), QLocale().toString(QDate::currentDate(), QLocale::ShortFormat));
+
+        tippen(kind(w, "nameEingabe0"), QStringLiteral("Jörg"));
+        klick(w, "okKnopf");
+        QVERIFY(w.isNull());
+        const Bytes datei = dir.lies("QZH.sco");
+        QCOMPARE(datei.size(), std::size_t{290});
+        QCOMPARE(Bytes(datei.begin() + 8, datei.begin() + 29),
+                 (Bytes{42,  0,   0x4A, 0xF6, 0x72, 0x67, ' ', ' ', ' ', ' ', ' ',
+                        ' ', ' ', ' ',  ' ',  ' ',  ' ',  'J', 'a', ' ', ' '}));
+    }
+
+    void highscoreAbbruchSchreibtNicht() {
+        TempOrdner dir;
+        Bytes vorher = hsSatz(44000, 100, "Hugo", "Ja");
+        const Bytes zweiter = hsSatz(44001, 30, "Erna", "Nein");
+        vorher.insert(vorher.end(), zweiter.begin(), zweiter.end());
+        dir.schreibe("QZF.sco", vorher);
+        Oeffentlich spiel = spielende(30, "Nein");
+        QPointer<HighscoreFenster> w = new HighscoreFenster(Seite::Fuchs, spiel, dir.pfad());
+        w->show();
+        // A tie goes above the older entry.
+        QVERIFY(kind(w, "nameEingabe1")->isVisible());
+        QCOMPARE(text(w, "datum0"), QLocale().toString(QDate(2020, 6, 18), QLocale::ShortFormat));
+        tippen(kind(w, "nameEingabe1"), QStringLiteral("Otto"));
+        // A visible label says what the field is for.
+        QVERIFY(kind(w, "aufforderung")->isVisible());
+        QCOMPARE(kind<QLabel>(w, "aufforderung")->buddy(), kind(w, "nameEingabe1"));
+
+        // Escape and the close button ask first: "Zurück zur Liste" keeps the entry, "Verwerfen" drops it.
+        auto antworten = [](const QString& knopf) {
+            QTimer::singleShot(0, [knopf] {
+                auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+                QVERIFY(box);
+                for (QAbstractButton* b : box->buttons())
+                    if (b->text().remove(QLatin1Char('&')) == knopf) b->click();
+            });
+        };
+        antworten(QStringLiteral("Zurück zur Liste"));
+        QTest::keyClick(kind(w, "nameEingabe1"), Qt::Key_Escape);
+        QVERIFY(w && w->isVisible());
+        antworten(QStringLiteral("Zurück zur Liste"));
+        w->close();
+        QVERIFY(w && w->isVisible());
+        antworten(QStringLiteral("Verwerfen"));
+        QTest::keyClick(kind(w, "nameEingabe1"), Qt::Key_Escape);
+        QVERIFY(!w || !w->isVisible());
+        QCOMPARE(dir.lies("QZF.sco"), vorher);
+        delete w;
+
+        // "Abbruch" is a choice already: it asks nothing.
+        w = new HighscoreFenster(Seite::Fuchs, spiel, dir.pfad());
+        w->show();
+        klick(w, "abbruchKnopf");
+        QVERIFY(w.isNull());
+        QCOMPARE(dir.lies("QZF.sco"), vorher);
+    }
+
+    // A stored list as it shows: dates no calendar holds as empty cells, a name or result with markup as
+    // typed, in plain text that loads nothing it names; so are the messages, which may name folders.
+    void gespeicherteListeAlsKlartext() {
+        TempOrdner dir;
+        Bytes b = hsSatz(std::nan(""), 9, "<img src=f>", "<b>J");
         for (const Bytes& s : {hsSatz(HUGE_VAL, 8, "Inf", "Ja"), hsSatz(1e300, 7, "Weit", "Ja")})
             b.insert(b.end(), s.begin(), s.end());
         dir.schreibe("QZF.sco", b);
         Oeffentlich spiel;
         HighscoreFenster w(Seite::Fuchs, spiel, dir.pfad());
         w.show();
-        for (int i = 0; i < 3; ++i) // dates no calendar holds show as empty cells
+        for (int i = 0; i < 3; ++i)
             QCOMPARE(text(&w, QStringLiteral("datum%1").arg(i)), QString());
         QCOMPARE(text(&w, "user2"), QStringLiteral("Weit"));
-    }
-
-    // A stored name with markup shows as typed, and never makes the window load what it names: here a
-    // FIFO, whose opening would block the window for good. A watcher opens it for writing whenever a
-    // reader appears, so a failure ends the test instead of hanging it.
-    void namenMitMarkupSindKlartext() {
-        TempOrdner dir;
-        dir.schreibe("QZF.sco", hsSatz(44000, 100, "<img src=f>", "<b>J"));
-        const std::filesystem::path fifo = dir.pfad() / "f";
-        QCOMPARE(::mkfifo(fifo.c_str(), 0600), 0);
-        const auto vorher = std::filesystem::current_path();
-        std::filesystem::current_path(dir.pfad());
-        std::atomic<bool> fertig{false};
-        std::atomic<bool> geoeffnet{false};
-        std::thread waechter([&] {
-            while (!fertig) {
-                const int fd = ::open(fifo.c_str(), O_WRONLY | O_NONBLOCK);
-                if (fd >= 0) {
-                    geoeffnet = true;
-                    ::close(fd);
-                }
-                std::this_thread::sleep_for(std::chrono::milliseconds(1));
-            }
-        });
-        QString name;
-        QString sieg;
-        Qt::TextFormat format = Qt::AutoText;
-        QString zugang;
-        {
-            Oeffentlich spiel;
-            HighscoreFenster w(Seite::Fuchs, spiel, dir.pfad());
-            w.show();
-            w.grab(); // lays out and paints every cell
-            name = text(&w, "user0");
-            sieg = text(&w, "sieg0");
-            format = kind<QLabel>(&w, "user0")->textFormat();
-            zugang = kind<QLabel>(&w, "score0")->accessibleName();
-        }
-        fertig = true;
-        waechter.join();
-        std::filesystem::current_path(vorher);
-        QVERIFY(!geoeffnet);
-        QCOMPARE(name, QStringLiteral("<img src=f>"));
-        QCOMPARE(sieg, QStringLiteral("<b>J"));
-        QCOMPARE(format, Qt::PlainText);
-        QCOMPARE(zugang, QStringLiteral("1. Punkte: 100")); // a screen reader hears row and column
-
+        QCOMPARE(text(&w, "user0") + text(&w, "sieg0"), QStringLiteral("<img src=f><b>J"));
+        for (const char* zelle : {"user0", "sieg0"})
+            QCOMPARE(kind<QLabel>(&w, QString::fromLatin1(zelle))->textFormat(), Qt::PlainText);
+        QCOMPARE(kind(&w, "score0")->accessibleName(), QStringLiteral("1. Punkte: 9")); // row and column
         meldungIstKlartext();
     }
 

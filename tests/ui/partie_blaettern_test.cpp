@@ -48,7 +48,6 @@ class PartieBlaetternTest : public QObject {
         a.aktion("Neu");
         QTRY_VERIFY(a.spiel().endeGefunden());
         QTRY_VERIFY(!a.fenster->beschaeftigt());
-        QVERIFY(!a.hinweisSichtbar("f_zug") && !a.hinweisSichtbar("h_zug"));
         const Stellung ende = a.spiel().stellung();
         const std::vector<Partiezug> gespielt = a.spiel().mitschrift().zuege;
         const std::size_t n = gespielt.size();
@@ -99,7 +98,6 @@ class PartieBlaetternTest : public QObject {
                  QStringLiteral("Zeile 11: Dieser Zug ist nach den Regeln nicht möglich."));
         QCOMPARE(antworter.symbole.back(), QMessageBox::Warning);
         QVERIFY(a.spiel().stellung() == vorher);
-        QCOMPARE(a.fenster->blaetterStand(), std::nullopt);
 
         QVERIFY(!a.fenster->partieSpeichern(a.pfad() / "fehlt" / "partie.fuh"));
         QVERIFY(antworter.texte.back().contains(QStringLiteral("partie.fuh")));

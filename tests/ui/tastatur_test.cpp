@@ -6,8 +6,10 @@
 // a lifted piece may go to.
 #include <QAccessible>
 #include <QMenuBar>
+#include <QPointer>
 #include <QSignalSpy>
 #include <QTest>
+#include <QTextBrowser>
 #include <vector>
 
 #include "fenster_aufbau.h"
@@ -23,7 +25,8 @@ using namespace fuh::test;
 class TastaturTest : public QObject {
     Q_OBJECT
   private slots:
-    void cursorBleibtAufDemKreuz() {
+    // The cursor starts on d4 and stays on the cross; a piece is picked up, put back and refused.
+    void cursorAufnehmenZuruecklegenUndFalschAblegen() {
         Aufbau a;
         aktivieren(a);
         QCOMPARE(QApplication::focusWidget(), a.brett());
@@ -39,11 +42,7 @@ class TastaturTest : public QObject {
                 taste(a, k);
             QCOMPARE(a.brett()->cursor(), ecke);
         }
-    }
 
-    void aufnehmenZuruecklegenUndFalschAblegen() {
-        Aufbau a;
-        aktivieren(a);
         QSignalSpy abgelegt(a.brett(), &BrettFlaeche::abgelegt);
         // Locked before a game starts: nothing is picked up.
         taste(a, Qt::Key_Return);
@@ -51,6 +50,7 @@ class TastaturTest : public QObject {
 
         a.aktion("Neu");
         const Stellung anfang = a.spiel().stellung();
+        fahren(a, feldNummer(3, 3));
         QAccessibleInterface* d4 = QAccessible::queryAccessibleInterface(a.brett())->focusChild();
         taste(a, Qt::Key_Space);
         QVERIFY(a.brett()->ziehtGerade());
@@ -147,14 +147,23 @@ class TastaturTest : public QObject {
         QCOMPARE(a.spiel().stellung().Feld[0][2], henne);
     }
 
-    // F10 opens the menu; after each window or dialog closes the keys move the cursor again, and a
-    // dialog opens on its first field, named by its label.
+    // F10 opens the menu, F1 the help; after each window or dialog closes the keys move the cursor again,
+    // and a dialog opens on its first field, named by its label.
     void fokusNachJedemDialog() {
         Aufbau a;
         aktivieren(a);
         QTest::keyClick(a.brett(), Qt::Key_F10);
         QTRY_VERIFY(QApplication::activePopupWidget());
         QApplication::activePopupWidget()->close();
+        // (Ctrl+N, Ctrl+T and Shift+F10 are played in the whole game above.)
+        QTest::keyClick(a.fenster.get(), Qt::Key_F1);
+        // The help shows its text and closes with Escape also while the text has the focus.
+        QPointer<HilfeFenster> hilfe = a.fenster->findChild<HilfeFenster*>();
+        QVERIFY(QTest::qWaitForWindowActive(hilfe) && !hilfe->browser()->document()->isEmpty());
+        hilfe->browser()->setFocus();
+        QTest::keyClick(hilfe->browser(), Qt::Key_Escape);
+        QTRY_VERIFY(!hilfe || !hilfe->isVisible());
+        aktivieren(a);
         for (const char* befehl : {"Einstellungen", "statistik", "highscoreFuchs", "hilfeZeigen", "info"}) {
             a.fenster->menuBar()->setFocus(Qt::MenuBarFocusReason); // as when it was chosen there
             a.aktion(befehl);
@@ -168,14 +177,6 @@ class TastaturTest : public QObject {
             aktivieren(a); // as the desktop does when a window closes
             QTRY_VERIFY2(QApplication::focusWidget() == a.brett(), befehl);
         }
-    }
-
-    // Ctrl+N, Ctrl+T and Shift+F10 are played in the whole game above.
-    void hilfeMitF1() {
-        Aufbau a;
-        aktivieren(a);
-        QTest::keyClick(a.fenster.get(), Qt::Key_F1);
-        QVERIFY(a.fenster->findChild<HilfeFenster*>() && a.fenster->findChild<HilfeFenster*>()->isVisible());
     }
 };
 
