@@ -65,14 +65,14 @@ TEST_F(SpielTest, WechselZuZweiSpielernUebergibtDenZug) {
     EXPECT_EQ(spiel.stellung().Feld[4][1], fuchs);
     EXPECT_EQ(ansicht.panels[1], "Zwei Spieler: Hennen am Zug");
     EXPECT_TRUE(spiel.tippMoeglich());
+    const Stellung vorher = spiel.stellung();
     ziehe(2, 3, 3, 3);
     EXPECT_EQ(spiel.stellung().Feld[3][3], henne);
     EXPECT_EQ(spiel.amZug(), Seite::Fuchs);
     // Take-back undoes one person's move at a time.
     spiel.zuruecknehmen();
     EXPECT_EQ(spiel.amZug(), Seite::Hennen);
-    EXPECT_EQ(spiel.stellung().Feld[2][3], henne);
-    EXPECT_EQ(spiel.stellung().Feld[3][3], leer);
+    EXPECT_EQ(spiel.stellung(), vorher);
 }
 
 } // namespace
