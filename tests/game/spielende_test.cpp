@@ -2,6 +2,7 @@
 //
 // SPDX-License-Identifier: GPL-3.0-or-later
 
+#include <algorithm>
 #include <random>
 
 #include "dateischicht/dateizugriff.h"
@@ -62,12 +63,8 @@ TEST_F(SpielTest, AblegenWartetEinmalAufEinAnderesProgramm) {
 // After the hens' opening the person's fox steps back and forth in single-move mode.
 TEST_F(SpielTest, ZugbegrenzungIstRemisOhneMeldung) {
     starten(1, 0, 1, 1); // learning mode on at strength 1: merged into "QZ3.DAT"
-    for (int i = 0; i < 200 && spiel.ziehbar(); ++i) {
-        if (i % 2 == 0)
-            ziehe(2, 2, 2, 1);
-        else
-            ziehe(2, 1, 2, 2);
-    }
+    for (int i = 0; i < 200 && spiel.ziehbar(); ++i)
+        ziehe(2, 2 - i % 2, 2, 1 + i % 2); // (2, 2) to (2, 1) and back
     EXPECT_EQ(spiel.spielzug(), 149);
     EXPECT_EQ(spiel.ergebnis(), Ergebnis::remis);
     EXPECT_EQ(ansicht.zugbegrenzungen, 1);
@@ -90,8 +87,7 @@ TEST_F(SpielTest, BeliebigeDateiinhalteFuehrenNieZumAbsturz) {
     std::mt19937 zufallszahlen(42);
     auto muell = [&](std::size_t n) {
         std::vector<unsigned char> b(n);
-        for (auto& c : b)
-            c = static_cast<unsigned char>(zufallszahlen());
+        std::generate(b.begin(), b.end(), [&] { return static_cast<unsigned char>(zufallszahlen()); });
         return b;
     };
     const std::vector<std::array<int16_t, 4>> einstellungen = {
