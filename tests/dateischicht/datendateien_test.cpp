@@ -41,52 +41,52 @@ struct Art {
     std::function<bool(const fs::path&)> liestDefault;
 };
 
+bool iniSchreiben(const fs::path& o) {
+    return einstellungenSchreiben(o, {1, 2, 1, 0});
+}
+bool iniDefault(const fs::path& o) {
+    Einstellungen e{1, 1, 1, 1};
+    einstellungenLesen(o, e);
+    return e.PC == 0 && e.Lernmodus == 0 && e.Einzelzug == 0;
+}
+bool staSchreiben(const fs::path& o) {
+    return spielGestartet(o) || statistik(o, 1, {0, 0, 1, 0}, 3);
+}
+bool staDefault(const fs::path& o) {
+    return statistikLesen(o).zaehler == Statistik{}.zaehler;
+}
+bool scoSchreiben(const fs::path& o) {
+    Bestenliste l(Seite::Hennen);
+    l.einfuegen(50, "Ja", 45000);
+    return l.speichern(o);
+}
+bool scoDefault(const fs::path& o) {
+    Bestenliste l(Seite::Hennen);
+    l.laden(o);
+    return l.eintraege()[0].score == 0;
+}
+bool lernSchreiben(const fs::path& o) {
+    Partie p;
+    p.sits[0].code = grundcode();
+    p.sits[0].fuchswert = 4;
+    p.spielzug = 1;
+    return Lerndatei(o).speichern(p, 2).geschrieben;
+}
+bool lernDefault(const fs::path& o) {
+    Stellung s;
+    s.grundstellung();
+    return Lerndatei(o).erinnern(s.Feld, henne, 2, Partie{}) == 0;
+}
+
 std::vector<Art> arten() {
-    const Code g = grundcode();
     B lern(15, 0); // fox and hen value 9
+    const Code g = grundcode();
     std::copy(g.begin(), g.end(), lern.begin());
     lern[11] = lern[13] = 9;
-    return {
-        {"QZ.INI",
-         {2, 0, 2, 0, 1, 0, 1, 0},
-         [](const fs::path& o) {
-             return einstellungenSchreiben(o, {1, 2, 1, 0});
-         },
-         [](const fs::path& o) {
-             Einstellungen e{1, 1, 1, 1};
-             einstellungenLesen(o, e);
-             return e.PC == 0 && e.Lernmodus == 0 && e.Einzelzug == 0;
-         }},
-        {"QZ.sta", B(34, 7),
-         [](const fs::path& o) {
-             return spielGestartet(o) || statistik(o, 1, {0, 0, 1, 0}, 3);
-         },
-         [](const fs::path& o) { return statistikLesen(o).zaehler == Statistik{}.zaehler; }},
-        {"QZH.sco", test::hsSatz(44000, 77, "Kurt", "Ja"),
-         [](const fs::path& o) {
-             Bestenliste l(Seite::Hennen);
-             l.einfuegen(50, "Ja", 45000);
-             return l.speichern(o);
-         },
-         [](const fs::path& o) {
-             Bestenliste l(Seite::Hennen);
-             l.laden(o);
-             return l.eintraege()[0].score == 0;
-         }},
-        {"QZ3.DAT", lern,
-         [](const fs::path& o) {
-             Partie p;
-             p.sits[0].code = grundcode();
-             p.sits[0].fuchswert = 4;
-             p.spielzug = 1;
-             return Lerndatei(o).speichern(p, 2).geschrieben;
-         },
-         [](const fs::path& o) {
-             Stellung s;
-             s.grundstellung();
-             return Lerndatei(o).erinnern(s.Feld, henne, 2, Partie{}) == 0;
-         }},
-    };
+    return {{"QZ.INI", {2, 0, 2, 0, 1, 0, 1, 0}, iniSchreiben, iniDefault},
+            {"QZ.sta", B(34, 7), staSchreiben, staDefault},
+            {"QZH.sco", test::hsSatz(44000, 77, "Kurt", "Ja"), scoSchreiben, scoDefault},
+            {"QZ3.DAT", lern, lernSchreiben, lernDefault}};
 }
 
 // A FIFO, a folder or an unreadable file (the child runs as nobody) in a data file's place.
@@ -155,8 +155,7 @@ void linkAnlegen(TempOrdner& t, TempOrdner& woanders, const std::string& name, c
 }
 
 TEST(Datendateien, LinkWirdNurGefolgtWoNiemandSonstSchreibenKann) {
-    using Fall = LinkFall;
-    const Fall faelle[] = {
+    const LinkFall faelle[] = {
         {"eigener Ordner", 0755, 0755, false, true, true},
         {"Ordner für alle", 0777, 0755, false, true, false},
         {"Ordner für alle, Ziel fehlt", 0777, 0755, false, false, false},
@@ -167,7 +166,7 @@ TEST(Datendateien, LinkWirdNurGefolgtWoNiemandSonstSchreibenKann) {
     const B opfer(40, 0x5A);
     const bool root = ::geteuid() == 0;
     for (const Art& art : arten()) {
-        for (const Fall& f : faelle) {
+        for (const LinkFall& f : faelle) {
             SCOPED_TRACE(std::string(art.name) + ", " + f.name);
             if (f.fremderLink && !root) continue; // only root can give a link away
             TempOrdner t;

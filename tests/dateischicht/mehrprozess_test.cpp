@@ -56,9 +56,8 @@ TEST(Mehrprozess, ZweiSelbstspieleImSelbenOrdnerVerlierenNichts) {
     for (const pid_t k : kinder)
         EXPECT_TRUE(test::kindAbwarten(k, std::chrono::seconds(60)));
     const Statistik s = statistikLesen(t.pfad());
-    EXPECT_EQ(s.gestartet(), 2 * kSpiele);
-    EXPECT_EQ(s.beendet(), 2 * kSpiele);
-    EXPECT_EQ(s.imLernmodus(), 2 * kSpiele);
+    EXPECT_EQ(std::tuple(s.gestartet(), s.beendet(), s.imLernmodus()),
+              std::tuple(2 * kSpiele, 2 * kSpiele, 2 * kSpiele));
     // Every record a merge counted is in the file, and only once.
     EXPECT_EQ(pruefeLerndatei(t.lies("QZ3.DAT")), static_cast<std::size_t>(s.gelernt()));
 }
@@ -95,16 +94,12 @@ Partie partie(std::mt19937& zufall) {
 
 void pruefeKleineDateien(const TempOrdner& t) {
     const B ini = t.lies("QZ.INI");
-    ASSERT_TRUE(ini.empty() || ini.size() == 8u);
-    if (!ini.empty()) {
-        EXPECT_TRUE(ini[0] == ini[2] && ini[2] == ini[4] && ini[4] == ini[6]);
-    }
-    const B sta = t.lies("QZ.sta");
-    ASSERT_TRUE(sta.empty() || sta.size() == 34u);
+    EXPECT_TRUE(ini.empty() ||
+                (ini.size() == 8u && ini[0] == ini[2] && ini[2] == ini[4] && ini[4] == ini[6]));
+    ASSERT_TRUE(t.lies("QZ.sta").empty() || t.lies("QZ.sta").size() == 34u);
     const Statistik s = statistikLesen(t.pfad());
     EXPECT_LE(s.gelernt(), static_cast<int>(t.lies("QZ3.DAT").size() / kLernsatz)); // counted ones are there
-    const B sco = t.lies("QZH.sco");
-    ASSERT_TRUE(sco.empty() || sco.size() == 290u);
+    ASSERT_TRUE(t.lies("QZH.sco").empty() || t.lies("QZH.sco").size() == 290u);
     Bestenliste l(Seite::Hennen);
     l.laden(t.pfad());
     for (int z = 1; z < kListenzeilen; ++z)
@@ -118,8 +113,7 @@ TEST(Mehrprozess, KillWaehrendDesAblegensLaesstJedeDateiGanz) {
         const pid_t kind = test::kindStarten([&] { ablegenBisZumTod(t.pfad(), zufall()); });
         std::this_thread::sleep_for(std::chrono::microseconds(500 + zufall() % 20000));
         ::kill(kind, SIGKILL);
-        int status = 0;
-        ::waitpid(kind, &status, 0);
+        ::waitpid(kind, nullptr, 0);
         SCOPED_TRACE(runde);
         pruefeLerndatei(t.lies("QZ3.DAT"));
         pruefeKleineDateien(t);

@@ -97,12 +97,12 @@ TEST(Aufzeichnung, JedesSpielGehtDurchDieDateiUndZurueck) {
                 ASSERT_EQ(staende.size(), g.aufzeichnung->zuege.size() + 1);
                 EXPECT_TRUE(ohneZufall(staende.back()) == ohneZufall(nach.spiel.zustand()));
                 EXPECT_EQ(staende.front().mitschrift.zuege.size(), 0u);
-                const std::string fall = "PC " + std::to_string(PC) + " seed " + std::to_string(seed);
-                EXPECT_TRUE(ohneZufall(nach.spiel.zustand()) == ohneZufall(original.spiel.zustand())) << fall;
-                EXPECT_EQ(nach.ansicht.zuege, original.ansicht.zuege) << fall;
-                EXPECT_EQ(nach.ansicht.meldungen, original.ansicht.meldungen) << fall;
-                EXPECT_EQ(nach.ansicht.fenster, original.ansicht.fenster) << fall;
-                EXPECT_TRUE(leer.namen().empty()) << fall;
+                SCOPED_TRACE("PC " + std::to_string(PC) + " seed " + std::to_string(seed));
+                EXPECT_TRUE(ohneZufall(nach.spiel.zustand()) == ohneZufall(original.spiel.zustand()));
+                EXPECT_EQ(
+                    std::tie(nach.ansicht.zuege, nach.ansicht.meldungen, nach.ansicht.fenster),
+                    std::tie(original.ansicht.zuege, original.ansicht.meldungen, original.ansicht.fenster));
+                EXPECT_TRUE(leer.namen().empty());
 
                 for (const Partiezug& e : original.spiel.mitschrift().zuege) {
                     if (e.teile.size() > 1) gesehen.insert("Kette");
@@ -112,11 +112,9 @@ TEST(Aufzeichnung, JedesSpielGehtDurchDieDateiUndZurueck) {
                 if (const auto ende = original.spiel.mitschrift().ende)
                     gesehen.insert("Ende " + std::to_string(static_cast<int>(*ende)));
             }
-    std::string alle;
-    for (const auto& f : gesehen)
-        alle += f + "; ";
-    EXPECT_EQ(alle, "Ende 0; Ende 1; Ende 2; Ende 3; Ende 4; Kette; Strafe 0; Strafe 1; Strafe 2; Strafe 3; "
-                    "offene Kette; ");
+    EXPECT_EQ(gesehen,
+              (std::set<std::string>{"Ende 0", "Ende 1", "Ende 2", "Ende 3", "Ende 4", "Kette", "Strafe 0",
+                                     "Strafe 1", "Strafe 2", "Strafe 3", "offene Kette"}));
 }
 
 std::string ersetzt(std::string text, const std::string& alt, const std::string& neu) {

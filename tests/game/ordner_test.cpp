@@ -118,25 +118,16 @@ TEST(Ordneroeffnen, FolgtEigenenLinksUndMeldetDenRest) {
 }
 
 // Sets an environment variable for the life of the object (nullptr: unset).
-class Umgebung {
-  public:
-    Umgebung(const char* name, const char* wert) : name_(name) {
-        if (const char* alt = std::getenv(name)) alt_ = alt;
-        if (wert)
-            setenv(name, wert, 1);
-        else
-            unsetenv(name);
+struct Umgebung {
+    static void setzen(const char* name, const char* wert) { wert ? setenv(name, wert, 1) : unsetenv(name); }
+    Umgebung(const char* name, const char* wert) : name(name), alt(std::getenv(name)) {
+        if (alt) gemerkt = alt;
+        setzen(name, wert);
     }
-    ~Umgebung() {
-        if (alt_)
-            setenv(name_, alt_->c_str(), 1);
-        else
-            unsetenv(name_);
-    }
-
-  private:
-    const char* name_;
-    std::optional<std::string> alt_;
+    ~Umgebung() { setzen(name, alt ? gemerkt.c_str() : nullptr); }
+    const char* name;
+    const char* alt;
+    std::string gemerkt;
 };
 
 // The fixed rule for unusual environments: relative or empty values count as unset; without HOME the

@@ -4,7 +4,6 @@
 
 #pragma once
 // A game of the player's foxes some moves in, for the tests of the saved game.
-#include <fstream>
 #include <string>
 #include <vector>
 
@@ -35,10 +34,6 @@ struct PartieTest : SpielTest {
         return spiel.sicherung();
     }
     std::filesystem::path zustand() const { return ordner / "zustand"; }
-    std::vector<unsigned char> lies(const std::filesystem::path& p) const {
-        std::ifstream ein(p, std::ios::binary);
-        return {std::istreambuf_iterator<char>(ein), std::istreambuf_iterator<char>()};
-    }
 };
 
 } // namespace fuh::test

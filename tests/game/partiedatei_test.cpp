@@ -25,10 +25,8 @@ TEST_F(PartieTest, GespeichertUndGelesenIstEsDasselbeSpiel) {
     }
     Partieablage start(zustand());
     const Partieablage::Angebot a = start.holen(keine);
-    EXPECT_EQ(a.beschaedigt, 0);
-    ASSERT_TRUE(a.sicherung.has_value());
-    EXPECT_TRUE(*a.sicherung == s);
-    EXPECT_FALSE(a.kennung.empty());
+    ASSERT_TRUE(a.sicherung == s);
+    EXPECT_TRUE(a.beschaedigt == 0 && !a.kennung.empty());
     // Read, not removed: the file stays until the question about it has been answered, whatever the
     // window does meanwhile.
     EXPECT_TRUE(start.verwerfen());
@@ -76,20 +74,18 @@ TEST_F(PartieTest, LaufendeSpieleBleibenAlle) {
     Partieablage d(zustand());
     const auto ac = c.holen(keine);
     const auto ad = d.holen(keine);
-    ASSERT_TRUE(ac.sicherung && ad.sicherung);
-    EXPECT_TRUE(*ac.sicherung == erste);
-    EXPECT_TRUE(*ad.sicherung == zweite);
+    EXPECT_TRUE(ac.sicherung == erste && ad.sicherung == zweite);
     EXPECT_FALSE(Partieablage(zustand()).holen(keine).sicherung);
     // A window asking about a game that ends without an answer leaves it for the next start.
     c.freigeben();
-    EXPECT_TRUE(*Partieablage(zustand()).holen(keine).sicherung == erste);
+    EXPECT_TRUE(Partieablage(zustand()).holen(keine).sicherung == erste);
 }
 
 // Killed (SIGKILL) while the question is open, the game stays as it was.
 TEST_F(PartieTest, GetoetetWaehrendDerFrageBleibtDieDatei) {
     const Sicherung s = mitten();
     ASSERT_TRUE(Partieablage(zustand()).sichern(s));
-    const auto vorher = lies(zustand() / "partie");
+    const auto vorher = ordner.lies("zustand/partie");
     int fertig[2];
     ASSERT_EQ(::pipe(fertig), 0);
     const pid_t kind = kindStarten([&] {
@@ -106,8 +102,8 @@ TEST_F(PartieTest, GetoetetWaehrendDerFrageBleibtDieDatei) {
     EXPECT_EQ(c, 'j');
     ::kill(kind, SIGKILL);
     ::waitpid(kind, nullptr, 0);
-    EXPECT_EQ(lies(zustand() / "partie"), vorher);
-    EXPECT_TRUE(*Partieablage(zustand()).holen(keine).sicherung == s);
+    EXPECT_EQ(ordner.lies("zustand/partie"), vorher);
+    EXPECT_TRUE(Partieablage(zustand()).holen(keine).sicherung == s);
 }
 
 // Bad things in the saved game's place. A damaged, oversized or linked file is removed, never trusted; so is
@@ -117,22 +113,16 @@ TEST_F(PartieTest, EineFremdeDateiWirdEntferntUndNieVertraut) {
     const Sicherung gut = mitten();
     const Bytes gutBytes = partieKodieren(gut);
     fs::create_directories(zustand());
-    auto schreibe = [&](const std::vector<unsigned char>& b) {
-        std::ofstream(zustand() / "partie", std::ios::binary)
-            .write(reinterpret_cast<const char*>(b.data()), static_cast<std::streamsize>(b.size()));
-    };
-
-    schreibe({'n', 'i', 'c', 'h', 't', 's'});
+    ordner.schreibe("zustand/partie", {'n', 'i', 'c', 'h', 't', 's'});
     std::ofstream(zustand() / ".partie-99999-0.tmp") << "halb";
-    Partieablage::Angebot a = Partieablage(zustand()).holen(keine);
-    EXPECT_EQ(a.beschaedigt, 1);
-    EXPECT_FALSE(a.sicherung.has_value());
+    const Partieablage::Angebot a = Partieablage(zustand()).holen(keine);
+    EXPECT_TRUE(a.beschaedigt == 1 && !a.sicherung);
     EXPECT_TRUE(fs::is_empty(zustand()));
 
     // Oversized: a valid game followed by a megabyte is not read whole.
     std::vector<unsigned char> riesig(gutBytes.begin(), gutBytes.end());
     riesig.resize(riesig.size() + (1u << 20));
-    schreibe(riesig);
+    ordner.schreibe("zustand/partie", riesig);
     EXPECT_EQ(Partieablage(zustand()).holen(keine).beschaedigt, 1);
     EXPECT_FALSE(fs::exists(zustand() / "partie"));
 
@@ -155,7 +145,7 @@ TEST_F(PartieTest, EineFremdeDateiWirdEntferntUndNieVertraut) {
     ASSERT_TRUE(neben.sichern(gut));
     EXPECT_TRUE(fs::is_directory(zustand() / "partie"));
     neben.freigeben();
-    EXPECT_TRUE(*Partieablage(zustand()).holen(keine).sicherung == gut);
+    EXPECT_TRUE(Partieablage(zustand()).holen(keine).sicherung == gut);
 }
 
 } // namespace

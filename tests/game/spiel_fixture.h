@@ -27,6 +27,12 @@ struct SpielTest : ::testing::Test {
         }
         ordner.schreibe("QZ.INI", b);
     }
+    // These settings, the program started and a game begun.
+    void starten(int16_t PC, int16_t Staerke = 0, int16_t Lernmodus = 0, int16_t Einzelzug = 0) {
+        ini(PC, Staerke, Lernmodus, Einzelzug);
+        spiel.programmStart(1);
+        spiel.neuesSpiel();
+    }
     // Changes the settings of the running game, as the dialog does.
     void einstellen(int16_t PC, int16_t Einzelzug, int16_t Staerke = 0, int16_t Lernmodus = 0) {
         spiel.einstellungenUebernehmen(Einstellungen{PC, Staerke, Lernmodus, Einzelzug});

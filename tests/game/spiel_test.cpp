@@ -3,6 +3,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "memory/partie.h"
+#include "mensch.h"
 #include "player/strafregel.h"
 #include "spiel_fixture.h"
 
@@ -15,9 +16,7 @@ using test::SpielTest;
 // the fox on (2, 2) can then jump (2, 3) and, from (2, 4), (1, 3).
 struct FuchsSpieltTest : SpielTest {
     void SetUp() override {
-        ini(1);
-        spiel.programmStart(1);
-        spiel.neuesSpiel();
+        starten(1);
         versetzen(feldNummer(2, 4), feldNummer(3, 3));
     }
 };
@@ -69,10 +68,9 @@ TEST(Selbstspiel, SchrittweiseGleichtDemSpielInEinemZug) {
     };
     const Lauf ganz(false), schritte(true);
     EXPECT_FALSE(ganz.ansicht.zuege.empty());
-    EXPECT_EQ(ganz.ansicht.zuege, schritte.ansicht.zuege);
-    EXPECT_EQ(ganz.ansicht.meldungen, schritte.ansicht.meldungen);
-    EXPECT_EQ(ganz.ordner.lies("QZ3.DAT"), schritte.ordner.lies("QZ3.DAT"));
-    EXPECT_EQ(ganz.ordner.lies("QZ.sta"), schritte.ordner.lies("QZ.sta"));
+    EXPECT_EQ(std::tie(ganz.ansicht.zuege, ganz.ansicht.meldungen),
+              std::tie(schritte.ansicht.zuege, schritte.ansicht.meldungen));
+    EXPECT_EQ(test::dateien(ganz.ordner), test::dateien(schritte.ordner));
 }
 
 // A game watched move by move and stopped by "Neu" is abandoned: started, never finished or learned.
@@ -89,8 +87,6 @@ TEST_F(SpielTest, AbgebrochenesSelbstspielWirdNichtAbgelegt) {
     EXPECT_EQ(statistik(0), 0);  // finished never
     EXPECT_EQ(ordner.lies("QZ3.DAT").size(), 0u);
 }
-
-using test::SpielTest;
 
 // The Meister against itself with a short budget: the game ends, never records past the position table,
 // learns like strength 3 and counts as strength 3 in the statistics.

@@ -2,10 +2,12 @@
 //
 // SPDX-License-Identifier: GPL-3.0-or-later
 
+#include <algorithm>
 #include <random>
 
 #include "dateischicht/dateizugriff.h"
 #include "fremde_sperre.h"
+#include "mensch.h"
 #include "spiel_fixture.h"
 
 namespace fuh {
@@ -15,9 +17,7 @@ using test::SpielTest;
 
 // The person plays the hens at strength 2 in single-move mode (no replies), one step before their win.
 void hennenVorDemSieg(SpielTest& t, int16_t Lernmodus) {
-    t.ini(0, 1, Lernmodus, 1);
-    t.spiel.programmStart(1);
-    t.spiel.neuesSpiel();
+    t.starten(0, 1, Lernmodus, 1);
     ASSERT_TRUE(test::hennenVorDemSieg(t.spiel));
 }
 
@@ -38,8 +38,7 @@ TEST_F(SpielTest, HennenGewinnenUndWerdenAbgelegt) {
 // tells the view while it waits, and names both files in one message; neither file changes.
 TEST_F(SpielTest, AblegenWartetEinmalAufEinAnderesProgramm) {
     hennenVorDemSieg(*this, 1);
-    const auto lern = ordner.lies("QZ2.DAT");
-    const auto sta = ordner.lies("QZ.sta");
+    const auto vorher = test::dateien(ordner);
     datei::sperrfristSetzen(std::chrono::milliseconds(300));
     {
         const test::FremdeSperre fremd(ordner.pfad());
@@ -53,8 +52,7 @@ TEST_F(SpielTest, AblegenWartetEinmalAufEinAnderesProgramm) {
                                      "Die Hennen haben gewonnen!",
                                      "Die Dateien „QZ2.DAT“ und „QZ.sta“ konnten nicht gespeichert werden. "
                                      "Das Spiel geht ohne diese Daten weiter."}));
-    EXPECT_EQ(ordner.lies("QZ2.DAT"), lern);
-    EXPECT_EQ(ordner.lies("QZ.sta"), sta);
+    EXPECT_EQ(test::dateien(ordner), vorher);
     // Free again: the next game is counted without a wait; the unsaved one stays uncounted.
     spiel.neuesSpiel();
     EXPECT_EQ(ansicht.wartezeiten, 1);
@@ -64,15 +62,9 @@ TEST_F(SpielTest, AblegenWartetEinmalAufEinAnderesProgramm) {
 
 // After the hens' opening the person's fox steps back and forth in single-move mode.
 TEST_F(SpielTest, ZugbegrenzungIstRemisOhneMeldung) {
-    ini(1, 0, 1, 1); // learning mode on at strength 1: merged into "QZ3.DAT"
-    spiel.programmStart(1);
-    spiel.neuesSpiel();
-    for (int i = 0; i < 200 && spiel.ziehbar(); ++i) {
-        if (i % 2 == 0)
-            ziehe(2, 2, 2, 1);
-        else
-            ziehe(2, 1, 2, 2);
-    }
+    starten(1, 0, 1, 1); // learning mode on at strength 1: merged into "QZ3.DAT"
+    for (int i = 0; i < 200 && spiel.ziehbar(); ++i)
+        ziehe(2, 2 - i % 2, 2, 1 + i % 2); // (2, 2) to (2, 1) and back
     EXPECT_EQ(spiel.spielzug(), 149);
     EXPECT_EQ(spiel.ergebnis(), Ergebnis::remis);
     EXPECT_EQ(ansicht.zugbegrenzungen, 1);
@@ -95,8 +87,7 @@ TEST_F(SpielTest, BeliebigeDateiinhalteFuehrenNieZumAbsturz) {
     std::mt19937 zufallszahlen(42);
     auto muell = [&](std::size_t n) {
         std::vector<unsigned char> b(n);
-        for (auto& c : b)
-            c = static_cast<unsigned char>(zufallszahlen());
+        std::generate(b.begin(), b.end(), [&] { return static_cast<unsigned char>(zufallszahlen()); });
         return b;
     };
     const std::vector<std::array<int16_t, 4>> einstellungen = {

@@ -73,9 +73,15 @@ struct Erreicht {
     int zuruecknahmen = 0, ketten = 0, gefangen = 0, geparkt = 0, zurueck = 0;
 };
 
+Spielstand zurueckgenommen(Spielstand z) {
+    z.zurueckgenommen = true;
+    return z;
+}
+
 // One game of a random player against the computer; every move is taken back, redone, taken back and
 // made anew (see below).
 void partieMitZuruecknahmen(int16_t PC, int16_t Staerke, uint32_t seed, Erreicht& erreicht) {
+    SCOPED_TRACE("seed " + std::to_string(seed));
     TempOrdner ordner;
     Nachbau ansicht;
     Zufall zufall(seed), mensch(seed * 7);
@@ -88,26 +94,22 @@ void partieMitZuruecknahmen(int16_t PC, int16_t Staerke, uint32_t seed, Erreicht
         const std::vector<Aktion> zug = menschZieht(spiel, mensch);
         if (zug.empty() || spiel.endeGefunden()) break;
         spiel.computerZieht(); // a wrong report of either move stays on the view's board
-        ASSERT_TRUE(ansicht.wieDasSpiel()) << "seed " << seed << ", move " << spiel.spielzug();
+        ASSERT_TRUE(ansicht.wieDasSpiel()) << "move " << spiel.spielzug();
         if (spiel.endeGefunden()) break;
         const Spielstand nachher = spiel.zustand();
         const auto bytes = dateien(ordner);
 
         ASSERT_TRUE(spiel.zuruecknehmenMoeglich());
         spiel.zuruecknehmen();
-        Spielstand erwartet = vorher;
-        erwartet.zurueckgenommen = true;
-        ASSERT_TRUE(spiel.zustand() == erwartet)
-            << "seed " << seed << ", position " << vorher.partie.spielzug;
+        ASSERT_TRUE(spiel.zustand() == zurueckgenommen(vorher)) << "position " << vorher.partie.spielzug;
         ASSERT_EQ(dateien(ordner), bytes);
-        ASSERT_TRUE(ansicht.wieDasSpiel()) << "after a take-back, seed " << seed;
+        ASSERT_TRUE(ansicht.wieDasSpiel()) << "after a take-back";
 
         // Redo brings the move and the reply back exactly; then take them back again.
-        erwartet = nachher;
-        erwartet.zurueckgenommen = true;
+        const Spielstand erwartet = zurueckgenommen(nachher);
         ASSERT_TRUE(spiel.wiederholenMoeglich());
         spiel.wiederholen();
-        ASSERT_TRUE(spiel.zustand() == erwartet && ansicht.wieDasSpiel()) << "after a redo, seed " << seed;
+        ASSERT_TRUE(spiel.zustand() == erwartet && ansicht.wieDasSpiel()) << "after a redo";
         ASSERT_FALSE(spiel.wiederholenMoeglich());
         spiel.zuruecknehmen();
 
@@ -115,13 +117,12 @@ void partieMitZuruecknahmen(int16_t PC, int16_t Staerke, uint32_t seed, Erreicht
             ausfuehren(spiel, a);
         spiel.computerZieht();
         ASSERT_FALSE(spiel.wiederholenMoeglich()); // a move made anew: nothing to redo
-        ASSERT_TRUE(spiel.zustand() == erwartet)
-            << "seed " << seed << ", position " << vorher.partie.spielzug;
-        ASSERT_EQ(ansicht.fehler.str(), "") << "seed " << seed;
+        ASSERT_TRUE(spiel.zustand() == erwartet) << "position " << vorher.partie.spielzug;
+        ASSERT_EQ(ansicht.fehler.str(), "");
         ++erreicht.zuruecknahmen;
         erreicht.ketten += zug.size() >= 2; // jumps closed by the right button
     }
-    EXPECT_EQ(ansicht.enden, spiel.endeGefunden() ? 1 : 0) << "seed " << seed;
+    EXPECT_EQ(ansicht.enden, spiel.endeGefunden() ? 1 : 0);
     erreicht.gefangen += ansicht.gefangen;
     erreicht.geparkt += ansicht.geparkt;
     erreicht.zurueck += ansicht.zurueck;
@@ -149,9 +150,7 @@ TEST(Zuruecknahme, StelltDenGanzenStandHerUndDieselbenZuegeFolgen) {
 // A chain of two jumps and the computer's reply are one move: taking it back restores the game as it
 // was before the first jump.
 TEST_F(SpielTest, ZuruecknahmeEinerKetteAusZweiSpruengen) {
-    ini(1);
-    spiel.programmStart(1);
-    spiel.neuesSpiel(); // the hens open
+    starten(1); // the hens open
     versetzen(feldNummer(2, 4), feldNummer(0, 2));
     versetzen(feldNummer(2, 6), feldNummer(1, 2));
     const Spielstand vorher = spiel.zustand();
@@ -162,9 +161,7 @@ TEST_F(SpielTest, ZuruecknahmeEinerKetteAusZweiSpruengen) {
     spiel.sprungfolgeSchliessen();
     ASSERT_TRUE(spiel.computerZieht());
     spiel.zuruecknehmen();
-    Spielstand erwartet = vorher;
-    erwartet.zurueckgenommen = true;
-    EXPECT_TRUE(spiel.zustand() == erwartet);
+    EXPECT_TRUE(spiel.zustand() == zurueckgenommen(vorher));
     EXPECT_FALSE(spiel.zuruecknehmenMoeglich()); // nothing before it
 }
 

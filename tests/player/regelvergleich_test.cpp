@@ -78,16 +78,9 @@ meister::Suchzug alsSuchzug(const Regelzug& z) {
 
 // The verdict of the Meister's board in the game's terms.
 Strafe::Art alsStrafe(meister::Folge f) {
-    switch (f) {
-    case meister::Folge::geparkt:
-        return Strafe::Art::parken;
-    case meister::Folge::zurueck:
-        return Strafe::Art::einsetzen;
-    case meister::Folge::letzterFuchs:
-        return Strafe::Art::letzterFuchs;
-    default:
-        return Strafe::Art::keine;
-    }
+    using A = Strafe::Art;
+    constexpr A art[] = {A::keine, A::parken, A::einsetzen, A::letzterFuchs}; // in the order of Folge
+    return art[static_cast<std::size_t>(f)];
 }
 
 // What the search's end check reads off its board after a move: the move limit and the last fox's
@@ -185,9 +178,9 @@ bool Lauf::zug(Brettfeld& Feld, Partie& partie, int16_t seite, bool mitStrafe) {
     geparkt += Feld[feldX(kParkfeld)][feldY(kParkfeld)] == fuchs;
     const Brettfeld vorher = Feld;
     const int spielzug = partie.spielzug;
+    const auto wo = [&] { return zeige(vorher, seite, spielzug, mitStrafe); };
     const std::vector<Regelzug> zuege = erlaubteZuege(Feld, seite);
-    EXPECT_EQ(regelzuege(Feld, seite), meisterzuege(puffer, Feld, seite))
-        << zeige(vorher, seite, spielzug, mitStrafe);
+    EXPECT_EQ(regelzuege(Feld, seite), meisterzuege(puffer, Feld, seite)) << wo();
     suche(Feld, seite, spielzug, mitStrafe, zuege);
     if (zuege.empty()) {
         // The side found no move: the game records the position once more and ends. The search counts
@@ -195,8 +188,7 @@ bool Lauf::zug(Brettfeld& Feld, Partie& partie, int16_t seite, bool mitStrafe) {
         const Spielausgang a = spielausgang(Feld, seite, true, spielzug + 1);
         gruende.insert(a.begin(), a.end());
         const bool remis = seite == fuchs || spielzug + 1 >= kZugbegrenzung;
-        EXPECT_EQ(a.ergebnis, remis ? Ergebnis::remis : Ergebnis::fuchs)
-            << zeige(vorher, seite, spielzug, mitStrafe);
+        EXPECT_EQ(a.ergebnis, remis ? Ergebnis::remis : Ergebnis::fuchs) << wo();
         return false;
     }
     const Regelzug& z = waehle(zuege, seite);
@@ -207,12 +199,11 @@ bool Lauf::zug(Brettfeld& Feld, Partie& partie, int16_t seite, bool mitStrafe) {
     const Spielfolge f = imSpiel(Feld, partie, z, seite, mitStrafe, gruende);
     letzterFuchs += f.strafe.art == Strafe::Art::letzterFuchs;
     if (f.verdikt) {
-        EXPECT_EQ(alsStrafe(folge), f.strafe.art) << zeige(vorher, seite, spielzug, mitStrafe);
+        EXPECT_EQ(alsStrafe(folge), f.strafe.art) << wo();
         // The empty parking square may read 0 on the Meister's board: only the pieces count.
-        EXPECT_EQ(bild(0, brett.feld()), bild(0, Feld)) << zeige(vorher, seite, spielzug, mitStrafe);
+        EXPECT_EQ(bild(0, brett.feld()), bild(0, Feld)) << wo();
     }
-    EXPECT_EQ(meisterEnde(brett, folge, spielzug + 1, seite), f.ende)
-        << zeige(vorher, seite, spielzug, mitStrafe);
+    EXPECT_EQ(meisterEnde(brett, folge, spielzug + 1, seite), f.ende) << wo();
     return f.ende == Ergebnis::offen && !::testing::Test::HasFailure();
 }
 

@@ -60,27 +60,27 @@ TEST_F(SpielerTest, KeinZugUndEinzigerZug) {
 
 using Strafregeltest = SpielerTest;
 
-// Records the present board as the position after a move.
-void aufzeichnen(Partie& partie, const Brettfeld& Feld, Teilzug zug = {0, 0, 1, 1}) {
-    partie.pstoSits(Feld, zug);
+// Records the present board, then moves the fox from (vx, vy) to (nx, ny) and records that move.
+void fuchsZieht(Partie& partie, Brettfeld& Feld, int16_t vx, int16_t vy, int16_t nx, int16_t ny) {
+    partie.pstoSits(Feld, {0, 0, 1, 1});
+    Feld[vx][vy] = leer;
+    Feld[nx][ny] = fuchs;
+    partie.pstoSits(Feld, {vx, vy, nx, ny});
 }
 
 TEST_F(Strafregeltest, BeideKonntenSpringenDerHoeherStehendeGeht) {
     // Both foxes had a jump before fox 0 stepped from (2, 2); the fox standing higher now is parked,
     // the first one on equal rows. Foxes are matched by their place in the scan order.
     struct Fall {
-        int fuchs1Y;      // the other fox on (4, y) with a hen below it
-        int nachX, nachY; // the fox on (2, 2) steps to here
+        int fuchs1Y;          // the other fox on (4, y) with a hen below it
+        int16_t nachX, nachY; // the fox on (2, 2) steps to here
         Teilzug geparkt;
     };
     for (const Fall f :
          {Fall{4, 1, 2, {1, 2, 0, 0}}, Fall{2, 1, 3, {4, 2, 0, 0}}, Fall{2, 1, 2, {1, 2, 0, 0}}}) {
         Partie p;
         aufstellen({{fuchs, 2, 2}, {henne, 2, 3}, {fuchs, 4, f.fuchs1Y}, {henne, 4, f.fuchs1Y + 1}});
-        aufzeichnen(p, s.Feld);
-        s.Feld[2][2] = leer;
-        s.Feld[f.nachX][f.nachY] = fuchs;
-        aufzeichnen(p, s.Feld, {2, 2, static_cast<int16_t>(f.nachX), static_cast<int16_t>(f.nachY)});
+        fuchsZieht(p, s.Feld, 2, 2, f.nachX, f.nachY);
         const Strafe strafe = strafregel(s.Feld, p, 0);
         EXPECT_EQ(strafe.art, Strafe::Art::parken);
         EXPECT_EQ(strafe.zug, f.geparkt) << f.fuchs1Y << f.nachY;
@@ -92,16 +92,13 @@ TEST_F(Strafregeltest, LetzterFuchsUndRueckkehr) {
     // One fox already parked; the other steps away from a jump: the game must end drawn.
     Partie p;
     aufstellen({{fuchs, 0, 0}, {fuchs, 3, 2}, {henne, 3, 3}});
-    aufzeichnen(p, s.Feld);
-    s.Feld[3][2] = leer;
-    s.Feld[2][2] = fuchs;
-    aufzeichnen(p, s.Feld, {3, 2, 2, 2});
+    fuchsZieht(p, s.Feld, 3, 2, 2, 2);
     EXPECT_EQ(strafregel(s.Feld, p, 0).art, Strafe::Art::letzterFuchs);
 
     // After a fox jump the parked fox returns to the first empty square of rows 2..6, column 0 first:
     // with (0, 2) taken, that is (0, 3), not (1, 2).
     s.Feld[0][2] = henne;
-    aufzeichnen(p, s.Feld, {2, 2, 4, 4});
+    p.pstoSits(s.Feld, {2, 2, 4, 4});
     const Strafe zurueck = strafregel(s.Feld, p, 0);
     EXPECT_EQ(zurueck.art, Strafe::Art::einsetzen);
     EXPECT_EQ(zurueck.zug, (Teilzug{0, 0, 0, 3}));

@@ -6,6 +6,7 @@
 
 #include <cmath>
 #include <gtest/gtest.h>
+#include <numeric>
 
 #include "testdateien.h"
 
@@ -54,15 +55,12 @@ TEST(Bestenliste, ErsterEintragInLeereListe) {
     l.nameSetzen("Jörg");
     ASSERT_TRUE(l.speichern(t.pfad()));
 
-    const B datei = t.lies("QZH.sco");
-    ASSERT_EQ(datei.size(), 290u);
-    const B erwartet0 = {0x00, 0x00, 0x00, 0x00, 0x00, 0xF9, 0xE5, 0x40, // 45000.0
-                         0x32, 0x00,                                     // 50
-                         0x4A, 0xF6, 0x72, 0x67, 0x20, 0x20, 0x20, 0x20,
-                         0x20, 0x20, 0x20, 0x20, 0x20, 0x20, 0x20, // "Jörg" in Windows-1252, blank padded
-                         0x4A, 0x61, 0x20, 0x20};                  // "Ja  "
-    EXPECT_EQ(B(datei.begin(), datei.begin() + 29), erwartet0);
-    EXPECT_EQ(B(datei.begin() + 29, datei.end()), B(261, 0)); // untouched rows stay empty
+    // 45000.0, 50, "Jörg" in Windows-1252 and "Ja", blank padded; the untouched rows stay empty.
+    B erwartet = {0x00, 0x00, 0x00, 0x00, 0x00, 0xF9, 0xE5, 0x40, 0x32, 0x00, 0x4A, 0xF6, 0x72, 0x67};
+    erwartet.resize(25, ' ');
+    erwartet.insert(erwartet.end(), {'J', 'a', ' ', ' '});
+    erwartet.resize(290, 0);
+    EXPECT_EQ(t.lies("QZH.sco"), erwartet);
     EXPECT_EQ(t.namen(), std::vector<std::string>{"QZH.sco"});
 }
 
@@ -164,9 +162,8 @@ TEST(Windows1252, Umwandlung) {
     EXPECT_EQ(nachWindows1252("a漢b😀c\xC3\x28\xC0\x80x\xC3"), "a?b?c?(??x?");
 
     // Every byte survives the way through UTF-8, the unassigned ones too.
-    std::string alle;
-    for (int b = 0; b < 256; ++b)
-        alle += static_cast<char>(b);
+    std::string alle(256, '\0');
+    std::iota(alle.begin(), alle.end(), '\0');
     EXPECT_EQ(nachWindows1252(vonWindows1252(alle)), alle);
 }
 

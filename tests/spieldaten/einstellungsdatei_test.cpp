@@ -62,21 +62,11 @@ TEST(Statistik, ZaehltSpielUndRichtigenSieg) {
         int16_t ergebnis, pc, staerke;
         int zaehler; // the win counter expected to move, or -1
     };
-    const Fall faelle[] = {
-        {2, 0, 0, 2},
-        {2, 2, 1, 3}, // computer foxes
-        {1, 1, 0, 5},
-        {1, 2, 2, 7}, // computer hens
-        {2, 1, 1, 9}, // user foxes
-        {1, 0, 2, 13},
-        {1, 0, 0, 11}, // user hens
-        {3, 0, 1, -1},
-        {3, 2, 2, -1}, // draws
-        // Unchecked settings from the file count the game but no win.
-        {2, 0, -1, -1},
-        {1, 1, 3, -1},
-        {1, 7, 1, -1},
-    };
+    // Computer foxes, computer hens, user foxes, user hens, draws; then unchecked settings from the
+    // file, which count the game but no win.
+    const Fall faelle[] = {{2, 0, 0, 2},  {2, 2, 1, 3},   {1, 1, 0, 5},  {1, 2, 2, 7},
+                           {2, 1, 1, 9},  {1, 0, 2, 13},  {1, 0, 0, 11}, {3, 0, 1, -1},
+                           {3, 2, 2, -1}, {2, 0, -1, -1}, {1, 1, 3, -1}, {1, 7, 1, -1}};
     for (const Fall& f : faelle) {
         SCOPED_TRACE(testing::Message() << f.ergebnis << ' ' << f.pc << ' ' << f.staerke);
         TempOrdner t;
@@ -90,15 +80,11 @@ TEST(Statistik, ZaehltSpielUndRichtigenSieg) {
 
 TEST(Statistik, ZaehlerBleibenImBereich) {
     TempOrdner t;
-    Zaehler z{32767, 32767, 32767};
-    z[14] = 32767;
-    z[15] = 32760;
-    t.schreibe("QZ.sta", bytes(z));
+    t.schreibe("QZ.sta", bytes({32767, 32767, 32767, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 32767, 32760, 0}));
     ASSERT_TRUE(statistik(t.pfad(), 2, Einstellungen{0, 0, 1, 0}, 100));
     ASSERT_TRUE(spielGestartet(t.pfad()));
-    z[16] = 100;
-    z[15] = 32767;
-    EXPECT_EQ(statistikLesen(t.pfad()).zaehler, z);
+    EXPECT_EQ(statistikLesen(t.pfad()).zaehler,
+              (Zaehler{32767, 32767, 32767, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 32767, 32767, 100}));
 }
 
 } // namespace
