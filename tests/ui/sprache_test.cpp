@@ -46,6 +46,22 @@ void waehle(Aufbau& a, const char* sprache) {
     QCoreApplication::processEvents();
 }
 
+// What follows the language: the menu, what the game wrote into the status bar and the board's prompts,
+// the open windows, what a screen reader hears of a number, and Qt's own buttons.
+QString gezeigt(Aufbau& a) {
+    const BrettFenster* f = a.fenster.get();
+    const auto* stat = f->findChild<StatForm*>();
+    const auto* liste = f->findChild<HighscoreFenster*>();
+    return (QStringList()
+            << menue(a, "spiel") << a.panel(3)
+            << a.brett()->findChild<QLabel*>(QStringLiteral("f_zug"))->text()
+            << f->findChild<EinstDialog*>()->findChild<QPushButton*>(QStringLiteral("okKnopf"))->text()
+            << stat->windowTitle() << stat->findChild<QLabel*>(QStringLiteral("wert13"))->accessibleName()
+            << liste->windowTitle() << liste->findChild<QLabel*>(QStringLiteral("sieg0"))->text()
+            << f->findChild<HilfeFenster*>()->browser()->source().fileName() << abbrechenKnopf())
+        .join(QLatin1Char('|'));
+}
+
 } // namespace
 
 class SpracheTest : public QObject {
@@ -69,27 +85,9 @@ class SpracheTest : public QObject {
         a.ersterZug();
         for (const char* fenster : {"Einstellungen", "statistik", "highscoreFuchs", "hilfeZeigen"})
             a.aktion(fenster);
-        const auto* ok =
-            a.fenster->findChild<EinstDialog*>()->findChild<QPushButton*>(QStringLiteral("okKnopf"));
-        const auto* stat = a.fenster->findChild<StatForm*>();
-        const auto* liste = a.fenster->findChild<HighscoreFenster*>();
-        const auto* sieg = liste->findChild<QLabel*>(QStringLiteral("sieg0"));
-        const QTextBrowser* hilfe = a.fenster->findChild<HilfeFenster*>()->browser();
-
-        // The menu, what the game wrote into the status bar and the board's prompts, every open window,
-        // what a screen reader hears of a number, and Qt's own buttons.
-        const auto gezeigt = [&] {
-            return (QStringList() << menue(a, "spiel") << a.panel(3)
-                                  << a.brett()->findChild<QLabel*>(QStringLiteral("f_zug"))->text()
-                                  << ok->text() << stat->windowTitle()
-                                  << stat->findChild<QLabel*>(QStringLiteral("wert13"))->accessibleName()
-                                  << liste->windowTitle() << sieg->text() << hilfe->source().fileName()
-                                  << abbrechenKnopf())
-                .join(QLatin1Char('|'));
-        };
         waehle(a, "sprache_en");
         QCOMPARE(code(gespeicherteSprache()), QStringLiteral("en"));
-        QCOMPARE(gezeigt(),
+        QCOMPARE(gezeigt(a),
                  QStringLiteral("&Game|Points: 237|The foxes are to move.|Apply|Statistics|Player, "
                                 "Total: 0|High scores fox|Yes|ratgeber_en.html|Cancel"));
         test::Antworter antworter; // a message of the game
@@ -100,7 +98,7 @@ class SpracheTest : public QObject {
 
         waehle(a, "sprache_de");
         QCOMPARE(code(gespeicherteSprache()), QStringLiteral("de"));
-        QCOMPARE(gezeigt(),
+        QCOMPARE(gezeigt(a),
                  QStringLiteral("&Spiel|Punkte: 237|Die Füchse sind am Zug.|Übernehmen|Statistik|User, "
                                 "Gesamt: 0|Highscores Fuchs|Ja|ratgeber.html|Abbrechen"));
         // Chosen elsewhere, e.g. in another main window: the menu shows it.
