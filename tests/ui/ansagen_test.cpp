@@ -41,17 +41,14 @@ class AnsagenTest : public QObject {
         taste(a, Qt::Key_Up);
         QCOMPARE(name(brett->focusChild()), QStringLiteral("d5: leer"));
         QCOMPARE(brett->child(brett->indexOfChild(brett->focusChild())), brett->focusChild());
-        QCOMPARE(name(brett->childAt(a.brett()->mapToGlobal(a.mitte(feldNummer(2, 2))).x(),
-                                     a.brett()->mapToGlobal(a.mitte(feldNummer(2, 2))).y())),
-                 QStringLiteral("c5: Fuchs"));
+        const QPoint c5 = a.brett()->mapToGlobal(a.mitte(feldNummer(2, 2)));
+        QCOMPARE(name(brett->childAt(c5.x(), c5.y())), QStringLiteral("c5: Fuchs"));
 
         // A move renames both of its points; a piece sliding over a point does not.
         a.aktion("Neu");
         fahren(a, feldNummer(3, 3));
         QAccessibleInterface* d4 = brett->focusChild();
-        taste(a, Qt::Key_Return);
-        taste(a, Qt::Key_Up);
-        taste(a, Qt::Key_Return);
+        taste(a, Qt::Key_Return, Qt::Key_Up, Qt::Key_Return);
         QCOMPARE(a.spiel().stellung().Feld[3][2], henne);
         QCOMPARE(name(d4), QStringLiteral("d4: leer"));
         QCOMPARE(name(brett->focusChild()), QStringLiteral("d5: Henne"));
@@ -68,23 +65,22 @@ class AnsagenTest : public QObject {
     void computerzugWirdAngesagt() {
         Aufbau a;
         aktivieren(a);
-        a.aktion("Neu");
-        a.ziehe(24, 17);
+        a.ersterZug();
         QSignalSpy gesagt(a.fenster->findChild<Ansage*>(), &Ansage::angesagt);
         a.fenster->zugTakt();
         // The fox that moved, by where it stood and where it stands now.
         const Teilzug& z = a.spiel().zugregister();
-        const QString von = feldName(feldNummer(z.vonX, z.vonY)),
-                      nach = feldName(feldNummer(z.nachX, z.nachY));
+        const QString zug =
+            QStringLiteral("Fuchs %1 nach %2")
+                .arg(feldName(feldNummer(z.vonX, z.vonY)), feldName(feldNummer(z.nachX, z.nachY)));
         // While the computer thinks, its prompt; then its move.
-        QTRY_VERIFY(ansagen(gesagt).contains(QStringLiteral("Fuchs %1 nach %2").arg(von, nach)));
+        QTRY_VERIFY(ansagen(gesagt).contains(zug));
         const QString texte = ansagen(gesagt);
-        QVERIFY(texte.indexOf(QStringLiteral("Die Füchse sind am Zug.")) <
-                texte.indexOf(QStringLiteral("Fuchs %1 nach %2").arg(von, nach)));
+        QVERIFY(texte.indexOf(QStringLiteral("Die Füchse sind am Zug.")) < texte.indexOf(zug));
         // Screen readers hear it as a notification that appears.
         QAccessibleInterface* zugang = QAccessible::queryAccessibleInterface(a.fenster->findChild<Ansage*>());
         QCOMPARE(zugang->role(), QAccessible::Notification);
-        QVERIFY(zugang->text(QAccessible::Name).contains(QStringLiteral("Fuchs %1 nach %2").arg(von, nach)));
+        QVERIFY(zugang->text(QAccessible::Name).contains(zug));
     }
 
     void sprungketteInEinemSatz() {

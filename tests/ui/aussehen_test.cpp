@@ -87,12 +87,10 @@ class AussehenTest : public QObject {
         schreibe(wurzel.filePath(QStringLiteral("weit/thema.ini")), weit);
         const std::vector<Thema> liste = themen(wurzel.path());
         QCOMPARE(liste.size(), 3u); // the game's own classic board, "rot" and "weit"
-        const Thema& rot = liste[1];
-        QCOMPARE(rot.name, QStringLiteral("Rot"));
-        QCOMPARE(rot.rand, QColor(Qt::red));
-        QCOMPARE(rot.zugNach, liste.front().zugNach);
-        QCOMPARE(rot.strich, 3.0);
-        QVERIFY(rot.punkte == liste.front().punkte && rot.figur == liste.front().figur);
+        const Thema &rot = liste[1], &klassisch = liste.front();
+        QVERIFY(std::tuple(rot.name, rot.rand, rot.zugNach, rot.strich, rot.punkte, rot.figur) ==
+                std::tuple(QStringLiteral("Rot"), QColor(Qt::red), klassisch.zugNach, 3.0, klassisch.punkte,
+                           klassisch.figur));
 
         BrettFlaeche brett([] { return true; });
         brett.resize(BrettFlaeche::kSeite, BrettFlaeche::kSeite);
@@ -125,8 +123,7 @@ class AussehenTest : public QObject {
         QCOMPARE(a.brett()->figur(0)->datei(), thema(QStringLiteral("klassisch")).fuchs);
         a.aktion("thema_klassisch");
         QSignalSpy gespielt(a.fenster->findChild<Klaenge*>(), &Klaenge::gespielt);
-        a.aktion("Neu");
-        a.ziehe(24, 17);
+        a.ersterZug();
         a.fenster->zugTakt();
         QCOMPARE(gespielt.size(), 2); // the hen set down, the fox's reply
         a.aktion("ton");
@@ -135,8 +132,7 @@ class AussehenTest : public QObject {
         QVERIFY(gruen(grund(a)));
         QVERIFY(!a.fenster->findChild<Klaenge*>()->an());
         QSignalSpy still(a.fenster->findChild<Klaenge*>(), &Klaenge::gespielt);
-        a.aktion("Neu");
-        a.ziehe(24, 17);
+        a.ersterZug();
         QCOMPARE(still.size(), 0);
     }
 
@@ -177,8 +173,7 @@ class AussehenTest : public QObject {
     // and a take-back its note. (A stored size far larger than the screen: the geometry case below.)
     void ersterStartZeigtJedesStatusfeldGanz() {
         Aufbau a(std::vector<char>{0, 2, 1, 0});
-        a.aktion("Neu");
-        a.ziehe(24, 17);
+        a.ersterZug();
         a.fenster->zugTakt();
         QTRY_VERIFY(!a.fenster->beschaeftigt());
         a.aktion("zurueck"); // the take-back's field shows too
@@ -197,12 +192,11 @@ class AussehenTest : public QObject {
         const auto passt = fenstergeometrie(geometrie(10, 20, 300, 200), frei);
         QVERIFY(passt && passt->unveraendert);
         const auto gross = fenstergeometrie(geometrie(-2000000000, 5, 2000000000, 2000000000, true), frei);
-        QVERIFY(gross && !gross->unveraendert);
-        QCOMPARE(gross->normal, frei);
-        QVERIFY(gross->maximiert);
-        const auto daneben = fenstergeometrie(geometrie(5000, 5000, 300, 200), frei);
-        QVERIFY(daneben);
-        QCOMPARE(daneben->normal, QRect(724, 568, 300, 200));
+        QVERIFY(gross && std::tuple(gross->unveraendert, gross->normal, gross->maximiert) ==
+                             std::tuple(false, frei, true));
+        const auto daneben =
+            fenstergeometrie(geometrie(5000, 5000, 300, 200), frei).value_or(Fenstergeometrie{});
+        QCOMPARE(daneben.normal, QRect(724, 568, 300, 200));
         // What the window itself saves fits and is applied as it is.
         QWidget w;
         w.resize(320, 240);
@@ -217,16 +211,13 @@ class AussehenTest : public QObject {
         const QByteArray alt = qgetenv("XDG_CONFIG_HOME");
         qputenv("XDG_CONFIG_HOME", konfig.path().toLocal8Bit());
         const fs::path datei = basis / kProgrammordner / "fenster.conf";
-        QVERIFY(fensterEinstellungenEinrichten().isEmpty()); // the folder is made
-        QVERIFY(fs::is_directory(datei.parent_path()));
+        QVERIFY(fensterEinstellungenEinrichten().isEmpty() && fs::is_directory(datei.parent_path()));
         std::ofstream(datei) << "[General]\n" << std::string(200000, 'x') << "\n";
-        QStringList w = fensterEinstellungenEinrichten();
-        QCOMPARE(w.size(), 1);
-        QVERIFY(w.front().contains(QStringLiteral("größer als 16 KB")));
-        QVERIFY(!fs::exists(datei));
+        const QStringList w = fensterEinstellungenEinrichten();
+        QVERIFY(w.size() == 1 && w.front().contains(QStringLiteral("größer als 16 KB")) &&
+                !fs::exists(datei));
         QVERIFY(::mkfifo(datei.c_str(), 0600) == 0);
-        w = fensterEinstellungenEinrichten();
-        QCOMPARE(w.size(), 1);
+        QCOMPARE(fensterEinstellungenEinrichten().size(), 1);
         fensterEinstellungen().setValue(QStringLiteral("tempo"), QStringLiteral("schnell")); // never waits
         fensterEinstellungen().sync();
         QVERIFY(fs::is_fifo(datei));

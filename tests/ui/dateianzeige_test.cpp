@@ -7,17 +7,13 @@
 // markup shown literally, a status text shortened to its field with the whole text at hand, and a data folder
 // whose name is not UTF-8, used byte for byte.
 #include <QAccessible>
-#include <QApplication>
 #include <QDate>
 #include <QLabel>
 #include <QLineEdit>
 #include <QLocale>
-#include <QMessageBox>
 #include <QPointer>
-#include <QPushButton>
 #include <QSettings>
 #include <QTemporaryDir>
-#include <QTimer>
 #include <QToolTip>
 #include <QtTest>
 #include <array>
@@ -41,21 +37,10 @@ using Bytes = std::vector<uint8_t>;
 using test::hsSatz;
 using test::kind;
 using test::klick;
+using test::meldungBeantworten;
 using test::spielende;
 using test::TempOrdner;
 using test::text;
-
-void meldungIstKlartext() {
-    auto boxFormat = std::make_shared<Qt::TextFormat>(Qt::AutoText);
-    QTimer::singleShot(0, [boxFormat] {
-        if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
-            *boxFormat = box->textFormat();
-            box->accept();
-        }
-    });
-    meldungZeigen(nullptr, QMessageBox::Warning, QStringLiteral("<b>/tmp/x</b>"));
-    QCOMPARE(*boxFormat, Qt::PlainText);
-}
 
 // Types text key by key; unlike QTest::keyClicks it also takes characters beyond ASCII.
 void tippen(QWidget* w, const QString& text) {
@@ -87,12 +72,11 @@ class DateianzeigeTest : public QObject {
         QCOMPARE(gezeigt.join(QLatin1Char(' ')),
                  QStringLiteral("45 5 6 300 17 4 5 6 1 2 3 10 11 12 7 8 9 21 57"));
         // A screen reader hears what each number stands for.
-        const auto name = [&f](const char* kind) {
-            return test::kind(f, QString::fromLatin1(kind))->accessibleName();
-        };
-        QCOMPARE(name("gestartet"), QStringLiteral("Spiele gesamt: 45"));
-        QCOMPARE(name("wert4"), QStringLiteral("Computer, Fuchs, Stärke 2: 2"));
-        QCOMPARE(name("wert13"), QStringLiteral("User, Gesamt: 57"));
+        QStringList namen;
+        for (const char* feld : {"gestartet", "wert4", "wert13"})
+            namen << kind(f, QString::fromLatin1(feld))->accessibleName();
+        QCOMPARE(namen.join(QLatin1Char('|')),
+                 QStringLiteral("Spiele gesamt: 45|Computer, Fuchs, Stärke 2: 2|User, Gesamt: 57"));
         klick(f, "okKnopf");
         QVERIFY(f.isNull());
     }
@@ -136,21 +120,13 @@ class DateianzeigeTest : public QObject {
         QCOMPARE(kind<QLabel>(w, "aufforderung")->buddy(), kind(w, "nameEingabe1"));
 
         // Escape and the close button ask first: "Zurück zur Liste" keeps the entry, "Verwerfen" drops it.
-        auto antworten = [](const QString& knopf) {
-            QTimer::singleShot(0, [knopf] {
-                auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-                QVERIFY(box);
-                for (QAbstractButton* b : box->buttons())
-                    if (b->text().remove(QLatin1Char('&')) == knopf) b->click();
-            });
-        };
-        antworten(QStringLiteral("Zurück zur Liste"));
+        meldungBeantworten(QStringLiteral("Zurück zur Liste"));
         QTest::keyClick(kind(w, "nameEingabe1"), Qt::Key_Escape);
         QVERIFY(w && w->isVisible());
-        antworten(QStringLiteral("Zurück zur Liste"));
+        meldungBeantworten(QStringLiteral("Zurück zur Liste"));
         w->close();
         QVERIFY(w && w->isVisible());
-        antworten(QStringLiteral("Verwerfen"));
+        meldungBeantworten(QStringLiteral("Verwerfen"));
         QTest::keyClick(kind(w, "nameEingabe1"), Qt::Key_Escape);
         QVERIFY(!w || !w->isVisible());
         QCOMPARE(dir.lies("QZF.sco"), vorher);
@@ -175,14 +151,15 @@ class DateianzeigeTest : public QObject {
         Oeffentlich spiel;
         HighscoreFenster w(Seite::Fuchs, spiel, dir.pfad());
         w.show();
-        for (int i = 0; i < 3; ++i)
-            QCOMPARE(text(&w, QStringLiteral("datum%1").arg(i)), QString());
-        QCOMPARE(text(&w, "user2"), QStringLiteral("Weit"));
+        QCOMPARE(text(&w, "datum0") + text(&w, "datum1") + text(&w, "datum2") + text(&w, "user2"),
+                 QStringLiteral("Weit"));
         QCOMPARE(text(&w, "user0") + text(&w, "sieg0"), QStringLiteral("<img src=f><b>J"));
         for (const char* zelle : {"user0", "sieg0"})
             QCOMPARE(kind<QLabel>(&w, QString::fromLatin1(zelle))->textFormat(), Qt::PlainText);
         QCOMPARE(kind(&w, "score0")->accessibleName(), QStringLiteral("1. Punkte: 9")); // row and column
-        meldungIstKlartext();
+        const auto meldung = meldungBeantworten();
+        meldungZeigen(nullptr, QMessageBox::Warning, QStringLiteral("<b>/tmp/x</b>"));
+        QCOMPARE(meldung->format, Qt::PlainText);
     }
 
     // A status text too long for its field is shown shortened with "…"; the whole text, escaped, is its

@@ -102,6 +102,14 @@ struct Aufbau {
         QVERIFY(QTest::qWaitForWindowExposed(fenster.get()));
     }
     std::filesystem::path pfad() const { return ordner.path().toStdString(); }
+    // Where the running game is kept between starts, and the offer of the one kept there.
+    std::filesystem::path zustand() const { return pfad() / "zustand"; }
+    void anbieten() { fenster->fortsetzenAnbieten(zustand()); }
+    // A new game, the hen on 24 dragged to 17.
+    void ersterZug() {
+        aktion("Neu");
+        ziehe(24, 17);
+    }
     Spiel& spiel() { return fenster->spiel(); }
     BrettFlaeche* brett() { return fenster->brett(); }
     void aktion(const char* name) {

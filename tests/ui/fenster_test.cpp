@@ -4,13 +4,9 @@
 
 // The settings dialog driven like a user, on the offscreen platform: what it shows, writes and hands
 // back, and a settings file or high-score list that cannot be written.
-#include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
-#include <QMessageBox>
 #include <QPointer>
-#include <QPushButton>
-#include <QTimer>
 #include <QtTest>
 
 #include "game/spiel.h"
@@ -26,20 +22,9 @@ namespace {
 using Bytes = std::vector<uint8_t>;
 using test::kind;
 using test::klick;
+using test::meldungBeantworten;
 using test::spielende;
 using test::TempOrdner;
-
-// Accepts the next message box as soon as it runs; returns where its title will be.
-std::shared_ptr<QString> meldungAnnehmen() {
-    auto titel = std::make_shared<QString>();
-    QTimer::singleShot(0, [titel] {
-        if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
-            *titel = box->windowTitle() + QLatin1Char('|') + box->text();
-            box->accept();
-        }
-    });
-    return titel;
-}
 
 } // namespace
 
@@ -148,10 +133,11 @@ class FensterTest : public QObject {
         dir.schreibe("keinOrdner", {});
         const auto ordner = dir.pfad() / "keinOrdner";
         Einst e(ordner);
-        auto meldung = meldungAnnehmen();
+        auto meldung = meldungBeantworten();
         klick(e.d, "okKnopf");
-        QVERIFY2(meldung->startsWith(QStringLiteral("Fuchs und Hennen|")) && meldung->contains("QZ.INI"),
-                 qPrintable(*meldung));
+        const QString& gezeigt = meldung->titelUndText;
+        QVERIFY2(gezeigt.startsWith(QStringLiteral("Fuchs und Hennen|")) && gezeigt.contains("QZ.INI"),
+                 qPrintable(gezeigt));
         // The settings still apply to the game being played.
         QCOMPARE(e.uebernommen, 1);
         QCOMPARE(e.status.size(), 2);
@@ -161,9 +147,9 @@ class FensterTest : public QObject {
         Oeffentlich spiel = spielende(3);
         QPointer<HighscoreFenster> w = new HighscoreFenster(Seite::Hennen, spiel, ordner);
         w->show();
-        meldung = meldungAnnehmen();
+        meldung = meldungBeantworten();
         klick(w, "okKnopf");
-        QVERIFY(meldung->startsWith(QStringLiteral("Fuchs und Hennen|")));
+        QVERIFY(meldung->titelUndText.startsWith(QStringLiteral("Fuchs und Hennen|")));
         QVERIFY(w && w->isVisible());
         delete w;
     }

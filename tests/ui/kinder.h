@@ -4,10 +4,13 @@
 
 #pragma once
 // A window's named children, as the window tests find, read and click them.
-#include <QCoreApplication>
+#include <QApplication>
 #include <QLabel>
+#include <QMessageBox>
 #include <QPushButton>
 #include <QTest>
+#include <QTimer>
+#include <memory>
 
 namespace fuh::test {
 
@@ -25,6 +28,26 @@ inline QString text(QWidget* w, const QString& name) {
 inline void klick(QWidget* w, const char* knopf) {
     QTest::mouseClick(kind<QPushButton>(w, QString::fromLatin1(knopf)), Qt::LeftButton);
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
+// The message box that opens next, as it showed.
+struct Meldung {
+    QString titelUndText; // "title|text"
+    Qt::TextFormat format = Qt::AutoText;
+};
+
+// Answers the next message box as soon as it runs: with the button labelled `knopf`, or OK.
+inline std::shared_ptr<Meldung> meldungBeantworten(const QString& knopf = {}) {
+    auto meldung = std::make_shared<Meldung>();
+    QTimer::singleShot(0, [meldung, knopf] {
+        auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        QVERIFY(box);
+        *meldung = {box->windowTitle() + QLatin1Char('|') + box->text(), box->textFormat()};
+        for (QAbstractButton* b : box->buttons())
+            if (b->text().remove(QLatin1Char('&')) == knopf) return b->click();
+        box->accept();
+    });
+    return meldung;
 }
 
 } // namespace fuh::test

@@ -52,15 +52,13 @@ void einzelneFensterKommenNachVorn(Aufbau& a) {
 
 // Lists and statistics are made fresh each time; the game may open a list on its own.
 void listenUndStatistikNeu(Aufbau& a) {
-    a.aktion("statistik");
-    a.aktion("statistik");
-    a.aktion("highscoreFuchs");
-    a.aktion("highscoreHennen");
+    for (const char* name : {"statistik", "statistik", "highscoreFuchs", "highscoreHennen"})
+        a.aktion(name);
     a.fenster->oeffnen(Fenster::highf);
     QTRY_VERIFY(!a.fenster->beschaeftigt());
-    QCOMPARE(offene<StatForm>(*a.fenster), 1);
-    QCOMPARE(offene<HighscoreFenster>(*a.fenster), 2);
-    QCOMPARE(a.fenster->findChildren<HighscoreFenster*>().size(), 2);
+    QCOMPARE(std::tuple(offene<StatForm>(*a.fenster), offene<HighscoreFenster>(*a.fenster),
+                        a.fenster->findChildren<HighscoreFenster*>().size()),
+             std::tuple(1, 2, qsizetype{2}));
     QVERIFY(QApplication::activeModalWidget() == nullptr);
 }
 

@@ -33,16 +33,12 @@ namespace {
 // The effective user becomes `nobody` while the object lives, when the tests run as root: root may
 // remove files from a folder nobody may write.
 struct AlsNiemand {
-    AlsNiemand() {
-        if (::geteuid() != 0) return;
-        aktiv = ::setegid(65534) == 0 && ::seteuid(65534) == 0;
-    }
+    const bool aktiv = ::geteuid() == 0 && ::setegid(65534) == 0 && ::seteuid(65534) == 0;
     ~AlsNiemand() {
         if (!aktiv) return;
         static_cast<void>(::seteuid(0));
         static_cast<void>(::setegid(0));
     }
-    bool aktiv = false;
 };
 
 // The player's game is begun and one hen moved.
@@ -65,6 +61,19 @@ void zuEndeSpielen(Aufbau& a, uint32_t seed) {
     QVERIFY(a.spiel().endeGefunden());
 }
 
+// Lets the main loop run once: the application ending after a signal then ends for the tests that
+// follow, since any dialog would return at once meanwhile.
+void schleifeEinmal() {
+    QTimer::singleShot(0, qApp, &QCoreApplication::quit);
+    QCoreApplication::exec();
+}
+
+// Games finished and started, as the statistics count them.
+std::pair<int, int> partien(Aufbau& a) {
+    const auto s = statistikLesen(a.pfad());
+    return {s.beendet(), s.gestartet()};
+}
+
 // Counts the paint events of a widget that arrive while the busy cursor shows.
 class Malzaehler : public QObject {
   public:
@@ -84,11 +93,9 @@ class PartieFensterTest : public QObject {
     // A game continued after the window was closed.
     void nachDemNeustartFortsetzen() {
         Aufbau a;
-        const fs::path zustand = a.pfad() / "zustand";
-        const fs::path datei = zustand / "partie";
-        a.fenster->fortsetzenAnbieten(zustand); // nothing saved: no question
-        a.aktion("Neu");
-        a.ziehe(24, 17);
+        const fs::path datei = a.zustand() / "partie";
+        a.anbieten(); // nothing saved: no question
+        a.ersterZug();
         a.fenster->zugTakt();
         const Sicherung vorher = a.spiel().sicherung();
 
@@ -106,7 +113,7 @@ class PartieFensterTest : public QObject {
             QCOMPARE(fs::file_size(datei), gespeichert);
             box->button(QMessageBox::Yes)->click();
         });
-        a.fenster->fortsetzenAnbieten(zustand);
+        a.anbieten();
         QVERIFY(a.spiel().sicherung() == vorher);
         QVERIFY(!fs::exists(datei));
         bilderPruefen(a);
@@ -114,7 +121,7 @@ class PartieFensterTest : public QObject {
         // "Nein", here by Escape, drops it; a window without a running game leaves no file.
         a.starten();
         QTimer::singleShot(0, [] { QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Escape); });
-        a.fenster->fortsetzenAnbieten(zustand);
+        a.anbieten();
         QVERIFY(!a.spiel().laeuft());
         a.starten();
         QVERIFY(!fs::exists(datei));
@@ -124,39 +131,30 @@ class PartieFensterTest : public QObject {
     // while the next start asks about it is the real program's test, programm_pruefen.)
     void signalBehaeltDiePartie() {
         Aufbau a;
-        const fs::path zustand = a.pfad() / "zustand";
-        const fs::path datei = zustand / "partie";
-        a.fenster->fortsetzenAnbieten(zustand);
-        a.aktion("Neu");
-        a.ziehe(24, 17);
+        a.anbieten();
+        a.ersterZug();
         const Sicherung vorher = a.spiel().sicherung();
         signaleBeendenLassen(*qApp);
         QTimer::singleShot(0, [] { ::raise(SIGTERM); }); // unhandled, it would end the test
         QCOMPARE(QCoreApplication::exec(), 0);
         QVERIFY(beendenVerlangt());
         a.starten(); // the window goes as it does when the program ends
-        QVERIFY(fs::exists(datei));
-        Partieablage naechster(zustand);
         std::vector<std::string> keine;
-        const auto angebot = naechster.holen(keine);
+        const auto angebot = Partieablage(a.zustand()).holen(keine);
         QVERIFY(angebot.sicherung && *angebot.sicherung == vorher);
-        // The application is ending now, and any dialog would return at once; a run of the main loop
-        // ends that for the tests that follow.
-        QTimer::singleShot(0, qApp, &QCoreApplication::quit);
-        QCoreApplication::exec();
+        schleifeEinmal();
     }
 
     // The computer against itself, shown move by move: continued, it plays on to the end by itself.
     void selbstspielFortsetzen() {
         Aufbau a(std::vector<char>{2, 0, 0, 0}, Tempo::normal);
-        const fs::path zustand = a.pfad() / "zustand";
-        a.fenster->fortsetzenAnbieten(zustand);
+        a.anbieten();
         a.aktion("Neu");
         QVERIFY(a.spiel().selbstspielLaeuft());
         a.starten();
         a.fenster->tempoSetzen(Tempo::sofort);
         Antworter antworter; // "Ja" to the question, OK to the announcement of the end
-        a.fenster->fortsetzenAnbieten(zustand);
+        a.anbieten();
         QTRY_VERIFY(a.spiel().endeGefunden());
         QCOMPARE(statistikLesen(a.pfad()).beendet(), int16_t{1});
     }
@@ -167,8 +165,8 @@ class PartieFensterTest : public QObject {
         AlsNiemand niemand;
         Antworter antworter;
         Aufbau a({{0, 0, 0, 0}});
-        const fs::path zustand = a.pfad() / "zustand";
-        a.fenster->fortsetzenAnbieten(zustand);
+        const fs::path zustand = a.zustand();
+        a.anbieten();
         einZug(*a.fenster);
         a.starten();
         QVERIFY(fs::exists(zustand / "partie"));
@@ -176,20 +174,21 @@ class PartieFensterTest : public QObject {
         if (::faccessat(AT_FDCWD, zustand.c_str(), W_OK, AT_EACCESS) == 0)
             QSKIP("the folder stays writable (root without nobody)");
 
-        a.fenster->fortsetzenAnbieten(zustand); // "Ja"
-        QCOMPARE(antworter.fragen, 1);
-        QCOMPARE(antworter.anzahl(QStringLiteral("kann nicht entfernt werden")), 1);
+        const auto gefragtUndGesagt = [&] {
+            return std::pair{antworter.fragen,
+                             antworter.anzahl(QStringLiteral("kann nicht entfernt werden"))};
+        };
+        a.anbieten(); // "Ja"
+        QCOMPARE(gefragtUndGesagt(), std::pair(1, 1));
         zuEndeSpielen(a, 5);
         a.starten();
-        a.fenster->fortsetzenAnbieten(zustand);
-        QCOMPARE(antworter.fragen, 1);
-        QCOMPARE(antworter.anzahl(QStringLiteral("kann nicht entfernt werden")), 1);
-        QCOMPARE(statistikLesen(a.pfad()).beendet(), int16_t{1});
-        QCOMPARE(statistikLesen(a.pfad()).gestartet(), int16_t{1});
+        a.anbieten();
+        QCOMPARE(gefragtUndGesagt(), std::pair(1, 1));
+        QCOMPARE(partien(a), std::pair(1, 1));
         // Writable again: the marked file goes at the next start, unasked, and with it the mark.
         fs::permissions(zustand, fs::perms::owner_all);
         a.starten();
-        a.fenster->fortsetzenAnbieten(zustand);
+        a.anbieten();
         QCOMPARE(antworter.fragen, 1);
         QVERIFY(!fs::exists(zustand / "partie"));
         QVERIFY(!fensterEinstellungen().contains(QStringLiteral("uebernommen")));
@@ -220,14 +219,12 @@ class PartieFensterTest : public QObject {
     void volleFestplatteWirdGenannt() {
         Aufbau a;
         Antworter antworter;
-        const fs::path zustand = a.pfad() / "zustand";
-        a.fenster->fortsetzenAnbieten(zustand);
+        a.anbieten();
         einZug(*a.fenster);
         std::signal(SIGXFSZ, SIG_IGN);
         rlimit alt{};
         ::getrlimit(RLIMIT_FSIZE, &alt);
-        rlimit klein = alt;
-        klein.rlim_cur = 16;
+        const rlimit klein{16, alt.rlim_max};
         ::setrlimit(RLIMIT_FSIZE, &klein);
         const bool geschlossen = a.fenster->close();
         ::setrlimit(RLIMIT_FSIZE, &alt);
@@ -235,7 +232,7 @@ class PartieFensterTest : public QObject {
         QCOMPARE(antworter.anzahl(QString::fromLocal8Bit(std::strerror(EFBIG))), 1);
         QVERIFY(a.fenster->close());
         QCOMPARE(antworter.texte.size(), std::size_t{1});
-        QVERIFY(fs::exists(zustand / "partie"));
+        QVERIFY(fs::exists(a.zustand() / "partie"));
     }
 
     // Another program holds the data folder while the finished game is filed: the window keeps painting
@@ -244,8 +241,8 @@ class PartieFensterTest : public QObject {
     void signalWaehrendDesAblegens() {
         Antworter antworter;
         Aufbau a({{0, 0, 0, 0}});
-        const fs::path zustand = a.pfad() / "zustand";
-        a.fenster->fortsetzenAnbieten(zustand);
+        const fs::path datei = a.zustand() / "partie";
+        a.anbieten();
         a.aktion("Neu");
         signaleBeendenLassen(*qApp);
         datei::sperrfristSetzen(std::chrono::milliseconds(400));
@@ -259,10 +256,7 @@ class PartieFensterTest : public QObject {
             QTimer wache;
             QObject::connect(&wache, &QTimer::timeout, [&] {
                 a.brett()->update();
-                if (!gesendet && maler.anzahl > 0) {
-                    gesendet = true;
-                    ::raise(SIGTERM);
-                }
+                if (!gesendet && maler.anzahl > 0) gesendet = ::raise(SIGTERM) == 0;
             });
             wache.start(10);
             zuEndeSpielen(a, 7);
@@ -271,19 +265,17 @@ class PartieFensterTest : public QObject {
         datei::sperrfristSetzen(std::chrono::milliseconds(5000));
         QVERIFY(beendenVerlangt());
         QVERIFY(a.spiel().offeneAblage());
-        QCOMPARE(statistikLesen(a.pfad()).beendet(), int16_t{0});
-        const int16_t gestartet = statistikLesen(a.pfad()).gestartet();
+        const int gestartet = partien(a).second;
+        QCOMPARE(partien(a).first, 0);
         a.fenster.reset(); // the program ends
-        QVERIFY(fs::exists(zustand / "partie"));
+        QVERIFY(fs::exists(datei));
 
         a.starten();
-        a.fenster->fortsetzenAnbieten(zustand); // filed, without a question
+        a.anbieten(); // filed, without a question
         QCOMPARE(antworter.fragen, 0);
-        QCOMPARE(statistikLesen(a.pfad()).beendet(), int16_t{1});
-        QCOMPARE(statistikLesen(a.pfad()).gestartet(), gestartet);
-        QVERIFY(!fs::exists(zustand / "partie"));
-        QTimer::singleShot(0, qApp, &QCoreApplication::quit);
-        QCoreApplication::exec();
+        QCOMPARE(partien(a), std::pair(1, gestartet));
+        QVERIFY(!fs::exists(datei));
+        schleifeEinmal();
     }
 };
 

@@ -26,8 +26,9 @@ inline void aktivieren(Aufbau& a) {
     QVERIFY(QTest::qWaitForWindowActive(a.fenster.get()));
 }
 
-inline void taste(Aufbau& a, Qt::Key k) {
-    QTest::keyClick(a.brett(), k);
+// The keys pressed on the board one after the other.
+template <class... Tasten> void taste(Aufbau& a, Tasten... k) {
+    (QTest::keyClick(a.brett(), k), ...);
 }
 
 // Moves the keyboard cursor to `ziel` with the arrow keys only, along the cross.

@@ -55,8 +55,7 @@ class TastaturTest : public QObject {
         taste(a, Qt::Key_Space);
         QVERIFY(a.brett()->ziehtGerade());
         QCOMPARE(name(d4), QStringLiteral("d4: Henne, aufgenommen"));
-        taste(a, Qt::Key_Up);
-        taste(a, Qt::Key_Escape);
+        taste(a, Qt::Key_Up, Qt::Key_Escape);
         QVERIFY(!a.brett()->ziehtGerade());
         QCOMPARE(name(d4), QStringLiteral("d4: Henne"));
         taste(a, Qt::Key_Return); // the cursor's point is empty: nothing to pick up

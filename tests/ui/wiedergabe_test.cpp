@@ -55,8 +55,7 @@ class WiedergabeTest : public QObject {
   private slots:
     void computerzugGleitetSichtbar() {
         Aufbau a(std::nullopt, Tempo::normal);
-        a.aktion("Neu");
-        a.ziehe(24, 17);
+        a.ersterZug();
 
         // Halfway through the fox's slide the player tries to move a hen and to start a game.
         std::vector<Schritt> schritte;
