@@ -35,7 +35,6 @@ void BrettFenster::zeigen(const Ereignis& e) {
         break;
     case Ereignis::Art::status:
         panelSetzen(static_cast<Statusfeld>(e.a), e.text);
-        if (e.a == static_cast<int>(Statusfeld::zuruecknahme)) panel(e.a)->setVisible(!e.text.leer());
         break;
     case Ereignis::Art::zugbegrenzung:
         zugbegrenzungZeigen();

@@ -209,9 +209,9 @@ void BrettFenster::statusleisteAnlegen() {
         auto* label = new Statustext(leiste);
         label->setObjectName(QStringLiteral("panel%1").arg(i + 1));
         leiste->addWidget(label, anteile[i]);
+        label->hide(); // until the game has something to say there
         panels_[i] = label;
     }
-    panels_.back()->hide(); // only a game with a move taken back says so
     ansage_ = new Ansage(*brett_, leiste);
     leiste->addWidget(ansage_, 1);
 }

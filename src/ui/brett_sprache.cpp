@@ -75,6 +75,8 @@ void BrettFenster::panelSetzen(Statusfeld feld, const Text& text) {
     const auto i = static_cast<size_t>(feld) - 1;
     panelTexte_.at(i) = text;
     panels_.at(i)->setText(uebersetzt(text));
+    // An empty field would still take its share of the bar from the others.
+    panels_.at(i)->setVisible(!text.leer());
 }
 
 void BrettFenster::zugbegrenzungZeigen() {

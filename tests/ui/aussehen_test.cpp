@@ -184,6 +184,20 @@ class AussehenTest : public QObject {
         }
     }
 
+    void schmalesFensterZeigtDieGefuelltenFelderGanz() {
+        // The fields without text give their share of the bar to the others: at the board's smallest
+        // size the bar says whole who plays and how strongly.
+        Aufbau a(std::vector<char>{0, 2, 1, 0});
+        a.fenster->resize(400, a.fenster->height());
+        QTRY_COMPARE(a.fenster->width(), 400);
+        for (int i = 1; i <= 4; ++i) {
+            const auto* feld = a.fenster->findChild<Statustext*>(QStringLiteral("panel%1").arg(i));
+            QCOMPARE(feld->isVisible(), i <= 2);
+            QCOMPARE(feld->text().isEmpty(), i > 2);
+            QTRY_COMPARE(feld->sichtbarerText(), feld->text());
+        }
+    }
+
     void fenstergeometrieLesen() {
         const QRect frei(0, 0, 1024, 768);
         for (const QByteArray& kaputt :
