@@ -25,44 +25,45 @@ constexpr std::array<int, kQuadrate> kPlatz = {
     0,  0,  0,  0,  0,  0,  0,  //
 };
 
-} // namespace
+struct Fuchslage {
+    int bedroht = 0;  // hens a fox can jump
+    int schritte = 0; // steps the foxes have, a square counted once for each fox
+};
 
 Fuchslage fuchslage(const Suchbrett& b) {
     const Linien& l = linien();
+    const uint64_t leer = b.leereFelder();
     Fuchslage lage;
     uint64_t gesehen = 0;
     for (int8_t s : b.fuchsFeld) {
         if (s < 0 || !l.kreuz[s]) continue;
+        lage.schritte += std::popcount(l.nachbarn[s] & leer);
         for (int r = 0; r < 8; ++r) {
-            const int8_t t = l.schritt[s][r];
-            if (t == kKeiner) continue;
-            if (b.f[t] == leer) ++lage.schritte;
-            const int8_t ziel = l.sprung[s][r];
-            if (ziel != kKeiner && b.f[t] == henne && b.f[ziel] == leer) gesehen |= uint64_t{1} << t;
+            const int8_t mitte = l.mitte[s][r];
+            if (mitte == kKeiner) continue;
+            if ((b.hennenMaske >> mitte & 1) != 0 && (leer >> l.sprung[s][r] & 1) != 0)
+                gesehen |= uint64_t{1} << mitte;
         }
     }
     lage.bedroht = std::popcount(gesehen);
     return lage;
 }
 
+} // namespace
+
 int bewerte(const Suchbrett& b, const Gewichte& g, int spielzug) {
     const Linien& l = linien();
     int platz = 0;
-    for (int s = 0; s < kQuadrate; ++s)
-        if (b.f[s] == henne) platz += kPlatz[s];
+    for (uint64_t m = b.hennenMaske; m != 0; m &= m - 1)
+        platz += kPlatz[std::countr_zero(m)];
     const int kern = std::min<int>(b.hennen, g.satt), reserve = std::max(0, b.hennen - g.satt);
     const int eile = 100 + g.eile * std::clamp(spielzug, 0, kZugende) / kZugende;
     int wert = (kern - g.hennenMitte) * g.henne + reserve * g.reserve + platz * g.platz / 100 * eile / 100;
     // Target squares that no hen can step onto next are the ones the foxes keep open.
-    for (int s = 0; s < kQuadrate; ++s) {
-        if (!l.ziel[s] || b.f[s] == henne) continue;
+    for (uint64_t m = l.zielMaske & ~b.hennenMaske; m != 0; m &= m - 1) {
+        const int s = std::countr_zero(m);
         if (b.f[s] == fuchs) wert -= g.fuchsImZiel;
-        bool erreichbar = false;
-        for (int r = 0; r < 8 && !erreichbar; ++r) {
-            const int8_t t = l.schritt[s][r];
-            erreichbar = t != kKeiner && t / 7 >= s / 7 && b.f[t] == henne;
-        }
-        if (!erreichbar) wert -= g.luecke;
+        if ((l.herkunft[s] & b.hennenMaske) == 0) wert -= g.luecke;
     }
     if (b.geparkt()) wert += g.geparkt;
     const Fuchslage fl = fuchslage(b);

@@ -4,6 +4,8 @@
 
 #include "player/meister_brett.h"
 
+#include <bit>
+
 #include "board/regeln.h"
 
 namespace fuh::meister {
@@ -23,12 +25,14 @@ std::array<int8_t, 2> scanFolge(const std::array<int8_t, 2>& f) {
     return f;
 }
 
-Linien baueLinien() {
+constexpr Linien baueLinien() {
     Linien l;
     for (int s = 0; s < kQuadrate; ++s) {
         const int x = s % 7, y = s / 7;
         l.kreuz[s] = aufKreuz(x, y);
         l.ziel[s] = imZielfeld(x, y);
+        if (l.kreuz[s]) l.kreuzMaske |= uint64_t{1} << s;
+        if (l.ziel[s]) l.zielMaske |= uint64_t{1} << s;
         int r = 0, h = 0;
         l.hennenschritt[s].fill(kKeiner);
         for (int dx = -1; dx <= 1; ++dx)
@@ -41,6 +45,9 @@ Linien baueLinien() {
                 l.mitte[s][r] = static_cast<int8_t>(sprung ? quadrat(x + dx, y + dy) : kKeiner);
                 l.sprung[s][r] = static_cast<int8_t>(sprung ? quadrat(x + 2 * dx, y + 2 * dy) : kKeiner);
                 if (schritt && dy <= 0) l.hennenschritt[s][h++] = l.schritt[s][r];
+                if (schritt) l.nachbarn[s] |= uint64_t{1} << quadrat(x + dx, y + dy);
+                if (sprung) l.sprungMitten[s] |= uint64_t{1} << quadrat(x + dx, y + dy);
+                if (schritt && dy >= 0) l.herkunft[s] |= uint64_t{1} << quadrat(x + dx, y + dy);
                 ++r;
             }
     }
@@ -51,7 +58,7 @@ Linien baueLinien() {
 struct Zobrist {
     std::array<std::array<uint64_t, 2>, kQuadrate> teil{};
     uint64_t seite = 0;
-    Zobrist() {
+    constexpr Zobrist() {
         uint64_t z = 0x46554348u;
         auto naechste = [&z] {
             uint64_t v = (z += 0x9E3779B97F4A7C15ull);
@@ -64,20 +71,17 @@ struct Zobrist {
         seite = naechste();
     }
 };
-const Zobrist& zobrist() {
-    static const Zobrist z;
-    return z;
-}
+constexpr Zobrist kZobrist;
+constexpr Linien kLinien = baueLinien();
 
 } // namespace
 
 const Linien& linien() {
-    static const Linien l = baueLinien();
-    return l;
+    return kLinien;
 }
 
 uint64_t seitenschluessel() {
-    return zobrist().seite;
+    return kZobrist.seite;
 }
 
 uint64_t Suchzug::geschlagen() const {
@@ -104,17 +108,26 @@ bool Suchzug::gleich(const Suchzug& z) const {
     return true;
 }
 
+uint64_t Suchbrett::leereFelder() const {
+    uint64_t besetzt = hennenMaske;
+    for (int8_t s : fuchsFeld)
+        if (s >= 0) besetzt |= uint64_t{1} << s;
+    return kLinien.kreuzMaske & ~besetzt;
+}
+
 void Suchbrett::setze(int feld, int8_t code) {
     const int8_t alt = f[feld];
-    if (alt == henne || alt == fuchs) schluessel ^= zobrist().teil[feld][alt - henne];
+    if (alt == henne || alt == fuchs) schluessel ^= kZobrist.teil[feld][alt - henne];
     if (alt == henne) {
         --hennen;
+        hennenMaske &= ~(uint64_t{1} << feld);
         if (linien().ziel[feld]) --imZiel;
     }
     f[feld] = code;
-    if (code == henne || code == fuchs) schluessel ^= zobrist().teil[feld][code - henne];
+    if (code == henne || code == fuchs) schluessel ^= kZobrist.teil[feld][code - henne];
     if (code == henne) {
         ++hennen;
+        hennenMaske |= uint64_t{1} << feld;
         if (linien().ziel[feld]) ++imZiel;
     }
 }
@@ -138,7 +151,7 @@ Suchbrett Suchbrett::aus(const Brettfeld& Feld, bool fuchsAmZug) {
             }
         }
     b.fuchsAmZug = fuchsAmZug;
-    if (fuchsAmZug) b.schluessel ^= zobrist().seite;
+    if (fuchsAmZug) b.schluessel ^= kZobrist.seite;
     return b;
 }
 
@@ -152,8 +165,8 @@ Brettfeld Suchbrett::feld() const {
 int Suchbrett::hennenzuege(Suchzug* aus) const {
     const Linien& l = linien();
     int n = 0;
-    for (int s = 0; s < kQuadrate; ++s) {
-        if (f[s] != henne) continue;
+    for (uint64_t m = hennenMaske; m != 0; m &= m - 1) {
+        const int s = std::countr_zero(m);
         for (int8_t t : l.hennenschritt[s]) {
             if (t == kKeiner) break;
             if (f[t] != leer || n >= kHoechstZuege) continue;
@@ -167,12 +180,10 @@ int Suchbrett::hennenzuege(Suchzug* aus) const {
 }
 
 bool Suchbrett::kannSpringen(int feld) const {
-    if (feld < 0 || !linien().kreuz[feld]) return false;
-    const Linien& l = linien();
-    for (int r = 0; r < 8; ++r) {
-        const int m = l.mitte[feld][r];
-        if (m != kKeiner && f[m] == henne && f[l.sprung[feld][r]] == leer) return true;
-    }
+    if (feld < 0 || !kLinien.kreuz[feld]) return false;
+    // A jump lands as far beyond the hen as the fox stands before it.
+    for (uint64_t m = kLinien.sprungMitten[feld] & hennenMaske; m != 0; m &= m - 1)
+        if (f[2 * std::countr_zero(m) - feld] == leer) return true;
     return false;
 }
 
@@ -203,7 +214,7 @@ int Suchbrett::fuchszuege(Suchzug* aus, bool nurSpruenge) const {
     int n = 0;
     Suchbrett arbeit = *this;
     for (int8_t s : fuchsFeld) {
-        if (s < 0 || !l.kreuz[s]) continue;
+        if (!kannSpringen(s)) continue;
         Suchzug z;
         z.von = s;
         arbeit.f[s] = leer; // the fox has left its square while it jumps
@@ -274,7 +285,7 @@ Folge Suchbrett::ziehe(const Suchzug& z, bool strafregel) {
         }
     }
     fuchsAmZug = !fuchsAmZug;
-    schluessel ^= zobrist().seite;
+    schluessel ^= kZobrist.seite;
     return folge;
 }
 

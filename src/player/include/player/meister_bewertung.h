@@ -27,11 +27,4 @@ struct Gewichte {
 // `spielzug`: positions recorded so far; progress counts for more as the move limit nears.
 int bewerte(const Suchbrett& b, const Gewichte& g, int spielzug);
 
-// Hens a fox could jump at once (each counted once), and the fox steps there are.
-struct Fuchslage {
-    int bedroht = 0;
-    int schritte = 0;
-};
-Fuchslage fuchslage(const Suchbrett& b);
-
 } // namespace fuh::meister

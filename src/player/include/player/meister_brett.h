@@ -24,8 +24,13 @@ struct Linien {
     std::array<std::array<int8_t, 8>, kQuadrate> mitte{};
     std::array<std::array<int8_t, 8>, kQuadrate> sprung{};
     std::array<std::array<int8_t, 5>, kQuadrate> hennenschritt{}; // up or sideways, kKeiner filled
+    std::array<uint64_t, kQuadrate> nachbarn{};                   // the squares of `schritt`, one bit each
+    std::array<uint64_t, kQuadrate> sprungMitten{};               // the squares of `mitte`, one bit each
+    std::array<uint64_t, kQuadrate> herkunft{}; // the neighbours a hen can step onto this square from
     std::array<bool, kQuadrate> kreuz{};
     std::array<bool, kQuadrate> ziel{};
+    uint64_t kreuzMaske = 0; // the cross, one bit a square
+    uint64_t zielMaske = 0;  // the target area
 };
 const Linien& linien();
 
@@ -53,6 +58,7 @@ enum class Folge : uint8_t {
 struct Suchbrett {
     std::array<int8_t, kQuadrate> f{}; // codes as in Brettfeld
     std::array<int8_t, 2> fuchsFeld{kKeiner, kKeiner};
+    uint64_t hennenMaske = 0; // the hens' squares, one bit each
     int8_t hennen = 0;
     int8_t imZiel = 0;
     bool fuchsAmZug = false;
@@ -61,6 +67,7 @@ struct Suchbrett {
     static Suchbrett aus(const Brettfeld& Feld, bool fuchsAmZug);
     Brettfeld feld() const;
     bool geparkt() const { return fuchsFeld[0] == kParkfeld || fuchsFeld[1] == kParkfeld; }
+    uint64_t leereFelder() const; // the empty squares of the cross, one bit each
 
     int hennenzuege(Suchzug* aus) const;
     int fuchszuege(Suchzug* aus, bool nurSpruenge = false) const; // chains first, then steps
