@@ -38,12 +38,7 @@ Fuchslage fuchslage(const Suchbrett& b) {
     for (int8_t s : b.fuchsFeld) {
         if (s < 0 || !l.kreuz[s]) continue;
         lage.schritte += std::popcount(l.nachbarn[s] & leer);
-        for (int r = 0; r < 8; ++r) {
-            const int8_t mitte = l.mitte[s][r];
-            if (mitte == kKeiner) continue;
-            if ((b.hennenMaske >> mitte & 1) != 0 && (leer >> l.sprung[s][r] & 1) != 0)
-                gesehen |= uint64_t{1} << mitte;
-        }
+        gesehen |= b.springbar(s);
     }
     lage.bedroht = std::popcount(gesehen);
     return lage;

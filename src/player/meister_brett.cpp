@@ -179,12 +179,13 @@ int Suchbrett::hennenzuege(Suchzug* aus) const {
     return n;
 }
 
-bool Suchbrett::kannSpringen(int feld) const {
-    if (feld < 0 || !kLinien.kreuz[feld]) return false;
+uint64_t Suchbrett::springbar(int feld) const {
+    if (feld < 0 || !kLinien.kreuz[feld]) return 0;
+    uint64_t hennen = 0;
     // A jump lands as far beyond the hen as the fox stands before it.
     for (uint64_t m = kLinien.sprungMitten[feld] & hennenMaske; m != 0; m &= m - 1)
-        if (f[2 * std::countr_zero(m) - feld] == leer) return true;
-    return false;
+        if (f[2 * std::countr_zero(m) - feld] == leer) hennen |= m & -m;
+    return hennen;
 }
 
 // Every chain of jumps from `pos`, each shorter chain being a move of its own. A route that takes the

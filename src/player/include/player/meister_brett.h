@@ -71,7 +71,8 @@ struct Suchbrett {
 
     int hennenzuege(Suchzug* aus) const;
     int fuchszuege(Suchzug* aus, bool nurSpruenge = false) const; // chains first, then steps
-    bool kannSpringen(int feld) const;
+    uint64_t springbar(int feld) const; // the hens a fox on `feld` can jump at once, one bit each
+    bool kannSpringen(int feld) const { return springbar(feld) != 0; }
     // Plays the move and hands the turn over; with `strafregel` a fox that missed a jump is parked and a
     // parked fox returns after a jump, as the game does at the start of the hens' next turn.
     Folge ziehe(const Suchzug& z, bool strafregel);
