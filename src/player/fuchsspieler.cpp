@@ -13,6 +13,7 @@
 #include "board/regeln.h"
 #include "board/sprung.h"
 #include "board/zahlen.h"
+#include "board/zugliste.h"
 
 namespace fuh {
 
@@ -35,13 +36,6 @@ int fangbonus(int x, int y) {
     default:
         return 0;
     }
-}
-
-// Moves the fox on a board; a jump also takes the hen it passes over.
-void fuchsZiehen(Brettfeld& Feld, const Teilzug& z) {
-    Feld[z.vonX][z.vonY] = leer;
-    Feld[z.nachX][z.nachY] = fuchs;
-    if (z.sprung()) Feld[z.vonX + (z.nachX - z.vonX) / 2][z.vonY + (z.nachY - z.vonY) / 2] = leer;
 }
 
 // One turn of the fox player. It plays its choice on `Feld`, its own board: the live board's copy in
@@ -168,7 +162,7 @@ void Fuchsrechnung::zugLeer(int x, int y, int i) {
 void Fuchsrechnung::psffigzug(int i) {
     const int v = zugwert_[5 * i];
     Brettfeld psffig = Feld_;
-    fuchsZiehen(psffig, eintragZug(i));
+    teilzugAusfuehren(psffig, eintragZug(i));
     const int r = (*erinnerung_)(psffig, fuchs);
     zugwert_[5 * i] = static_cast<int16_t>(std::clamp(v + r, 1, 32767));
 }
@@ -200,7 +194,7 @@ std::optional<Teilzug> Fuchsrechnung::zugAuswahl() {
 // Plays a chosen move on the board and notes it in the choice; false when nothing was chosen.
 bool Fuchsrechnung::spiele(std::optional<Teilzug> z, Zugwahl& wahl) {
     if (!z) return false;
-    fuchsZiehen(Feld_, *z);
+    teilzugAusfuehren(Feld_, *z);
     wahl.anhaengen(*z);
     return true;
 }

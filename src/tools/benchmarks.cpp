@@ -14,6 +14,7 @@
 #include <sstream>
 
 #include "board/regeln.h"
+#include "board/zugliste.h"
 #include "game/spiel.h"
 #include "memory/lerndatei.h"
 #include "player/meister.h"
@@ -168,11 +169,8 @@ fuh::Brettfeld meisterStellung(int plies) {
     m.grenzen(2000, 0);
     for (int ply = 0; ply < plies; ++ply) {
         const int16_t seite = ply % 2 == 0 ? fuh::henne : fuh::fuchs;
-        for (const fuh::Teilzug& z : m.berechne({feld, seite, ply, false})) {
-            feld[z.nachX][z.nachY] = feld[z.vonX][z.vonY];
-            feld[z.vonX][z.vonY] = fuh::leer;
-            if (z.sprung()) feld[(z.vonX + z.nachX) / 2][(z.vonY + z.nachY) / 2] = fuh::leer;
-        }
+        for (const fuh::Teilzug& z : m.berechne({feld, seite, ply, false}))
+            fuh::teilzugAusfuehren(feld, z);
     }
     return feld;
 }

@@ -9,6 +9,7 @@
 #include <optional>
 
 #include "board/regeln.h"
+#include "board/zugliste.h"
 #include "memory/partie.h"
 #include "player/strafregel.h"
 
@@ -76,8 +77,7 @@ std::optional<Ausgang> Partieleitung::hennenZug(Zugquelle& q, std::vector<double
     const Teilzug z = *w.begin();
     if (w.anzahl != 1 || !korrekterZug(Feld_, Seite::Hennen, {}, z.vonX, z.vonY, z.nachX, z.nachY))
         return Ausgang::ungueltig;
-    Feld_[z.nachX][z.nachY] = henne;
-    Feld_[z.vonX][z.vonY] = leer;
+    teilzugAusfuehren(Feld_, z);
     return aufzeichnen(z, std::nullopt);
 }
 
@@ -90,9 +90,7 @@ std::optional<Ausgang> Partieleitung::fuchsZug(Zugquelle& q, std::vector<double>
             return Ausgang::ungueltig;
         const bool springt = z.sprung();
         if (!springt && w.anzahl > 1) return Ausgang::ungueltig; // a step ends the turn alone
-        if (springt) Feld_[(z.vonX + z.nachX) / 2][(z.vonY + z.nachY) / 2] = leer;
-        Feld_[z.nachX][z.nachY] = fuchs;
-        Feld_[z.vonX][z.vonY] = leer;
+        teilzugAusfuehren(Feld_, z);
         sprung = {springt, z.nachX, z.nachY};
     }
     return aufzeichnen(*(w.end() - 1), std::nullopt);
