@@ -202,6 +202,11 @@ bool Lauf::zug(Brettfeld& Feld, Partie& partie, int16_t seite, bool mitStrafe) {
         EXPECT_EQ(alsStrafe(folge), f.strafe.art) << wo();
         // The empty parking square may read 0 on the Meister's board: only the pieces count.
         EXPECT_EQ(bild(0, brett.feld()), bild(0, Feld)) << wo();
+        // What the board keeps up to date move by move is what a board set up afresh has.
+        const auto frisch = meister::Suchbrett::aus(Feld, brett.fuchsAmZug);
+        EXPECT_EQ(std::tie(brett.hennenMaske, brett.hennen, brett.imZiel, brett.schluessel),
+                  std::tie(frisch.hennenMaske, frisch.hennen, frisch.imZiel, frisch.schluessel))
+            << wo();
     }
     EXPECT_EQ(meisterEnde(brett, folge, spielzug + 1, seite), f.ende) << wo();
     return f.ende == Ergebnis::offen && !::testing::Test::HasFailure();
