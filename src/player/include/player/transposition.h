@@ -5,7 +5,10 @@
 #pragma once
 // A fixed-size table of searched positions, keyed by a hash of the position code and the side to move.
 #include <cstdint>
-#include <vector>
+#include <cstdlib>
+#include <memory>
+#include <new>
+#include <type_traits>
 
 namespace fuh::meister {
 
@@ -20,10 +23,18 @@ struct Eintrag {
     uint8_t rest = 0;                       // moves left before the move limit, capped at 255
 };
 
+// Zero bytes make an empty entry, which is how a new table starts.
+static_assert(Grenze{} == Grenze::leer && std::is_trivially_copyable_v<Eintrag>);
+
 class Transposition {
   public:
+    // The entries come zeroed from the system, page by page as the search first touches them, so a new
+    // table costs nothing until it is used and its first use is paid inside the search's own clock.
     explicit Transposition(int bits = 20)
-        : eintraege_(std::size_t{1} << bits), maske_((uint64_t{1} << bits) - 1) {}
+        : eintraege_(static_cast<Eintrag*>(std::calloc(std::size_t{1} << bits, sizeof(Eintrag)))),
+          maske_((uint64_t{1} << bits) - 1) {
+        if (!eintraege_) throw std::bad_alloc();
+    }
 
     // The entry for the key, or nullptr. Entries searched close to the move limit count only for the
     // same distance to it, since the limit may have decided them.
@@ -41,12 +52,15 @@ class Transposition {
         e = neu;
     }
     void leeren() {
-        for (Eintrag& e : eintraege_)
-            e = Eintrag{};
+        for (uint64_t i = 0; i <= maske_; ++i)
+            eintraege_[i] = Eintrag{};
     }
 
   private:
-    std::vector<Eintrag> eintraege_;
+    struct Freigabe {
+        void operator()(Eintrag* p) const { std::free(p); }
+    };
+    std::unique_ptr<Eintrag[], Freigabe> eintraege_;
     uint64_t maske_;
 };
 
