@@ -180,6 +180,21 @@ TEST(Meister, LetzterFuchsVerpasstEinenSprung) {
     EXPECT_EQ(suche(brett(figuren), fuchs, 3).zuege[0], (Teilzug{4, 2, 4, 4}));
 }
 
+TEST(Meister, FuechseNehmenDasRemisHennenNicht) {
+    // The last fox on the cross can jump the hen below it, after which seventeen hens lead; missing the
+    // jump on purpose draws the game. The foxes take the draw; the hens would not.
+    const std::initializer_list<Platz> figuren = {{0, 0, 0},  {1, 3, 3},  {2, 3, 4},  {3, 2, 0},  {4, 3, 0},
+                                                  {5, 4, 0},  {6, 2, 1},  {7, 3, 1},  {8, 4, 1},  {9, 2, 2},
+                                                  {10, 4, 2}, {11, 0, 2}, {12, 6, 2}, {13, 1, 3}, {14, 5, 3},
+                                                  {15, 2, 4}, {16, 4, 4}, {17, 0, 4}, {18, 6, 4}};
+    Meister m(7);
+    EXPECT_FALSE(suche(brett(figuren), fuchs, 3, 10, &m).zuege[0].sprung());
+    EXPECT_EQ(m.bericht().wert, 0);
+    // At the move limit every move draws: nothing lost for the foxes, a loss of value for the hens.
+    suche(brett(figuren), henne, 3, kZugbegrenzung - 1, &m);
+    EXPECT_LT(m.bericht().wert, 0);
+}
+
 using meister::Zeitplan;
 
 TEST(MeisterZeit, NaechsteTiefeNachPrognose) {

@@ -22,7 +22,10 @@ inline constexpr int kMatt = 30000;
 inline constexpr int kEntschieden = kMatt - 200; // values beyond this are a won or lost game
 inline constexpr int kPlies = 64;
 using fuh::kZugbegrenzung;
-inline constexpr int kKontempt = 1000; // a draw is worth this little to the side the search plays
+// What a draw is worth to the side the search plays, below an even position. The hens win most games
+// between equal players and play on for the win; the foxes take a draw at its face value.
+inline constexpr int kKontemptHennen = 1000;
+inline constexpr int kKontemptFuechse = 0;
 
 struct Auftrag {
     Suchbrett brett;
@@ -57,7 +60,10 @@ class Suche {
     bool nachZug(const Suchbrett& kind, Folge folge, int spielzug, int ply, int& wert) const;
     bool tafelWert(const Suchbrett& b, int ply, int spielzug, int& wert) const;
     bool tafelzug(int n, Ergebnis& erg);
-    int remis(bool fuchsAmZug) const { return fuchsAmZug == wurzelFuchs_ ? -kKontempt : kKontempt; }
+    int remis(bool fuchsAmZug) const {
+        const int kontempt = wurzelFuchs_ ? kKontemptFuechse : kKontemptHennen;
+        return fuchsAmZug == wurzelFuchs_ ? -kontempt : kontempt;
+    }
     int statisch(const Suchbrett& b, int spielzug) const;
     void ordne(const Suchbrett& b, int ply, int n, const Eintrag* e);
     int waehle(int ply, int von, int n);
