@@ -181,7 +181,7 @@ TEST(Meister, LetzterFuchsVerpasstEinenSprung) {
 }
 
 TEST(Meister, FuechseNehmenDasRemisHennenNicht) {
-    // The last fox on the cross can jump the hen below it, after which seventeen hens lead; missing the
+    // The last fox on the cross can jump the hen below it, after which sixteen hens still lead; missing the
     // jump on purpose draws the game. The foxes take the draw; the hens would not.
     const std::initializer_list<Platz> figuren = {{0, 0, 0},  {1, 3, 3},  {2, 3, 4},  {3, 2, 0},  {4, 3, 0},
                                                   {5, 4, 0},  {6, 2, 1},  {7, 3, 1},  {8, 4, 1},  {9, 2, 2},
